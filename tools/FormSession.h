@@ -1,0 +1,33 @@
+// A form file in memory together with the translators that walk it.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "Qft/Qft.h"
+#include "framework/streaming/LoadedForm.h"
+
+class TFormSession
+{
+public:
+    // Loads a form with stand-ins for the classes that are not known here. No
+    // window is shown. Errors: EFormFileError, EFOpenError.
+    TFormSession(const std::string& FileName, int CodePage);
+
+    const TFormDocument& Document() const { return FForm.Document(); }
+    TFormDocument Save() const { return FForm.Save(); }
+
+    // One for the form and one for each frame on it, in the order of the file.
+    // They are switched off.
+    const std::vector<TFormTranslator*>& Translators() const { return FTranslators; }
+
+    // The name that stands before the keys of a translator's owner.
+    static std::string SectionOf(const TFormTranslator& Translator);
+
+private:
+    void AddTranslators(TComponent& Owner);
+
+    TLoadedForm FForm;
+    std::vector<TFormTranslator*> FTranslators;
+};

@@ -1,0 +1,29 @@
+// orbilex: form files and their translations on the command line.
+#include <iostream>
+
+#include "framework/forms/Application.h"
+#include "framework/forms/StandardClasses.h"
+#include "tools/Commands.h"
+
+int main(int ArgumentCount, char** Arguments)
+{
+    CLI::App Program{"Lists, converts and translates form files.\n"
+                     "Exit code: 0 fine, 1 findings, 2 wrong use or bad input."};
+    Program.name("orbilex");
+    Program.require_subcommand(1);
+    auto Outcome = TOutcome::Fine;
+    AddListCommand(Program, Outcome);
+    AddRoundtripCommand(Program, Outcome);
+    AddTranslateCommand(Program, Outcome);
+    try {
+        TApplicationScope Scope;
+        RegisterStandardClasses();
+        Program.parse(ArgumentCount, Arguments);
+    } catch (const CLI::ParseError& Error) {
+        return Program.exit(Error) == 0 ? 0 : static_cast<int>(TOutcome::BadInput);
+    } catch (const std::exception& Error) {
+        std::cerr << Error.what() << "\n";
+        return static_cast<int>(TOutcome::BadInput);
+    }
+    return static_cast<int>(Outcome);
+}
