@@ -9,6 +9,9 @@
 
 #include "framework/rtl/Component.h"
 
+class TReader;
+class TWriter;
+
 // Before a translation; Skip, which comes as false, cancels it.
 OBX_EVENT(TTranslateEvent, TObject*, bool&)
 // After a translation.

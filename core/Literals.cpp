@@ -96,9 +96,20 @@ void ConvertFromLiterals(std::string& S)
     S.resize(To);
 }
 
+void AssignFromLiterals(std::string& Result, std::string_view Text)
+{
+    // Nearly every value is one quoted run without apostrophes.
+    if (Text.size() >= 2 && Text[0] == '\'' && Text.find('\'', 1) == Text.size() - 1) {
+        Result.assign(Text, 1, Text.size() - 2);
+        return;
+    }
+    Result.assign(Text);
+    ConvertFromLiterals(Result);
+}
+
 std::string FromLiterals(std::string_view Text)
 {
-    std::string Result(Text);
-    ConvertFromLiterals(Result);
+    std::string Result;
+    AssignFromLiterals(Result, Text);
     return Result;
 }

@@ -24,6 +24,8 @@ void ConvertFromLiterals(std::string& S);
 // The same on copies.
 std::string ToLiterals(std::string_view Text);
 std::string FromLiterals(std::string_view Text);
+// Result := FromLiterals(Text), for callers that keep a buffer.
+void AssignFromLiterals(std::string& Result, std::string_view Text);
 
 // Appends the literal form of Text.
 void AppendLiterals(std::string& Result, std::string_view Text);

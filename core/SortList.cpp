@@ -17,13 +17,14 @@ bool TextLess(const TLine& A, const TLine& B)
     return A.Text < B.Text;
 }
 
-// The indexes of Lines in the order of their texts.
-std::vector<size_t> SortedTurn(const std::vector<TLine>& Lines)
+// Puts the indexes of Lines into the order of their texts.
+void SortTurn(std::vector<size_t>& Turn, const std::vector<TLine>& Lines)
 {
-    std::vector<size_t> Result(Lines.size());
-    std::iota(Result.begin(), Result.end(), size_t{0});
-    SortNearlySorted(Result, [&](size_t A, size_t B) { return TextLess(Lines[A], Lines[B]); });
-    return Result;
+    if (Turn.empty()) {
+        Turn.resize(Lines.size());
+        std::iota(Turn.begin(), Turn.end(), size_t{0});
+    }
+    SortNearlySorted(Turn, [&](size_t A, size_t B) { return TextLess(Lines[A], Lines[B]); });
 }
 
 }  // namespace
@@ -71,22 +72,22 @@ void TSortList::SortInsert(const std::string& S, TObject* Object)
     TStringList::Insert(Index, S, Object);
 }
 
-void TSortList::SortInsertAll(std::vector<TLine> Lines)
+void TSortList::SortInsertAll(std::vector<TLine> Lines, std::vector<size_t> Turn)
 {
     if (Lines.empty())
         return;
     if (Lines.size() == 1)
         SortInsert(Lines[0].Text, Lines[0].Object);
-    else if (!IsInOrder() || !MergeUnambiguous(Lines))
+    else if (!IsInOrder() || !MergeUnambiguous(Lines, std::move(Turn)))
         InsertOneByOne(std::move(Lines));
 }
 
 // Merges when the outcome does not depend on the turn in which lines come: there
 // are no equal lines with different objects, and in the unique variant no equal
 // lines at all. Otherwise nothing is changed.
-bool TSortList::MergeUnambiguous(std::vector<TLine>& Lines)
+bool TSortList::MergeUnambiguous(std::vector<TLine>& Lines, std::vector<size_t> Turn)
 {
-    const std::vector<size_t> Turn = SortedTurn(Lines);
+    SortTurn(Turn, Lines);
     const auto Ambiguous = [this](const TLine& A, const TLine& B) {
         return A.Text == B.Text && (FKind == skUnique || A.Object != B.Object);
     };

@@ -34,8 +34,9 @@ public:
     void SortInsert(const std::string& S, TObject* Object);
 
     // Gives the list, texts and objects, that SortInsert would give for one line
-    // after the other, in about the time of sorting them.
-    void SortInsertAll(std::vector<TLine> Lines);
+    // after the other, in about the time of sorting them. Turn may give their
+    // indexes in an order that is expected to be that of the texts.
+    void SortInsertAll(std::vector<TLine> Lines, std::vector<size_t> Turn = {});
 
     // Whether every line is at its place. The answer is kept until the list
     // changes, and most changes keep it valid.
@@ -69,7 +70,7 @@ private:
     bool Fits(int Before, std::string_view S, int After) const;
     TOrder OrderWith(int Before, std::string_view S, int After) const;
     void InsertOneByOne(std::vector<TLine> Lines);
-    bool MergeUnambiguous(std::vector<TLine>& Lines);
+    bool MergeUnambiguous(std::vector<TLine>& Lines, std::vector<size_t> Turn);
 
     TSortKind FKind;
     mutable TOrder FOrder = TOrder::InOrder;

@@ -1,7 +1,7 @@
-#include "fuzz/FormCheck.h"
-
 #include <cstddef>
 #include <cstdint>
+
+#include "fuzz/FormCheck.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Data, std::size_t Size)
 {

@@ -1,11 +1,11 @@
 // What must hold for every form file that a reader accepts.
 #pragma once
 
-#include "framework/streaming/FormBinary.h"
-#include "framework/streaming/FormText.h"
-
 #include <cstdlib>
 #include <iostream>
+
+#include "framework/streaming/FormBinary.h"
+#include "framework/streaming/FormText.h"
 
 inline void Require(bool Condition, const char* What)
 {
@@ -21,6 +21,7 @@ inline void CheckText(const TFormDocument& Document, const TFormTextProfile& Pro
 {
     TFormFileOptions Options;
     Options.CodePage = Profile.CodePage;
+    Options.DetectUtf8 = Profile.Encoding != TFormEncoding::CodePage;
     std::string Text;
     try {
         Text = WriteFormText(Document, Profile);

@@ -36,7 +36,8 @@ public:
     // The first character, whose length CharLength tells; None when it is undefined.
     char32_t Decode(std::string_view Bytes) const
     {
-        return CharLength(Bytes) == 2 ? Pair(Bytes[0], Bytes[1]) : Singles[static_cast<unsigned char>(Bytes[0])];
+        return CharLength(Bytes) == 2 ? Pair(Bytes[0], Bytes[1])
+                                      : Singles[static_cast<unsigned char>(Bytes[0])];
     }
 
     // The one or two bytes of a character, lead byte high; nothing when it has none.
@@ -55,7 +56,7 @@ private:
 
     std::array<char32_t, 256> Singles{};
     std::array<bool, 256> LeadBytes{};
-    std::vector<char32_t> Pairs;  // by lead byte * 256 + trail byte; empty for one-byte code pages
+    std::vector<char32_t> Pairs; // by lead byte * 256 + trail byte; empty for one-byte code pages
     std::unordered_map<char32_t, std::uint16_t> Codes;
 
     friend struct TCodePageLoader;

@@ -28,4 +28,6 @@
 
 #include "platform/portable/commctrl.h"
 
+#undef ERROR
+
 #endif

@@ -1,11 +1,12 @@
-// orbilex: form files and their translations on the command line.
+#include "tools/Orbilex.h"
+
 #include <iostream>
 
 #include "framework/forms/Application.h"
 #include "framework/forms/StandardClasses.h"
 #include "tools/Commands.h"
 
-int main(int ArgumentCount, char** Arguments)
+int RunOrbilex(int ArgumentCount, const char* const* Arguments)
 {
     CLI::App Program{"Lists, converts and translates form files.\n"
                      "Exit code: 0 fine, 1 findings, 2 wrong use or bad input."};

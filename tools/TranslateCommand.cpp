@@ -36,7 +36,7 @@ int Apply(const TTranslateOptions& Options, TFormSession& Session)
     return Lines;
 }
 
-TOutcome Restore(const TTranslateOptions& Options, const std::string& FileName, TFormSession& Session)
+TOutcome Restore(const std::string& FileName, TFormSession& Session)
 {
     int Changed = 0;
     for (TFormTranslator* const Translator : Session.Translators()) {
@@ -46,7 +46,6 @@ TOutcome Restore(const TTranslateOptions& Options, const std::string& FileName, 
     const bool Same = WriteForm(Session.Save()) == ReadWholeFile(FileName);
     std::cerr << FileName << ": " << Changed << " properties translated, restoring gives "
               << (Same ? "the original bytes" : "other bytes than the original") << "\n";
-    (void)Options;
     return Same ? TOutcome::Fine : TOutcome::Findings;
 }
 
@@ -64,7 +63,7 @@ TOutcome Translate(const TTranslateOptions& Options, const std::string& FileName
         std::cout.write(Translated.data(), static_cast<std::streamsize>(Translated.size()));
     else
         ReplaceWholeFile(Options.Output, Translated);
-    return Options.Restore ? std::max(Outcome, Restore(Options, FileName, Session)) : Outcome;
+    return Options.Restore ? std::max(Outcome, Restore(FileName, Session)) : Outcome;
 }
 
 }  // namespace

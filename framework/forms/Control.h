@@ -128,6 +128,7 @@ public:
 public:
 
     // Questions of published rows.
+    bool IsAnchorsStored() const;
     bool IsCaptionStored() const;
     bool IsColorStored() const { return !FParentColor; }
     bool IsEnabledStored() const;
@@ -188,6 +189,9 @@ public:
     // DT_ flags of the reading order, to be added when texts are drawn.
     UINT DrawTextBiDiModeFlags(UINT Flags) const;
 
+    // Called by Margins and Padding.
+    void MarginsChanged(const TMargins* Sender);
+
     // Called by the action that the control is linked to.
     TControlActionLink* ActionLink() const { return FActionLink.get(); }
     virtual void ActionChange(TBasicAction* Sender, bool CheckDefaults);
@@ -229,7 +233,6 @@ protected:
     virtual void ConstrainedResize(int& MinWidth, int& MinHeight, int& MaxWidth, int& MaxHeight);
     virtual void AdjustClientRect(TRect&) const {}
     virtual void Resize();
-    virtual void RequestAlignChild() {}
     virtual void VisibleChanging() {}
     virtual std::unique_ptr<TControlActionLink> CreateActionLink();
     // The context to draw the control in, and the window it belongs to.
@@ -251,13 +254,19 @@ protected:
     void SetMouseCapture(bool Value);
     void SendCancelMode(TControl* Sender);
     void InvalidateControl(bool IsVisible, bool IsOpaque);
-    void UpdateBoundsRect(const TRect& Value);
+    // Runs the hook and WndProc.
+    void Process(TMessage& Message);
     // True while the form's texts are read; no side effects then.
     bool IsLoading() const { return HasState(csLoading); }
 
     TControlStyle FControlStyle;
     TControlState FControlState;
-    TFont* MutableFont() { return FFont.get(); }
+    bool CheckNewSize(int& NewWidth, int& NewHeight);
+
+    int FLeft = 0;
+    int FTop = 0;
+    int FWidth = 0;
+    int FHeight = 0;
 
 private:
     void DispatchMouse(TMessage& Message);
@@ -268,15 +277,15 @@ private:
     void TakeParentFont();
     void TakeParentColor();
     void TakeParentShowHint();
+    void TakeParentBiDiMode();
+    void ConstraintsChanged(TObject* Sender);
+    bool HasWindow() const;
+    void DragTo(const TPoint& Pos);
+    void EndDragAt(const TPoint& Pos);
+    static void ForgetControl(const TControl* Control);
     void ActionLinkChange(TObject* Sender);
-    bool CheckNewSize(int& NewWidth, int& NewHeight);
-    void DefineExplicitBounds(TFiler& Filer);
 
     TWinControl* FParent = nullptr;
-    int FLeft = 0;
-    int FTop = 0;
-    int FWidth = 0;
-    int FHeight = 0;
     std::string FText;
     std::string FHint;
     std::string FHelpKeyword;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "framework/forms/Menus.h"
 #include "framework/forms/WinControl.h"
 
 namespace ControlRows {

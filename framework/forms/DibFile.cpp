@@ -11,6 +11,7 @@ constexpr size_t InfoHeaderSize = 40;
 constexpr size_t IconHeaderSize = 6;
 constexpr size_t IconEntrySize = 16;
 constexpr int MaxSide = 32767;
+constexpr DWORD WithPixels = 4;  // CreateDIBitmap fills the bitmap
 
 uint32_t Number(std::string_view Bytes, size_t Offset, size_t Count)
 {
@@ -83,7 +84,7 @@ std::optional<TDib> ParseDib(std::string_view Bytes, size_t PixelsAt, bool IsIco
 HBITMAP MakeBitmap(const TDib& Dib)
 {
     const HDC Screen = GetDC(nullptr);
-    const HBITMAP Result = CreateDIBitmap(Screen, &Dib.Header()->bmiHeader, CBM_INIT, Dib.Pixels.data(), Dib.Header(),
+    const HBITMAP Result = CreateDIBitmap(Screen, &Dib.Header()->bmiHeader, WithPixels, Dib.Pixels.data(), Dib.Header(),
                                           DIB_RGB_COLORS);
     ReleaseDC(nullptr, Screen);
     return Result;

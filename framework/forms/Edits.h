@@ -93,8 +93,8 @@ public:
     using TCustomEdit::TCustomEdit;
 };
 
-// A TEdit with a picture at either end in later editions; here its buttons are
-// kept for their form files only.
+// An edit with the events of a button at either end. The buttons' own properties
+// stay as the form file has them; the buttons are not shown.
 class TButtonedEdit : public TCustomEdit
 {
     OBX_CLASS(TCustomEdit)

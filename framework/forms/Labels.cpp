@@ -45,7 +45,7 @@ const TMetaClass& TLabel::MetaClass()
     using namespace ControlRows;
     static const TMetaClass Class(
         "TLabel", &TCustomLabel::MetaClass(), CreateComponent<TLabel>,
-        Sorted(Look(), Drag(), Mouse(), Caption(), AutoSize(true),
+        Sorted(Look(), Drag(), Mouse(), ControlRows::Caption(), ControlRows::AutoSize(true),
                OBX_ROW(TLabel, Alignment).Default(taLeftJustify),
                OBX_ROW(TLabel, EllipsisPosition).Default(epNone), OBX_ROW(TLabel, FocusControl),
                OBX_ROW(TLabel, Layout).Default(tlTop), OBX_ROW(TLabel, ShowAccelChar).Default(true),

@@ -14,6 +14,6 @@ public:
 private:
     static bool AlignWork(const TWinControl& Parent);
     static void DoAlign(TWinControl& Parent, TControl* AControl, TAlign Align, TRect& Rect);
-    static void DoPosition(TWinControl& Parent, TControl& Control, TAlign Align, TRect& Rect, const TPoint& ParentSize);
+    static void DoPosition(TControl& Control, TAlign Align, TRect& Rect, const TPoint& ParentSize);
     static void AnchorAlign(TControl& Control, const TPoint& ParentSize);
 };

@@ -45,6 +45,14 @@ using TTabOrder = int16_t;
 OBX_ENUM(TAlign, alNone, alTop, alBottom, alLeft, alRight, alClient, alCustom)
 OBX_ENUM(TAnchorKind, akLeft, akTop, akRight, akBottom)
 OBX_SET(TAnchors, TAnchorKind)
+// The anchors that an alignment stands for, by TAlign.
+constexpr TAnchors AlignAnchors[] = {{akLeft, akTop},
+                                     {akLeft, akTop, akRight},
+                                     {akLeft, akRight, akBottom},
+                                     {akLeft, akTop, akBottom},
+                                     {akTop, akRight, akBottom},
+                                     {akLeft, akTop, akRight, akBottom},
+                                     {akLeft, akTop}};
 OBX_ENUM(TAlignment, taLeftJustify, taRightJustify, taCenter)
 using TLeftRight = TAlignment;
 OBX_ENUM(TVerticalAlignment, taAlignTop, taAlignBottom, taVerticalCenter)

@@ -141,8 +141,13 @@ public:
     void DefineProperties(TFiler& Filer) override;
     void Loaded() override;
 
+    // For the window procedure that sees a new window first.
+    void BindWindow(HWND Window);
     void RecreateWnd();
+    // Makes the windows of this control and of the visible ones inside.
     void CreateControl();
+    // Takes the focus away from this control and those inside.
+    void RemoveFocus(bool Removing);
     void UpdateControlState();
 
 protected:
@@ -188,16 +193,17 @@ protected:
     bool DoKeyDown(TMessage& Message);
     bool DoKeyPress(TMessage& Message);
     bool DoKeyUp(TMessage& Message);
-    virtual void PaintWindow(HDC) {}
+    virtual void PaintWindow(HDC Dc);
     void PaintHandler(TMessage& Message);
     void PaintControls(HDC Dc, TControl* First);
     virtual void ShowControl(TControl* AControl);
-    TWinControl* FindNext(TWinControl* Current, bool GoForward, bool CheckTabStop, bool CheckParent);
+    // Width and height that the window's frame takes.
+    virtual TSize FrameSize() const;
+    void UpdateBounds();
     // Sends a reflected notification to the control it is about; true when there
     // was one.
     bool DoControlMessage(HWND Child, TMessage& Message);
     bool IsControlMouseMessage(TMessage& Message);
-    void ResetIme() {}
 
     WNDPROC FDefWndProc = nullptr;
 
@@ -206,19 +212,22 @@ private:
     void Remove(TControl* AControl);
     void UpdateShowing();
     void UpdateTabOrder(TTabOrder Value);
-    void UpdateBounds();
+    void FixupTabList();
+    static void ScaleControl(TControl& Control, int M, int D);
     void BrushChanged(TObject* Sender);
-    void DispatchFrame(TMessage& Message, bool& Handled);
-    void DispatchKeys(TMessage& Message, bool& Handled);
-    void DispatchPaint(TMessage& Message, bool& Handled);
-    void DispatchNotifications(TMessage& Message, bool& Handled);
+    // Each answers its part of the messages; false for others.
+    bool DispatchFrame(TMessage& Message);
+    bool DispatchKeys(TMessage& Message);
+    bool DispatchPaint(TMessage& Message);
+    bool DispatchNotifications(TMessage& Message);
+    bool DispatchChanges(TMessage& Message);
     void WMPaint(TMessage& Message);
     void WMSetCursor(TMessage& Message);
     void WMWindowPosChanged(TMessage& Message);
     void WMNCDestroy(TMessage& Message);
     void CNKeyDown(TMessage& Message);
     void CNChar(TMessage& Message);
-    bool DefineDesignSize(TFiler& Filer);
+    bool IsPopupShortCut(TMessage& Message);
 
     HWND FHandle = nullptr;
     HWND FParentWindow = nullptr;

@@ -41,6 +41,16 @@ bool TObject::InheritsFrom(const TMetaClass& Class) const
     return ClassType().InheritsFrom(Class);
 }
 
+TMetaClass::TMetaClass(std::string Name, const TMetaClass* Parent, TFactory Factory)
+    : TMetaClass(std::move(Name), Parent, Factory, {}, {})
+{
+}
+
+TMetaClass::TMetaClass(std::string Name, const TMetaClass* Parent, TFactory Factory, std::vector<TPropInfo> Published)
+    : TMetaClass(std::move(Name), Parent, Factory, std::move(Published), {})
+{
+}
+
 TMetaClass::TMetaClass(std::string Name, const TMetaClass* Parent, TFactory Factory, std::vector<TPropInfo> Published,
                        std::vector<TPublishedMethod> Methods)
     : FName(std::move(Name)), FParent(Parent), FFactory(Factory), FOwn(std::move(Published)), FMethods(std::move(Methods))

@@ -57,8 +57,10 @@ public:
     // that no file can create.
     using TFactory = TObject* (*)(TComponent* Owner);
 
-    TMetaClass(std::string Name, const TMetaClass* Parent, TFactory Factory,
-               std::vector<TPropInfo> Published = {}, std::vector<TPublishedMethod> Methods = {});
+    TMetaClass(std::string Name, const TMetaClass* Parent, TFactory Factory);
+    TMetaClass(std::string Name, const TMetaClass* Parent, TFactory Factory, std::vector<TPropInfo> Published);
+    TMetaClass(std::string Name, const TMetaClass* Parent, TFactory Factory, std::vector<TPropInfo> Published,
+               std::vector<TPublishedMethod> Methods);
     ~TMetaClass();
     TMetaClass(const TMetaClass&) = delete;
     TMetaClass& operator=(const TMetaClass&) = delete;

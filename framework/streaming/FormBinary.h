@@ -1,11 +1,11 @@
 // Reads and writes binary form files. See docs/form-files.md for the format.
 #pragma once
 
-#include "framework/streaming/FormDocument.h"
-#include "framework/streaming/FormOptions.h"
-
 #include <string>
 #include <string_view>
+
+#include "framework/streaming/FormDocument.h"
+#include "framework/streaming/FormOptions.h"
 
 // Reads a binary form file, with its resource header or bare. Every count and
 // length is checked against what is left before anything is reserved.

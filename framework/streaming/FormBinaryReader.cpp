@@ -1,13 +1,13 @@
 #include "framework/streaming/FormBinary.h"
 
+#include <bit>
+#include <memory>
+#include <type_traits>
+
 #include "framework/streaming/FormBinaryTypes.h"
 #include "framework/streaming/FormEncoding.h"
 #include "framework/streaming/FormLimits.h"
 #include "framework/streaming/FormSource.h"
-
-#include <bit>
-#include <memory>
-#include <type_traits>
 
 namespace {
 
@@ -365,7 +365,7 @@ TFormItem TFormBinaryReader::ReadItem(int Depth)
     return Item;
 }
 
-}  // namespace
+} // namespace
 
 TFormDocument ReadFormBinary(std::string_view Bytes, const TFormFileOptions& Options)
 {

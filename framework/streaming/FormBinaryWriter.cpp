@@ -1,11 +1,11 @@
 #include "framework/streaming/FormBinary.h"
 
+#include <bit>
+#include <limits>
+
 #include "framework/streaming/FormBinaryTypes.h"
 #include "framework/streaming/FormEncoding.h"
 #include "framework/streaming/FormSource.h"
-
-#include <bit>
-#include <limits>
 
 namespace {
 
@@ -38,6 +38,7 @@ private:
     void WriteHeader(const TFormObject& Object);
     void WriteProperties(const TFormProperties& Owner);
     void WriteValue(const TFormValue& Value);
+    void WritePart(const TFormValue& Value);
     void WriteInteger(std::int64_t Value);
     void WriteFloat(const TFormValue& Value);
     void WriteIdent(const TFormValue& Value);
@@ -47,7 +48,7 @@ private:
     const TFormDocument& FDocument;
     const TFormBinaryProfile& FProfile;
     const TFormCodec& FCodec;
-    const TFormSource* FSource = nullptr;  // whose spelling is kept; null for none
+    const TFormSource* FSource = nullptr; // whose spelling is kept; null for none
     std::string FOut;
 };
 
@@ -124,12 +125,12 @@ void TFormBinaryWriter::PutShort(std::string_view Bytes)
 // In the code page if that is what the file uses and it has all characters.
 std::string TFormBinaryWriter::EncodeName(std::string_view Name) const
 {
-    std::string Result;
     if (FProfile.CodePageStrings && !IsAscii(Name)) {
-        std::size_t Pos = 0;
-        while (Pos < Name.size() && FCodec.Encode(NextChar(Name, Pos), Result)) {
-        }
-        if (Pos == Name.size() && !IsValidUtf8(Result))
+        std::string Result;
+        bool Complete = true;
+        for (std::size_t Pos = 0; Pos < Name.size() && Complete;)
+            Complete = FCodec.Encode(NextChar(Name, Pos), Result);
+        if (Complete && !IsValidUtf8(Result))
             return Result;
     }
     if (!IsValidUtf8(Name))
@@ -159,11 +160,13 @@ void TFormBinaryWriter::WriteHeader(const TFormObject& Object)
         Flags |= FlagInline;
     if (Object.Position())
         Flags |= FlagPosition;
-    if (Flags != 0)
+    // The length of a very long class name would pass for flags.
+    const std::string ClassName = EncodeName(Object.ClassName());
+    if (Flags != 0 || ClassName.size() >= FlagsMark)
         FOut += static_cast<char>(FlagsMark | Flags);
     if (Object.Position())
         WriteInteger(*Object.Position());
-    PutName(Object.ClassName());
+    PutShort(ClassName);
     PutName(Object.Name());
 }
 
@@ -208,7 +211,7 @@ void TFormBinaryWriter::WriteValue(const TFormValue& Value)
     case TFormValueKind::List:
         PutType(TFormWireType::List);
         for (const auto& Part : Value.AsList())
-            WriteValue(Part);
+            WritePart(Part);
         PutType(TFormWireType::Null);
         break;
     case TFormValueKind::Collection:
@@ -223,6 +226,17 @@ void TFormBinaryWriter::WriteValue(const TFormValue& Value)
         FOut += Value.AsBinary();
         break;
     }
+}
+
+// A value of a list, which the type byte of Null would end.
+void TFormBinaryWriter::WritePart(const TFormValue& Value)
+{
+    if (!Value.IsIdent("Null")) {
+        WriteValue(Value);
+        return;
+    }
+    PutType(TFormWireType::Ident);
+    PutName(Value.AsIdent());
 }
 
 // In the smallest type that holds it.
@@ -333,14 +347,18 @@ void TFormBinaryWriter::WriteItem(const TFormItem& Item)
     WriteProperties(Item);
 }
 
-}  // namespace
+} // namespace
 
-std::string WriteFormBinary(const TFormDocument& Document) { return WriteFormBinary(Document, Document.Binary); }
+std::string WriteFormBinary(const TFormDocument& Document)
+{
+    return WriteFormBinary(Document, Document.Binary);
+}
 
 std::string WriteFormBinary(const TFormDocument& Document, const TFormBinaryProfile& Profile)
 {
     const auto Codec = TFormCodec::Find(TFormEncoding::CodePage, Profile.CodePage);
     if (!Codec)
-        throw Document.ErrorAt(TFormSpan{}, "code page " + std::to_string(Profile.CodePage) + " is not known");
+        throw Document.ErrorAt(TFormSpan{},
+                               "code page " + std::to_string(Profile.CodePage) + " is not known");
     return TFormBinaryWriter(Document, Profile, *Codec).Write();
 }

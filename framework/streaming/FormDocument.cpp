@@ -1,9 +1,9 @@
 #include "framework/streaming/FormDocument.h"
 
+#include <algorithm>
+
 #include "framework/streaming/FormNames.h"
 #include "framework/streaming/FormSource.h"
-
-#include <algorithm>
 
 TFormTextProfile TFormTextProfile::Lfm()
 {
@@ -124,7 +124,10 @@ bool SameTree(const TFormObject& One, const TFormObject& Other)
                       Other.Children().end(), SameTree);
 }
 
-bool TFormDocument::SameTree(const TFormDocument& Other) const { return ::SameTree(Root, Other.Root); }
+bool TFormDocument::SameTree(const TFormDocument& Other) const
+{
+    return ::SameTree(Root, Other.Root);
+}
 
 EFormFileError TFormDocument::ErrorAt(const TFormSpan& Place, const std::string& Message) const
 {

@@ -2,10 +2,6 @@
 // FormText.h and FormBinary.h one format each, docs/form-files.md shows both.
 #pragma once
 
-#include "framework/streaming/FormFileError.h"
-#include "framework/streaming/FormProfile.h"
-#include "framework/streaming/FormValue.h"
-
 #include <cstddef>
 #include <memory>
 #include <optional>
@@ -13,12 +9,16 @@
 #include <string_view>
 #include <vector>
 
+#include "framework/streaming/FormFileError.h"
+#include "framework/streaming/FormProfile.h"
+#include "framework/streaming/FormValue.h"
+
 // A property as the file has it: `Font.Name = 'Tahoma'`.
 class TFormProperty {
 public:
     TFormProperty(std::string Name, TFormValue AValue) : Value(std::move(AValue)), FName(std::move(Name)) {}
 
-    const std::string& Name() const { return FName; }  // with its dots
+    const std::string& Name() const { return FName; } // with its dots
     TFormValue Value;
 
     // For the readers and writers: the name with what precedes it and, in a text
@@ -55,7 +55,7 @@ private:
 // An item of a collection.
 class TFormItem : public TFormProperties {
 public:
-    std::optional<std::int64_t> Index() const { return FIndex; }  // `item [3]`; rare
+    std::optional<std::int64_t> Index() const { return FIndex; } // `item [3]`; rare
     void SetIndex(std::optional<std::int64_t> Value);
 
     // For the readers and writers, as in TFormObject.
@@ -80,11 +80,11 @@ public:
 
     TFormObjectKind Kind() const { return FKind; }
     void SetKind(TFormObjectKind Value);
-    const std::string& Name() const { return FName; }  // may be empty
+    const std::string& Name() const { return FName; } // may be empty
     void SetName(std::string Value);
     const std::string& ClassName() const { return FClassName; }
     void SetClassName(std::string Value);
-    std::optional<std::int64_t> Position() const { return FPosition; }  // `object X: T [3]`
+    std::optional<std::int64_t> Position() const { return FPosition; } // `object X: T [3]`
     void SetPosition(std::optional<std::int64_t> Value);
 
     const std::vector<TFormObject>& Children() const { return FChildren; }
@@ -118,9 +118,9 @@ class TFormDocument {
 public:
     TFormObject Root;
 
-    TFormFormat Format = TFormFormat::Text;  // in which the document is saved
-    TFormTextProfile Text;                   // how it looks as text
-    TFormBinaryProfile Binary;               // how it looks in binary
+    TFormFormat Format = TFormFormat::Text; // in which the document is saved
+    TFormTextProfile Text;                  // how it looks as text
+    TFormBinaryProfile Binary;              // how it looks in binary
 
     // The bytes that the document was read from; null when made from scratch.
     std::shared_ptr<const TFormSource> Source;

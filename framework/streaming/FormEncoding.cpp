@@ -1,17 +1,23 @@
 #include "framework/streaming/FormEncoding.h"
 
-#include "framework/streaming/FormValue.h"
-
 #include <algorithm>
+
+#include "framework/streaming/FormValue.h"
 
 namespace {
 
-bool IsHigh(char32_t Unit) { return Unit >= 0xD800 && Unit < 0xDC00; }
-bool IsLow(char32_t Unit) { return Unit >= 0xDC00 && Unit < 0xE000; }
+bool IsHigh(char32_t Unit)
+{
+    return Unit >= 0xD800 && Unit < 0xDC00;
+}
+bool IsLow(char32_t Unit)
+{
+    return Unit >= 0xDC00 && Unit < 0xE000;
+}
 
 struct TDecoded {
     char32_t Character;
-    std::size_t Length;  // 0: malformed
+    std::size_t Length; // 0: malformed
 };
 
 // One character of UTF-8; surrogates are let through.
@@ -36,9 +42,12 @@ TDecoded DecodeOne(std::string_view Bytes, std::size_t Pos)
     return {Result, Length};
 }
 
-char32_t EscapeByte(char Byte) { return EscapeBase + static_cast<unsigned char>(Byte); }
+char32_t EscapeByte(char Byte)
+{
+    return EscapeBase + static_cast<unsigned char>(Byte);
+}
 
-}  // namespace
+} // namespace
 
 std::optional<unsigned char> EscapedByte(char32_t Character)
 {

@@ -1,20 +1,18 @@
 // The encodings of form files, one character at a time.
 #pragma once
 
-#include "framework/streaming/FormProfile.h"
-#include "platform/CodePage.h"
-
-#include "framework/rtl/Utf8.h"
-
 #include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
 
+#include "framework/rtl/Utf8.h"
+#include "framework/streaming/FormProfile.h"
+#include "platform/CodePage.h"
+
 // A byte that cannot be decoded is this private character plus the byte.
 constexpr char32_t EscapeBase = 0x10FE00;
 
-// Strictly well-formed UTF-8: no surrogates, no overlong forms.
 bool IsAscii(std::string_view Bytes);
 
 // The character at Pos, which moves behind it. Halves of surrogate pairs are
@@ -40,7 +38,7 @@ class TUnitJoiner {
 public:
     explicit TUnitJoiner(std::string& Utf8) : FUtf8(Utf8) {}
     void Add(char16_t Unit);
-    void Flush();  // before the text is used or appended to in another way
+    void Flush(); // before the text is used or appended to in another way
 
 private:
     std::string& FUtf8;
@@ -72,5 +70,5 @@ public:
 private:
     explicit TFormCodec(const TCodePage* CodePage) : FCodePage(CodePage) {}
 
-    const TCodePage* FCodePage;  // null: UTF-8
+    const TCodePage* FCodePage; // null: UTF-8
 };

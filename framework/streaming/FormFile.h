@@ -1,13 +1,13 @@
 // Form files on disk and in memory, whatever their format.
 #pragma once
 
+#include <string>
+#include <string_view>
+
 #include "framework/streaming/FormBinary.h"
 #include "framework/streaming/FormDocument.h"
 #include "framework/streaming/FormOptions.h"
 #include "framework/streaming/FormText.h"
-
-#include <string>
-#include <string_view>
 
 // Reads a form from the bytes of a file, text or binary.
 // Throws EFormFileError; so does everything below.

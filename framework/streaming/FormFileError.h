@@ -14,22 +14,22 @@
 class EFormFileError : public EReadError {
 public:
     EFormFileError(const std::string& AFileName, int ALine, int AColumn, const std::string& Message)
-        : EReadError(Prefix(AFileName) + std::to_string(ALine) + ":" + std::to_string(AColumn) +
-                             ": " + Message),
+        : EReadError(Prefix(AFileName) + std::to_string(ALine) + ":" + std::to_string(AColumn) + ": " +
+                     Message),
           FileName(AFileName), Line(ALine), Column(AColumn)
     {
     }
     EFormFileError(const std::string& AFileName, std::uint64_t AByteOffset, const std::string& Message)
         : EReadError(Prefix(AFileName) + (AFileName.empty() ? "" : " ") + "offset " +
-                             std::to_string(AByteOffset) + ": " + Message),
+                     std::to_string(AByteOffset) + ": " + Message),
           FileName(AFileName), ByteOffset(AByteOffset)
     {
     }
 
     std::string FileName;
-    int Line = 0;                  // from 1; 0 for a binary form file
-    int Column = 0;                // in characters, from 1; 0 for a binary form file
-    std::uint64_t ByteOffset = 0;  // from 0; binary form files only
+    int Line = 0;                 // from 1; 0 for a binary form file
+    int Column = 0;               // in characters, from 1; 0 for a binary form file
+    std::uint64_t ByteOffset = 0; // from 0; binary form files only
 
 private:
     static std::string Prefix(const std::string& FileName) { return FileName.empty() ? "" : FileName + ":"; }

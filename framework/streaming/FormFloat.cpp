@@ -1,16 +1,16 @@
 #include "framework/streaming/FormFloat.h"
 
-#include "framework/streaming/FormNames.h"
-
 #include <algorithm>
 #include <cmath>
 #include <limits>
 #include <vector>
 
+#include "framework/streaming/FormNames.h"
+
 namespace {
 
 constexpr int Bias = 16383;
-constexpr int MaxExponent = 0x7FFF;  // infinities and not-a-number
+constexpr int MaxExponent = 0x7FFF; // infinities and not-a-number
 constexpr std::size_t MaxTextLength = 5000;
 constexpr long MaxDecimalExponent = 5000;
 
@@ -132,8 +132,8 @@ std::optional<TFormExtended> RoundToExtended(TFraction Value, bool Negative)
 }
 
 struct TDecimal {
-    std::string Digits;  // without trailing zeros; empty for 0
-    int Exponent = 0;    // of the first digit: 0 for 1 to 9
+    std::string Digits; // without trailing zeros; empty for 0
+    int Exponent = 0;   // of the first digit: 0 for 1 to 9
 };
 
 // Adds one to the last digit.
@@ -187,7 +187,10 @@ TDecimal ToDecimal(TFormExtended Value, int Digits)
     return Result;
 }
 
-bool IsNegative(TFormExtended Value) { return (Value.SignExponent & 0x8000) != 0; }
+bool IsNegative(TFormExtended Value)
+{
+    return (Value.SignExponent & 0x8000) != 0;
+}
 
 // `Inf`, `-Inf` or `NaN`; empty for a finite number.
 std::string SpecialText(TFormExtended Value)
@@ -222,7 +225,7 @@ std::string Scientific(const TDecimal& Value)
     return Result + "E" + std::to_string(Value.Exponent);
 }
 
-}  // namespace
+} // namespace
 
 TFormExtended ExtendedFromDouble(double Value)
 {

@@ -27,7 +27,7 @@ std::optional<TFormExtended> ExtendedFromText(std::string_view Text);
 // `Inf` and `NaN`, which look like identifiers, without regard to case.
 std::optional<TFormExtended> ExtendedFromName(std::string_view Name);
 
-// The number with Digits significant digits (1 to 18), in plain notation with
+// The number with Digits significant digits (from 1), in plain notation with
 // as few decimals as that needs: `0.0684693287039408`, `15`.
 // Numbers from 1e15 up and below 1e-5 get an exponent: `1E20`, `2.5E-7`.
 std::string ExtendedToText(TFormExtended Value, int Digits);

@@ -12,20 +12,20 @@ enum class TFormDialect : std::uint8_t { Dfm, Lfm };
 enum class TFormEncoding : std::uint8_t { CodePage, Utf8, Utf16LE, Utf16BE };
 
 enum class TFormNonAscii : std::uint8_t {
-    Codes,  // #1040: a UTF-16 code unit each
-    Raw,    // in the encoding of the file
+    Codes, // #1040: a UTF-16 code unit each
+    Raw,   // in the encoding of the file
 };
 
 // How a text form file looks. The defaults are a new .dfm file.
 struct TFormTextProfile {
     TFormDialect Dialect = TFormDialect::Dfm;
     TFormEncoding Encoding = TFormEncoding::CodePage;
-    int CodePage = 1252;  // for TFormEncoding::CodePage
+    int CodePage = 1252; // for TFormEncoding::CodePage
     bool Bom = false;
     TFormNonAscii NonAscii = TFormNonAscii::Codes;
-    int FloatDecimals = 18;  // 0: as many as needed
+    int FloatDecimals = 18; // 0: as many as needed
     std::string LineEnd = "\r\n";
-    std::string FinalText = "\r\n";  // what follows the last `end`
+    std::string FinalText = "\r\n"; // what follows the last `end`
 
     // The profile of a new .lfm file.
     static TFormTextProfile Lfm();
@@ -35,9 +35,9 @@ struct TFormTextProfile {
 
 // How a binary form file looks.
 struct TFormBinaryProfile {
-    bool ResourceHeader = true;  // FF 0A 00 NAME 00 30 10 length
-    std::string ResourceName;    // empty: the root's class name in capitals
-    int CodePage = 1252;         // of strings that are neither wide nor UTF-8
+    bool ResourceHeader = true; // FF 0A 00 NAME 00 30 10 length
+    std::string ResourceName;   // empty: the root's class name in capitals
+    int CodePage = 1252;        // of strings that are neither wide nor UTF-8
     // Whether texts and names that are not ASCII are stored in the code page, if
     // it has all of their characters. Otherwise they are UTF-8.
     bool CodePageStrings = false;

@@ -1,16 +1,16 @@
 // The bytes of a form file that was read, as its document keeps them.
 #pragma once
 
-#include "framework/streaming/FormFileError.h"
-#include "framework/streaming/FormProfile.h"
-
 #include <cstdint>
 #include <string>
 #include <string_view>
 
+#include "framework/streaming/FormFileError.h"
+#include "framework/streaming/FormProfile.h"
+
 // Immutable once the document is read; shared by all of its nodes.
 struct TFormSource {
-    std::string FileName;  // for messages; may be empty
+    std::string FileName; // for messages; may be empty
     TFormFormat Format = TFormFormat::Text;
     // The bytes of the file; of a UTF-16 file the same text in UTF-8.
     std::string Bytes;

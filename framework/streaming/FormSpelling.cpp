@@ -1,10 +1,11 @@
 // Takes the spelling of one document over into another: TFormDocument::KeepSpelling.
 #include "framework/streaming/FormDocument.h"
-#include "framework/streaming/FormNames.h"
 
 #include <algorithm>
 #include <deque>
 #include <unordered_map>
+
+#include "framework/streaming/FormNames.h"
 
 namespace {
 
@@ -148,7 +149,7 @@ void KeepObject(TFormObject& Object, const TFormObject& Old)
     }
 }
 
-}  // namespace
+} // namespace
 
 void TFormDocument::KeepSpelling(const TFormDocument& Original)
 {

@@ -1,11 +1,11 @@
 // Reads and writes text form files. See docs/form-files.md for the grammar.
 #pragma once
 
-#include "framework/streaming/FormDocument.h"
-#include "framework/streaming/FormOptions.h"
-
 #include <string>
 #include <string_view>
+
+#include "framework/streaming/FormDocument.h"
+#include "framework/streaming/FormOptions.h"
 
 // Reads a text form file of either dialect, in any encoding of TFormEncoding.
 // Liberal in layout (blanks, line ends, widths, letter case of keywords) and

@@ -1,19 +1,25 @@
 #include "framework/streaming/FormTextParser.h"
 
-#include "framework/streaming/FormNames.h"
-
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <limits>
 
+#include "framework/streaming/FormNames.h"
+
 namespace {
 
-constexpr int PieceLength = 64;  // of long strings in a .dfm
+constexpr int PieceLength = 64; // of long strings in a .dfm
 
-bool IsBlank(char Sign) { return Sign == ' ' || (Sign >= '\t' && Sign <= '\r'); }
+bool IsBlank(char Sign)
+{
+    return Sign == ' ' || (Sign >= '\t' && Sign <= '\r');
+}
 
-bool IsDigit(char Sign) { return Sign >= '0' && Sign <= '9'; }
+bool IsDigit(char Sign)
+{
+    return Sign >= '0' && Sign <= '9';
+}
 
 int HexDigit(char Sign)
 {
@@ -37,7 +43,7 @@ std::optional<std::uint64_t> ReadDigits(std::string_view Digits, unsigned Base)
     return Digits.empty() ? std::nullopt : std::optional(Result);
 }
 
-}  // namespace
+} // namespace
 
 void TFormTextParser::SkipBlanks()
 {
@@ -143,8 +149,8 @@ void TFormTextParser::Parse(TFormDocument& Document)
     const std::size_t Begin = FPos;
     SkipBlanks();
     if (!AtObject(Kind))
-        Fail(FPos, "not a form file: \"object\", \"inherited\" or \"inline\" expected but " + Found() +
-                       " found");
+        Fail(FPos,
+             "not a form file: \"object\", \"inherited\" or \"inline\" expected but " + Found() + " found");
     FPos = Begin;
     ParseObject(Document.Root, 1);
     Document.Frame.Close = static_cast<std::uint32_t>(FPos);
@@ -206,7 +212,7 @@ void TFormTextParser::ParseHeader(TFormObject& Object, TFormObjectKind Kind)
     SkipBlanks();
     if (SkipIf(':')) {
         ClassName = TakeName("the class of an object");
-        while (Current() == '/') {  // a class with its unit
+        while (Current() == '/') { // a class with its unit
             ++FPos;
             ClassName += '/' + TakeName("the class of an object");
         }
@@ -492,6 +498,9 @@ TFormValue TFormTextParser::MakeFloat(std::size_t Start, std::size_t End, char S
 
 TFormValue TFormTextParser::ParseIdent()
 {
+    // Else a missing value would take the end of its object.
+    if (SameName(PeekName(), "end"))
+        FailExpected("a value");
     std::string Name = TakeName("a value");
     if (const auto Special = ExtendedFromName(Name))
         return TFormValue::Extended(*Special);

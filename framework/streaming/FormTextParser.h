@@ -1,16 +1,16 @@
 // The parser behind ReadFormText. Include FormText.h instead.
 #pragma once
 
-#include "framework/streaming/FormDocument.h"
-#include "framework/streaming/FormEncoding.h"
-#include "framework/streaming/FormLimits.h"
-#include "framework/streaming/FormSource.h"
-
 #include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+
+#include "framework/streaming/FormDocument.h"
+#include "framework/streaming/FormEncoding.h"
+#include "framework/streaming/FormLimits.h"
+#include "framework/streaming/FormSource.h"
 
 // What a file shows about its profile. Each count is of places that only one
 // of the two dialects writes so.

@@ -1,16 +1,19 @@
 // Finds out encoding and dialect of a text form file; FormTextParser reads it.
 #include "framework/streaming/FormText.h"
 
+#include <algorithm>
+
 #include "framework/streaming/FormNames.h"
 #include "framework/streaming/FormTextParser.h"
-
-#include <algorithm>
 
 namespace {
 
 constexpr std::string_view Utf8Bom = "\xEF\xBB\xBF";
 
-bool StartsWith(std::string_view Bytes, std::string_view Prefix) { return Bytes.substr(0, Prefix.size()) == Prefix; }
+bool StartsWith(std::string_view Bytes, std::string_view Prefix)
+{
+    return Bytes.substr(0, Prefix.size()) == Prefix;
+}
 
 // Whether the first characters are ASCII in UTF-16 without a byte order mark.
 bool LooksLikeUtf16(std::string_view Bytes, bool BigEndian)
@@ -34,7 +37,7 @@ void DetectEncoding(std::string_view Bytes, const TFormFileOptions& Options, TFo
         Profile.Encoding = TFormEncoding::Utf16LE;
     else if (Big || LooksLikeUtf16(Bytes, true))
         Profile.Encoding = TFormEncoding::Utf16BE;
-    else if (Profile.Bom || (!IsAscii(Bytes) && IsValidUtf8(Bytes)))
+    else if (Profile.Bom || (Options.DetectUtf8 && !IsAscii(Bytes) && IsValidUtf8(Bytes)))
         Profile.Encoding = TFormEncoding::Utf8;
     else
         Profile.Encoding = TFormEncoding::CodePage;
@@ -59,7 +62,8 @@ TFormDialect DetectDialect(TFormTextTraits Traits, const TFormTextProfile& Profi
         Traits.Dfm += SameName(Extension, ".dfm") ? 2 : 0;
     }
     if (Traits.Dfm == Traits.Lfm)
-        return Profile.Encoding == TFormEncoding::Utf8 && !Profile.Bom ? TFormDialect::Lfm : TFormDialect::Dfm;
+        return Profile.Encoding == TFormEncoding::Utf8 && !Profile.Bom ? TFormDialect::Lfm
+                                                                       : TFormDialect::Dfm;
     return Traits.Dfm > Traits.Lfm ? TFormDialect::Dfm : TFormDialect::Lfm;
 }
 
@@ -89,7 +93,7 @@ void CheckPlausible(std::string_view Bytes, const std::string& FileName)
         throw EFormFileError(FileName, 1, 1, "the form file is larger than 1 GB");
 }
 
-}  // namespace
+} // namespace
 
 TFormDocument ReadFormText(std::string_view Bytes, const TFormFileOptions& Options)
 {

@@ -1,20 +1,21 @@
 // Writes text form files: spelled parts as they were read, others canonically.
 #include "framework/streaming/FormText.h"
 
+#include <algorithm>
+#include <vector>
+
 #include "framework/streaming/FormEncoding.h"
 #include "framework/streaming/FormNames.h"
 #include "framework/streaming/FormSource.h"
 
-#include <algorithm>
-#include <vector>
-
 namespace {
 
-constexpr std::size_t PieceLength = 64;  // characters of a string in a row
-constexpr std::size_t BytesInRow = 32;   // of a binary block
-constexpr int FixedDigits = 16;          // significant digits of a float with fixed decimals
-constexpr int ShortDigits = 15;          // ... and of one with as many as needed
-constexpr int ExactDigits = 17;          // tells any two doubles apart
+constexpr std::size_t PieceLength = 64; // characters of a string in a row
+constexpr std::size_t BytesInRow = 32;  // of a binary block
+constexpr int FixedDigits = 16;         // significant digits of a float with fixed decimals
+constexpr int ShortDigits = 15;         // ... and of one with as many as needed
+constexpr int DoubleDigits = 17;        // tells any two doubles apart
+constexpr int ExtendedDigits = 21;      // tells any two extended numbers apart
 
 class TFormTextWriter {
 public:
@@ -58,7 +59,7 @@ private:
     const TFormDocument& FDocument;
     const TFormTextProfile& FProfile;
     const TFormCodec& FCodec;
-    const TFormSource* FSource = nullptr;  // whose spelling is kept; null for none
+    const TFormSource* FSource = nullptr; // whose spelling is kept; null for none
     std::string FOut;
 };
 
@@ -103,7 +104,7 @@ private:
     }
 
     std::string& FOut;
-    std::string FCut;  // what separates two rows; empty for a string in one row
+    std::string FCut; // what separates two rows; empty for a string in one row
     std::size_t FRowLength = 0;
     bool FOpen = false;
 };
@@ -249,11 +250,11 @@ void TFormTextWriter::WriteValue(const TFormValue& Value, int Level)
 void TFormTextWriter::WriteParts(const TFormValue& Value, int Level)
 {
     const bool IsList = Value.Is(TFormValueKind::List);
-    const bool AnySpelled =
-        IsList ? std::any_of(Value.AsList().begin(), Value.AsList().end(),
-                             [&](const TFormValue& Part) { return IsSpelled(Part.Span()); })
-               : std::any_of(Value.AsCollection().begin(), Value.AsCollection().end(),
-                             [&](const TFormItem& Item) { return IsSpelled(Item.Span()); });
+    const bool AnySpelled = IsList
+                                ? std::any_of(Value.AsList().begin(), Value.AsList().end(),
+                                              [&](const TFormValue& Part) { return IsSpelled(Part.Span()); })
+                                : std::any_of(Value.AsCollection().begin(), Value.AsCollection().end(),
+                                              [&](const TFormItem& Item) { return IsSpelled(Item.Span()); });
     const TFormSpan& Span = Value.Span();
     if (!AnySpelled) {
         CopyBlanks(Span);
@@ -286,6 +287,8 @@ void TFormTextWriter::WriteCanonical(const TFormValue& Value, int Level)
         WriteString(Value.AsString(), Level);
         break;
     case TFormValueKind::Ident:
+        if (Value.IsIdent("end"))
+            FailName(Value.AsIdent(), "cannot be a value in a text form file");
         PutIdent(Value.AsIdent());
         break;
     case TFormValueKind::Set:
@@ -362,23 +365,26 @@ void TFormTextWriter::WriteString(const std::string& Text, int Level)
     Writer.Close();
 }
 
+// The usual digits do not tell every two numbers apart: where they would read
+// back as another double there are more of them.
 std::string TFormTextWriter::FloatText(const TFormValue& Value) const
 {
     const TFormExtended Number = Value.AsExtended();
     const bool Fixed = FProfile.FloatDecimals > 0 && (Value.FloatType() == TFormFloatType::Extended ||
                                                       Value.FloatType() == TFormFloatType::Double);
-    std::string Usual = Fixed ? ExtendedToFixed(Number, FixedDigits, FProfile.FloatDecimals)
-                              : ExtendedToText(Number, ShortDigits);
-    // The usual digits do not tell every two doubles apart.
-    const auto Back = ExtendedFromText(Usual);
-    if (!Back || ExtendedToDouble(*Back) == Value.AsFloat())
-        return Usual;
-    if (Fixed) {
-        std::string Exact = ExtendedToFixed(Number, ExactDigits, FProfile.FloatDecimals);
-        if (const auto Read = ExtendedFromText(Exact); Read && ExtendedToDouble(*Read) == Value.AsFloat())
-            return Exact;
+    std::string Text;
+    const auto ReadsBack = [&] {
+        const auto Read = ExtendedFromText(Text);
+        return !Read || ExtendedToDouble(*Read) == Value.AsFloat();
+    };
+    for (const int Digits : {Fixed ? FixedDigits : ShortDigits, DoubleDigits}) {
+        Text =
+            Fixed ? ExtendedToFixed(Number, Digits, FProfile.FloatDecimals) : ExtendedToText(Number, Digits);
+        if (ReadsBack())
+            return Text;
     }
-    return ExtendedToText(Number, ExactDigits);
+    Text = ExtendedToText(Number, DoubleDigits);
+    return ReadsBack() ? Text : ExtendedToText(Number, ExtendedDigits);
 }
 
 void TFormTextWriter::WriteFloat(const TFormValue& Value)
@@ -389,7 +395,7 @@ void TFormTextWriter::WriteFloat(const TFormValue& Value)
     }
     const std::string Text = FloatText(Value);
     Put(Text);
-    const bool IsNumber = Text.back() >= '0' && Text.back() <= '9';  // not Inf or NaN
+    const bool IsNumber = Text.back() >= '0' && Text.back() <= '9'; // not Inf or NaN
     if (IsNumber && Value.FloatType() == TFormFloatType::Single)
         Put("s");
     if (IsNumber && Value.FloatType() == TFormFloatType::Date)
@@ -479,14 +485,18 @@ void TFormTextWriter::WriteBinary(const std::string& Bytes, int Level)
     Put("}");
 }
 
-}  // namespace
+} // namespace
 
-std::string WriteFormText(const TFormDocument& Document) { return WriteFormText(Document, Document.Text); }
+std::string WriteFormText(const TFormDocument& Document)
+{
+    return WriteFormText(Document, Document.Text);
+}
 
 std::string WriteFormText(const TFormDocument& Document, const TFormTextProfile& Profile)
 {
     const auto Codec = TFormCodec::Find(Profile.Encoding, Profile.CodePage);
     if (!Codec)
-        throw Document.ErrorAt(TFormSpan{}, "code page " + std::to_string(Profile.CodePage) + " is not known");
+        throw Document.ErrorAt(TFormSpan{},
+                               "code page " + std::to_string(Profile.CodePage) + " is not known");
     return TFormTextWriter(Document, Profile, *Codec).Write();
 }

@@ -1,10 +1,10 @@
 #include "framework/streaming/FormValue.h"
 
-#include "framework/streaming/FormDocument.h"
-#include "framework/streaming/FormNames.h"
-
 #include <algorithm>
 #include <cmath>
+
+#include "framework/streaming/FormDocument.h"
+#include "framework/streaming/FormNames.h"
 
 namespace {
 
@@ -42,7 +42,7 @@ bool IsNumber(const TFormValue& Value)
     return Value.Is(TFormValueKind::Integer) || Value.Is(TFormValueKind::Float);
 }
 
-}  // namespace
+} // namespace
 
 TFormValue::TFormValue(TFormValueKind Kind, TData Data) : FData(std::move(Data)), FKind(Kind) {}
 
@@ -53,11 +53,20 @@ TFormValue& TFormValue::operator=(const TFormValue& Other) = default;
 TFormValue& TFormValue::operator=(TFormValue&& Other) noexcept = default;
 TFormValue::~TFormValue() = default;
 
-TFormValue TFormValue::Integer(std::int64_t Value) { return {TFormValueKind::Integer, Value}; }
+TFormValue TFormValue::Integer(std::int64_t Value)
+{
+    return {TFormValueKind::Integer, Value};
+}
 
-TFormValue TFormValue::Extended(TFormExtended Value) { return {TFormValueKind::Float, Value}; }
+TFormValue TFormValue::Extended(TFormExtended Value)
+{
+    return {TFormValueKind::Float, Value};
+}
 
-TFormValue TFormValue::Float(double Value) { return Extended(ExtendedFromDouble(Value)); }
+TFormValue TFormValue::Float(double Value)
+{
+    return Extended(ExtendedFromDouble(Value));
+}
 
 TFormValue TFormValue::Double(double Value)
 {
@@ -87,9 +96,15 @@ TFormValue TFormValue::Date(double Days)
     return Result;
 }
 
-TFormValue TFormValue::String(std::string Utf8) { return {TFormValueKind::String, std::move(Utf8)}; }
+TFormValue TFormValue::String(std::string Utf8)
+{
+    return {TFormValueKind::String, std::move(Utf8)};
+}
 
-TFormValue TFormValue::Ident(std::string Name) { return {TFormValueKind::Ident, std::move(Name)}; }
+TFormValue TFormValue::Ident(std::string Name)
+{
+    return {TFormValueKind::Ident, std::move(Name)};
+}
 
 TFormValue TFormValue::Set(std::vector<std::string> Elements)
 {
@@ -115,7 +130,10 @@ TFormValue TFormValue::Collection(std::vector<TFormItem> Items)
     return {TFormValueKind::Collection, std::move(Items)};
 }
 
-TFormValue TFormValue::Binary(std::string Bytes) { return {TFormValueKind::Binary, std::move(Bytes)}; }
+TFormValue TFormValue::Binary(std::string Bytes)
+{
+    return {TFormValueKind::Binary, std::move(Bytes)};
+}
 
 bool TFormValue::IsIdent(std::string_view Name) const
 {

@@ -1,8 +1,6 @@
 // The value of a property in a form file.
 #pragma once
 
-#include "framework/streaming/FormFloat.h"
-
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -11,6 +9,8 @@
 #include <utility>
 #include <variant>
 #include <vector>
+
+#include "framework/streaming/FormFloat.h"
 
 class TFormItem;
 class TFormValue;
@@ -23,7 +23,7 @@ struct TFormSource;
 //   Close..End    what closes it: `end`, `)`, `>`
 // A node without parts has Open = Close = End.
 struct TFormSpan {
-    std::shared_ptr<const TFormSource> Source;  // null for a node made from scratch
+    std::shared_ptr<const TFormSource> Source; // null for a node made from scratch
     std::uint32_t Begin = 0, Open = 0, Close = 0, End = 0;
 };
 
@@ -31,11 +31,11 @@ enum class TFormValueKind : std::uint8_t {
     Integer,
     Float,
     String,
-    Ident,       // True, False, nil, Null, constants, methods, components: `DM.Source`
-    Set,         // [akLeft, akTop]
-    List,        // ( ... ): strings, numbers, or a mixture
-    Collection,  // < item ... end >
-    Binary,      // { 89504E47 }
+    Ident,      // True, False, nil, Null, constants, methods, components: `DM.Source`
+    Set,        // [akLeft, akTop]
+    List,       // ( ... ): strings, numbers, or a mixture
+    Collection, // < item ... end >
+    Binary,     // { 89504E47 }
 };
 
 enum class TFormFloatType : std::uint8_t { Extended, Double, Single, Currency, Date };
@@ -52,7 +52,7 @@ enum class TFormFloatType : std::uint8_t { Extended, Double, Single, Currency, D
 //     would use for it, written back as that char code.
 class TFormValue {
 public:
-    TFormValue();  // Null
+    TFormValue(); // Null
     TFormValue(const TFormValue& Other);
     TFormValue(TFormValue&& Other) noexcept;
     TFormValue& operator=(const TFormValue& Other);
@@ -60,12 +60,12 @@ public:
     ~TFormValue();
 
     static TFormValue Integer(std::int64_t Value);
-    static TFormValue Float(double Value);     // extended in a binary form file
+    static TFormValue Float(double Value); // extended in a binary form file
     static TFormValue Extended(TFormExtended Value);
     static TFormValue Double(double Value);
-    static TFormValue Single(float Value);     // suffix s
-    static TFormValue Currency(std::int64_t TenThousandths);  // suffix c
-    static TFormValue Date(double Days);       // suffix d
+    static TFormValue Single(float Value);                   // suffix s
+    static TFormValue Currency(std::int64_t TenThousandths); // suffix c
+    static TFormValue Date(double Days);                     // suffix d
     static TFormValue String(std::string Utf8);
     static TFormValue Ident(std::string Name);
     static TFormValue Boolean(bool Value) { return Ident(Value ? "True" : "False"); }
@@ -78,7 +78,7 @@ public:
 
     TFormValueKind Kind() const { return FKind; }
     bool Is(TFormValueKind Kind) const { return FKind == Kind; }
-    bool IsIdent(std::string_view Name) const;  // without regard to case
+    bool IsIdent(std::string_view Name) const; // without regard to case
     bool IsNil() const { return IsIdent("nil"); }
     bool IsBoolean() const { return IsIdent("True") || IsIdent("False"); }
 
@@ -87,7 +87,7 @@ public:
     std::int64_t AsInteger() const { return std::get<std::int64_t>(FData); }
     double AsFloat() const;
     TFormExtended AsExtended() const;
-    std::int64_t AsCurrency() const;  // ten-thousandths
+    std::int64_t AsCurrency() const; // ten-thousandths
     TFormFloatType FloatType() const { return FFloatType; }
     const std::string& AsString() const { return TextOf(TFormValueKind::String); }
     const std::string& AsIdent() const { return TextOf(TFormValueKind::Ident); }
@@ -111,7 +111,7 @@ public:
     // For the readers and writers.
     const TFormSpan& Span() const { return FSpan; }
     void SetSpan(TFormSpan Span) { FSpan = std::move(Span); }
-    bool PartsTouched() const { return FPartsTouched; }  // EditList or EditCollection was called
+    bool PartsTouched() const { return FPartsTouched; } // EditList or EditCollection was called
 
 private:
     using TData = std::variant<std::int64_t, std::string, TFormExtended, std::vector<std::string>,

@@ -74,7 +74,7 @@ private:
     iconv_t FHandle;
 };
 
-}  // namespace
+} // namespace
 
 struct TCodePageLoader {
     static std::unique_ptr<const TCodePage> Load(int Number)
@@ -86,8 +86,7 @@ struct TCodePageLoader {
         for (int Byte = 0; Byte < 256; ++Byte) {
             const char Bytes[] = {static_cast<char>(Byte)};
             Result->LeadBytes[Byte] = IsLead(Number, Byte);
-            Result->Singles[Byte] =
-                Result->LeadBytes[Byte] ? TCodePage::None : Converter.Convert({Bytes, 1});
+            Result->Singles[Byte] = Result->LeadBytes[Byte] ? TCodePage::None : Converter.Convert({Bytes, 1});
             if (Result->Singles[Byte] != TCodePage::None)
                 Result->Codes.emplace(Result->Singles[Byte], static_cast<std::uint16_t>(Byte));
         }

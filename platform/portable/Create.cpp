@@ -3,6 +3,7 @@
 
 #include "platform/portable/Focus.h"
 #include "platform/portable/Lifetime.h"
+#include "platform/portable/Mdi.h"
 #include "platform/portable/MenuBar.h"
 #include "platform/portable/Position.h"
 #include "platform/portable/Thread.h"

@@ -81,6 +81,9 @@ LRESULT CallWindow(HWND Window, UINT Message, WPARAM WParam, LPARAM LParam);
 // Forgets what waits for a window that goes away.
 void ForgetWindow(HWND Window);
 
+// Marks, in the point of a queued message, that it comes from the keyboard.
+constexpr LONG KeyboardMark = -0x7ffe;
+
 // Keeps the thread's key state in step with a key message that it takes out.
 void FollowKeys(TThread& Thread, const MSG& Message);
 

@@ -199,6 +199,7 @@
 #define VK_LAUNCH_APP2 0xB7
 #define VK_OEM_1 0xBA
 #define VK_OEM_PLUS 0xBB
+#define VK_OEM_COMMA 0xBC
 #define VK_OEM_MINUS 0xBD
 #define VK_OEM_PERIOD 0xBE
 #define VK_OEM_2 0xBF

@@ -327,7 +327,6 @@ int EnumPropsA(HWND Window, PROPENUMPROCA Proc);
 BOOL SetWindowTextA(HWND Window, LPCSTR Text);
 int GetWindowTextA(HWND Window, LPSTR Text, int Size);
 int GetWindowTextLengthA(HWND Window);
-int InternalGetWindowText(HWND Window, LPWSTR Text, int Size);
 
 // The tree
 HWND GetDesktopWindow();
@@ -431,6 +430,7 @@ SHORT GetAsyncKeyState(int Key);
 BOOL GetKeyboardState(PBYTE State);
 BOOL SetKeyboardState(LPBYTE State);
 SHORT VkKeyScanA(CHAR Character);
+void keybd_event(BYTE Key, BYTE Scan, DWORD Flags, ULONG_PTR Extra);
 UINT MapVirtualKeyA(UINT Code, UINT Kind);
 int GetKeyNameTextA(LONG LParam, LPSTR Name, int Size);
 HKL GetKeyboardLayout(DWORD Thread);

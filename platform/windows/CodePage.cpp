@@ -27,7 +27,7 @@ char32_t Convert(int Number, std::string_view Bytes)
     return Result;
 }
 
-}  // namespace
+} // namespace
 
 struct TCodePageLoader {
     static std::unique_ptr<const TCodePage> Load(int Number)
@@ -40,8 +40,7 @@ struct TCodePageLoader {
         for (int Byte = 0; Byte < 256; ++Byte) {
             const char Bytes[] = {static_cast<char>(Byte)};
             Result->LeadBytes[Byte] = IsDBCSLeadByteEx(static_cast<UINT>(Number), static_cast<BYTE>(Byte));
-            Result->Singles[Byte] =
-                Result->LeadBytes[Byte] ? TCodePage::None : Convert(Number, {Bytes, 1});
+            Result->Singles[Byte] = Result->LeadBytes[Byte] ? TCodePage::None : Convert(Number, {Bytes, 1});
             if (Result->Singles[Byte] != TCodePage::None)
                 Result->Codes.emplace(Result->Singles[Byte], static_cast<std::uint16_t>(Byte));
         }

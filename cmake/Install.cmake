@@ -1,0 +1,22 @@
+# `cmake --install` gives applications find_package(Orbilex) with the target
+# Orbilex::orbilex_qft, which brings the layers below it.
+include(GNUInstallDirs)
+include(CMakePackageConfigHelpers)
+
+install(TARGETS orbilex_options orbilex_platform orbilex_framework orbilex_core orbilex_qft
+        EXPORT OrbilexTargets
+        INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/orbilex)
+foreach(Layer platform framework core Qft)
+    install(DIRECTORY ${Layer} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/orbilex
+            FILES_MATCHING PATTERN "*.h" PATTERN "*.inc")
+endforeach()
+if(TARGET orbilex)
+    install(TARGETS orbilex)
+endif()
+install(EXPORT OrbilexTargets NAMESPACE Orbilex:: DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/Orbilex)
+configure_package_config_file(cmake/OrbilexConfig.cmake.in ${CMAKE_BINARY_DIR}/OrbilexConfig.cmake
+                              INSTALL_DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/Orbilex)
+write_basic_package_version_file(${CMAKE_BINARY_DIR}/OrbilexConfigVersion.cmake COMPATIBILITY SameMinorVersion)
+install(FILES ${CMAKE_BINARY_DIR}/OrbilexConfig.cmake ${CMAKE_BINARY_DIR}/OrbilexConfigVersion.cmake
+              cmake/Forms.cmake
+        DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/Orbilex)

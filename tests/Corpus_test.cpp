@@ -1,0 +1,135 @@
+// Forms that other people wrote: loaded, listed, translated, restored, saved.
+// Nothing runs where the collection of real forms is absent; the few pieces in
+// tests/data always do.
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <filesystem>
+#include <iostream>
+#include <map>
+
+#include "core/KeyLines.h"
+#include "core/Literals.h"
+#include "framework/forms/Application.h"
+#include "framework/forms/StandardClasses.h"
+#include "framework/rtl/Files.h"
+#include "framework/streaming/FormFile.h"
+#include "tools/FormFiles.h"
+#include "tools/FormSession.h"
+
+namespace {
+
+std::vector<std::string> AllForms()
+{
+    std::vector<std::string> Folders{TEST_DATA};
+    std::error_code Ignored;
+    if (std::filesystem::is_directory(CORPUS, Ignored))
+        Folders.emplace_back(CORPUS);
+    return FormFilesOf(Folders);
+}
+
+using TProperties = std::map<std::string, std::string>;
+
+TProperties PropertiesOf(TFormTranslator& Translator)
+{
+    TSortList Lines;
+    Translator.TranslateForm(&Lines, true);
+    TProperties Result;
+    for (int I = 0; I < Lines.Count(); ++I)
+        Result.emplace(KeyOf(Lines[I]), Lines[I].substr(KeyOf(Lines[I]).size() + 1));
+    return Result;
+}
+
+bool IsText(const std::string& Value)
+{
+    return !Value.empty() && (Value[0] == '\'' || Value[0] == '#') && Value != "''";
+}
+
+std::string MadeUp(const std::string& Text)
+{
+    return "<" + Text + " ÅΩ語>";
+}
+
+// Values of a component that follow another value which was translated (a menu
+// item shows its action's caption), and texts the class itself keeps in form.
+bool FollowsAnother(const std::string& Before, const std::string& After, const TProperties& Translations)
+{
+    (void)Before;
+    for (const auto& [Key, Value] : Translations)
+        if (Value == After)
+            return true;
+    return false;
+}
+
+struct TFigures
+{
+    int Forms = 0;
+    int Properties = 0;
+    int Texts = 0;
+    int Refused = 0;
+    int Followers = 0;
+};
+
+void CheckForm(const std::string& File, TFigures& Figures)
+{
+    const std::string Original = ReadWholeFile(File);
+    TFormSession Session(File, 1252);
+    ASSERT_EQ(WriteForm(Session.Save()), Original) << "not the same bytes when nothing has changed";
+    std::vector<TProperties> Before;
+    std::vector<TProperties> Wanted;
+    for (TFormTranslator* const Translator : Session.Translators()) {
+        Before.push_back(PropertiesOf(*Translator));
+        Figures.Properties += static_cast<int>(Before.back().size());
+        Wanted.emplace_back();
+        for (const auto& [Key, Value] : Before.back())
+            if (IsText(Value) && Value.size() < 4000 && !Key.starts_with("SystemMenu") && Key != "Name")
+                Wanted.back().emplace(Key, ToLiterals(MadeUp(FromLiterals(Value))));
+        Figures.Texts += static_cast<int>(Wanted.back().size());
+    }
+    for (size_t I = 0; I < Session.Translators().size(); ++I) {
+        TFormTranslator& Translator = *Session.Translators()[I];
+        TSortList Lines;
+        for (const auto& [Key, Value] : Wanted[I])
+            Lines.SortInsert(Key + "=" + Value, nullptr);
+        Translator.SetTranslations(&Lines);
+        Translator.SetTranslate(true);
+        for (const auto& [Key, Value] : PropertiesOf(Translator)) {
+            const auto Line = Wanted[I].find(Key);
+            const auto Old = Before[I].find(Key);
+            if (Line != Wanted[I].end())
+                EXPECT_EQ(Value, Line->second) << Key << " is not translated";
+            else if (Old != Before[I].end() && Old->second != Value && FollowsAnother(Old->second, Value, Wanted[I]))
+                ++Figures.Followers;
+            else if (Old != Before[I].end())
+                EXPECT_EQ(Value, Old->second) << Key << " has changed without a translation";
+        }
+    }
+    for (TFormTranslator* const Translator : Session.Translators())
+        Translator->SetTranslate(false);
+    EXPECT_EQ(WriteForm(Session.Save()), Original) << "restoring does not give the original";
+    ++Figures.Forms;
+}
+
+TEST(RealForms, AreTranslatedAndRestoredExactly)
+{
+    TApplicationScope Scope;
+    RegisterStandardClasses();
+    TFigures Figures;
+    const auto Start = std::chrono::steady_clock::now();
+    for (const std::string& File : AllForms()) {
+        SCOPED_TRACE(File);
+        try {
+            CheckForm(File, Figures);
+        } catch (const EFormFileError& Error) {
+            ++Figures.Refused;
+            EXPECT_NE(std::string(Error.what()).find(File), std::string::npos);
+        }
+    }
+    const std::chrono::duration<double> Time = std::chrono::steady_clock::now() - Start;
+    std::cout << Figures.Forms << " forms, " << Figures.Properties << " properties, " << Figures.Texts << " texts, "
+              << Figures.Followers << " followers, " << Figures.Refused << " refused, " << Time.count() << " s\n";
+    EXPECT_GT(Figures.Forms, 0);
+    EXPECT_LE(Figures.Refused, 1);
+}
+
+}  // namespace

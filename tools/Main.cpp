@@ -1,0 +1,6 @@
+#include "tools/Orbilex.h"
+
+int main(int ArgumentCount, char** Arguments)
+{
+    return RunOrbilex(ArgumentCount, Arguments);
+}
