@@ -1,6 +1,7 @@
 #include "Qft/LineIndex.h"
 
-#include <functional>
+#include <algorithm>
+#include <cstring>
 
 namespace {
 
@@ -9,6 +10,25 @@ constexpr size_t FirstSlots = 64;
 bool EndsName(char Byte)
 {
     return Byte == '=' || Byte == '.' || Byte == '[';
+}
+
+// Eight bytes at a time; names are short.
+uint32_t HashOf(std::string_view Name)
+{
+    constexpr uint64_t Factor = 0x9E3779B97F4A7C15u;
+    uint64_t Result = Name.size();
+    while (!Name.empty()) {
+        uint64_t Bytes = 0;
+        const size_t Count = std::min(Name.size(), sizeof Bytes);
+        std::memcpy(&Bytes, Name.data(), Count);
+        // Names often differ in their last bytes only, and a product carries
+        // differences upwards only: hence the shifts before and after.
+        Result ^= Bytes;
+        Result = (Result ^ (Result >> 32)) * Factor;
+        Result ^= Result >> 32;
+        Name.remove_prefix(Count);
+    }
+    return static_cast<uint32_t>(Result);
 }
 
 }  // namespace
@@ -35,7 +55,7 @@ std::string_view FirstName(std::string_view Rest, char& End)
 void TLineIndex::Build(const TSortList& List)
 {
     FNames.clear();
-    FSlots.assign(FirstSlots, -1);
+    FSlots.assign(FirstSlots, {});
     int Last = -1;  // the name of the line before; most lines share it
     for (int Line = 0; Line < List.Count(); ++Line) {
         const std::string_view Text = List.Get(Line);
@@ -51,38 +71,47 @@ void TLineIndex::Build(const TSortList& List)
         const std::string_view Name = FirstName(Text, End);
         if (End == 0)
             continue;
-        size_t Slot = SlotOf(Name);
-        if (FSlots[Slot] < 0) {
-            FSlots[Slot] = static_cast<int>(FNames.size());
+        const uint32_t Hash = HashOf(Name);
+        TSlot& Slot = FSlots[SlotOf(Name, Hash)];
+        if (Slot.Place < 0) {
+            Slot = {Hash, static_cast<int>(FNames.size())};
             FNames.push_back({Name, {}, {}, {}});
-            if (FNames.size() * 2 > FSlots.size()) {
-                Grow();
-                Slot = SlotOf(Name);
-            }
         }
-        Last = FSlots[Slot];
+        Last = Slot.Place;
+        if (FNames.size() * 2 > FSlots.size())
+            Grow();
         FNames[static_cast<size_t>(Last)].Add(Line, End);
     }
 }
 
 const TNamedLines* TLineIndex::Find(std::string_view Name) const
 {
-    const int Place = FSlots[SlotOf(Name)];
+    const int Place = FSlots[SlotOf(Name, HashOf(Name))].Place;
     return Place < 0 ? nullptr : &FNames[static_cast<size_t>(Place)];
 }
 
 // The slot of Name, or the free one where it belongs.
-size_t TLineIndex::SlotOf(std::string_view Name) const
+size_t TLineIndex::SlotOf(std::string_view Name, uint32_t Hash) const
 {
-    size_t Slot = std::hash<std::string_view>()(Name) & (FSlots.size() - 1);
-    while (FSlots[Slot] >= 0 && FNames[static_cast<size_t>(FSlots[Slot])].Name != Name)
-        Slot = (Slot + 1) & (FSlots.size() - 1);
+    const size_t Mask = FSlots.size() - 1;
+    size_t Slot = Hash & Mask;
+    while (FSlots[Slot].Place >= 0 &&
+           (FSlots[Slot].Hash != Hash || FNames[static_cast<size_t>(FSlots[Slot].Place)].Name != Name))
+        Slot = (Slot + 1) & Mask;
     return Slot;
 }
 
 void TLineIndex::Grow()
 {
-    FSlots.assign(FSlots.size() * 2, -1);
-    for (size_t I = 0; I < FNames.size(); ++I)
-        FSlots[SlotOf(FNames[I].Name)] = static_cast<int>(I);
+    std::vector<TSlot> Old(FSlots.size() * 2);
+    Old.swap(FSlots);
+    const size_t Mask = FSlots.size() - 1;
+    for (const TSlot& Each : Old) {
+        if (Each.Place < 0)
+            continue;
+        size_t Slot = Each.Hash & Mask;
+        while (FSlots[Slot].Place >= 0)
+            Slot = (Slot + 1) & Mask;
+        FSlots[Slot] = Each;
+    }
 }

@@ -1,6 +1,7 @@
 // An ordered translation list by the first names of its keys.
 #pragma once
 
+#include <cstdint>
 #include <string_view>
 #include <vector>
 
@@ -42,9 +43,13 @@ public:
     const TNamedLines* Find(std::string_view Name) const;
 
 private:
-    size_t SlotOf(std::string_view Name) const;
+    struct TSlot {
+        uint32_t Hash = 0;
+        int Place = -1;  // in FNames, -1 for none
+    };
+    size_t SlotOf(std::string_view Name, uint32_t Hash) const;
     void Grow();
 
     std::vector<TNamedLines> FNames;
-    std::vector<int> FSlots;  // positions in FNames by hash, -1 for none
+    std::vector<TSlot> FSlots;  // open addressing; a power of two of them
 };

@@ -112,7 +112,8 @@ void MergeOneByOne(TSortList& List, std::vector<std::string>& Lines)
         int Index = 0;
         if (FindKey(KeyOf(Line), Blocks.Count(), LineAt, Index))
             Blocks.Delete(Index);
-        Blocks.Insert(Bisect(Line, Blocks.Count(), LineAt).Position, {std::move(Line), nullptr});
+        const int Place = Bisect(Line, Blocks.Count(), LineAt).Position;
+        Blocks.Insert(Place, {std::move(Line), nullptr});
     }
     List.Give(Blocks.Take());
     List.EndUpdate();

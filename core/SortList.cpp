@@ -17,14 +17,20 @@ bool TextLess(const TLine& A, const TLine& B)
     return A.Text < B.Text;
 }
 
-// Puts the indexes of Lines into the order of their texts.
-void SortTurn(std::vector<size_t>& Turn, const std::vector<TLine>& Lines)
+// Puts the indexes of Lines into the order of their texts. True when no two texts
+// are equal.
+bool SortTurn(std::vector<size_t>& Turn, const std::vector<TLine>& Lines)
 {
     if (Turn.empty()) {
         Turn.resize(Lines.size());
         std::iota(Turn.begin(), Turn.end(), size_t{0});
     }
-    SortNearlySorted(Turn, [&](size_t A, size_t B) { return TextLess(Lines[A], Lines[B]); });
+    const auto Before = [&](size_t A, size_t B) { return TextLess(Lines[A], Lines[B]); };
+    const auto NotBefore = [&](size_t A, size_t B) { return !Before(A, B); };
+    if (std::adjacent_find(Turn.begin(), Turn.end(), NotBefore) == Turn.end())
+        return true;
+    SortNearlySorted(Turn, Before);
+    return std::adjacent_find(Turn.begin(), Turn.end(), NotBefore) == Turn.end();
 }
 
 }  // namespace
@@ -87,7 +93,7 @@ void TSortList::SortInsertAll(std::vector<TLine> Lines, std::vector<size_t> Turn
 // lines at all. Otherwise nothing is changed.
 bool TSortList::MergeUnambiguous(std::vector<TLine>& Lines, std::vector<size_t> Turn)
 {
-    SortTurn(Turn, Lines);
+    const bool AllDiffer = SortTurn(Turn, Lines);
     const auto Ambiguous = [this](const TLine& A, const TLine& B) {
         return A.Text == B.Text && (FKind == skUnique || A.Object != B.Object);
     };
@@ -95,7 +101,7 @@ bool TSortList::MergeUnambiguous(std::vector<TLine>& Lines, std::vector<size_t> 
     auto Place = First;
     for (size_t I = 0; I < Turn.size(); ++I) {
         const TLine& Line = Lines[Turn[I]];
-        if (I > 0 && Ambiguous(Lines[Turn[I - 1]], Line))
+        if (!AllDiffer && I > 0 && Ambiguous(Lines[Turn[I - 1]], Line))
             return false;
         while (Place != FItems.end() && Place->Text < Line.Text)
             ++Place;

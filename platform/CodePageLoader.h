@@ -10,7 +10,8 @@
 
 struct TCodePageLoader {
     // IsLead(Byte) tells lead bytes; Convert(Bytes) gives the character of one or
-    // two bytes, or TCodePage::None.
+    // two bytes, or TCodePage::None. Systems differ in passing undefined codes on
+    // as control or private characters; they are undefined here.
     template<class TIsLead, class TConvert>
     static std::unique_ptr<const TCodePage> Build(int Number, TIsLead IsLead, TConvert Convert)
     {
@@ -20,7 +21,8 @@ struct TCodePageLoader {
             const char Bytes[] = {static_cast<char>(Byte)};
             Result->LeadBytes[Byte] = IsLead(static_cast<unsigned char>(Byte));
             HasPairs |= Result->LeadBytes[Byte];
-            Result->Singles[Byte] = Result->LeadBytes[Byte] ? TCodePage::None : Convert({Bytes, 1});
+            Result->Singles[Byte] =
+                Result->LeadBytes[Byte] ? TCodePage::None : Checked(Number, Convert({Bytes, 1}));
             if (Result->Singles[Byte] != TCodePage::None)
                 Result->Codes.emplace(Result->Singles[Byte], static_cast<std::uint16_t>(Byte));
         }
@@ -43,6 +45,17 @@ struct TCodePageLoader {
     }
 
 private:
+    // ISO code pages define the control characters from 128 on, and code page 932
+    // has a place for characters of one's own in rows F0 to F9.
+    static char32_t Checked(int Number, char32_t Character)
+    {
+        const bool IsIso = Number >= 28591 && Number <= 28606;
+        const bool IsControl = Character >= 0x80 && Character < 0xA0 && !IsIso;
+        const bool IsPrivate = Character >= 0xE000 && Character <= 0xF8FF;
+        const bool HasPrivate = Number == 932 && Character <= 0xE757;
+        return IsControl || (IsPrivate && !HasPrivate) ? TCodePage::None : Character;
+    }
+
     template<class TConvert>
     static void AddPairs(int Number, TConvert Convert, TCodePage& Result)
     {
@@ -50,7 +63,7 @@ private:
         for (unsigned Code = 0x8140; Code < 0x10000; ++Code) {
             const char Bytes[] = {static_cast<char>(Code >> 8), static_cast<char>(Code)};
             if (Result.LeadBytes[Code >> 8] && (Code & 0xFF) >= 0x40)
-                Result.Pairs[Code] = Convert({Bytes, 2});
+                Result.Pairs[Code] = Checked(Number, Convert({Bytes, 2}));
         }
         const auto AddCodes = [&](unsigned First, unsigned Last) {
             for (unsigned Code = First; Code <= Last; ++Code)

@@ -30,10 +30,13 @@ std::vector<std::string> AllForms()
 
 using TProperties = std::map<std::string, std::string>;
 
-TProperties PropertiesOf(TFormTranslator& Translator)
+// What the translator's owner shows now; asked of another translator, because one
+// that is switched on restores its form before it reads.
+TProperties PropertiesOf(const TFormTranslator& Translator)
 {
     TSortList Lines;
-    Translator.TranslateForm(&Lines, true);
+    TFormTranslator Reader(Translator.Owner());
+    Reader.TranslateForm(&Lines, true);
     TProperties Result;
     for (int I = 0; I < Lines.Count(); ++I)
         Result.emplace(KeyOf(Lines[I]), Lines[I].substr(KeyOf(Lines[I]).size() + 1));
@@ -50,11 +53,10 @@ std::string MadeUp(const std::string& Text)
     return "<" + Text + " ÅΩ語>";
 }
 
-// Values of a component that follow another value which was translated (a menu
-// item shows its action's caption), and texts the class itself keeps in form.
-bool FollowsAnother(const std::string& Before, const std::string& After, const TProperties& Translations)
+// A value that follows another one which was translated: a menu item shows its
+// action's caption.
+bool FollowsAnother(const std::string& After, const TProperties& Translations)
 {
-    (void)Before;
     for (const auto& [Key, Value] : Translations)
         if (Value == After)
             return true;
@@ -98,7 +100,7 @@ void CheckForm(const std::string& File, TFigures& Figures)
             const auto Old = Before[I].find(Key);
             if (Line != Wanted[I].end())
                 EXPECT_EQ(Value, Line->second) << Key << " is not translated";
-            else if (Old != Before[I].end() && Old->second != Value && FollowsAnother(Old->second, Value, Wanted[I]))
+            else if (Old != Before[I].end() && Old->second != Value && FollowsAnother(Value, Wanted[I]))
                 ++Figures.Followers;
             else if (Old != Before[I].end())
                 EXPECT_EQ(Value, Old->second) << Key << " has changed without a translation";

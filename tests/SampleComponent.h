@@ -68,7 +68,7 @@ public:
     TNotifyEvent OnCaption;
 
     OBX_PROPERTY(std::string, Caption1, "second")
-    OBX_PROPERTY(TShortString, Short, {})
+    OBX_PROPERTY(TShortString, Short, {"s"})
     OBX_PROPERTY(std::u16string, Wide, u"w")
     OBX_PROPERTY(char, Mark, '*')
     OBX_PROPERTY(double, Factor, 1.5)

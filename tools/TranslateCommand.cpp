@@ -40,7 +40,7 @@ TOutcome Restore(const std::string& FileName, TFormSession& Session)
 {
     int Changed = 0;
     for (TFormTranslator* const Translator : Session.Translators()) {
-        Changed += Translator->Defaults()->Count();
+        Changed += Translator->Defaults().Count();
         Translator->SetTranslate(false);
     }
     const bool Same = WriteForm(Session.Save()) == ReadWholeFile(FileName);

@@ -52,7 +52,7 @@ public:
     void Terminate();
     bool Terminated() const { return FTerminated; }
     void Initialize() {}
-    // Handles the messages that are waiting. False from ProcessMessage: there was none.
+    // Handles the messages that are waiting, or one of them (false: there was none).
     void ProcessMessages();
     bool ProcessMessage();
     // Handles one message, or waits for one.
@@ -97,6 +97,8 @@ public:
     bool UpdateFormatSettings = true;
     bool UpdateMetricSettings = true;
     TBiDiMode BiDiMode = bdLeftToRight;
+    // A modeless dialog of the system that wants dialog keys; null for none.
+    HWND DialogHandle = nullptr;
     int ModalLevel() const { return FModalLevel; }
 
     // Carries out or updates an action for the form that is active.
@@ -140,7 +142,7 @@ private:
     bool IsMDIMsg(MSG& Msg);
     bool IsKeyMsg(MSG& Msg);
     bool IsDlgMsg(MSG& Msg);
-    void Idle(const MSG& Msg);
+    bool OfferAction(TBasicAction* Action, bool Execute);
     void MouseMoved(TControl* Control);
     void ModalStarted();
     void ModalFinished();
@@ -158,7 +160,6 @@ private:
     bool FTerminated = false;
     bool FActive = false;
     bool FShowHint = true;
-    bool FCreating = false;
 };
 
 extern TApplication* Application;

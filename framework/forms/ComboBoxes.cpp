@@ -39,7 +39,7 @@ const TMetaClass& TComboBox::MetaClass()
     // The items come last: they are read when everything that shapes them is known.
     static const TMetaClass Class(
         "TComboBox", &TCustomComboBox::MetaClass(), CreateComponent<TComboBox>,
-        Joined(Sorted(ComboRows<TComboBox>(), OBX_ROW(TComboBox, AutoCloseUp).Default(false),
+        Joined(ControlRows::Sorted(ComboRows<TComboBox>(), OBX_ROW(TComboBox, AutoCloseUp).Default(false),
                       OBX_ROW(TComboBox, ItemIndex).Default(-1), OBX_ROW(TComboBox, MaxLength).Default(0),
                       OBX_ROW(TComboBox, Sorted).Default(false), OBX_ROW(TComboBox, Style).Default(csDropDown),
                       OBX_ROW(TComboBox, Text), OBX_ROW(TComboBox, TextHint),
@@ -150,13 +150,6 @@ void TCustomComboBox::SetStyle(TComboBoxStyle Value)
     RecreateWnd();
 }
 
-void TCustomComboBox::SetTextHint(const std::string& Value)
-{
-    FTextHint = Value;
-    if (HandleAllocated())
-        Send(*this, CB_SETCUEBANNER, 0, reinterpret_cast<LPARAM>(Utf8ToUtf16(FTextHint).c_str()));
-}
-
 void TCustomComboBox::Loaded()
 {
     TWinControl::Loaded();
@@ -198,8 +191,6 @@ void TCustomComboBox::CreateWnd()
     TWinControl::CreateWnd();
     if (FMaxLength > 0)
         Send(*this, CB_LIMITTEXT, static_cast<WPARAM>(FMaxLength));
-    if (!FTextHint.empty())
-        SetTextHint(FTextHint);
     if (IsOwnerDrawn())
         Send(*this, CB_SETITEMHEIGHT, 0, FItemHeight);
     FillWindow();
@@ -303,9 +294,7 @@ void TCustomComboBox::AdjustDropDown()
     const int Count = std::clamp(FItems->Count(), 1, std::max(FDropDownCount, 1));
     const int LineHeight = static_cast<int>(Send(*this, CB_GETITEMHEIGHT, 0));
     SetWindowPos(WindowHandle(), nullptr, 0, 0, Width(), Height() + Count * LineHeight + 2,
-                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW | SWP_HIDEWINDOW);
-    SetWindowPos(WindowHandle(), nullptr, 0, 0, 0, 0,
-                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW | SWP_SHOWWINDOW);
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW);
 }
 
 void TCustomComboBox::DrawItem(int Index, const TRect& Area, TOwnerDrawState State)

@@ -31,6 +31,8 @@ public:
     OBX_PROPERTY(bool, AutoComplete, true)
     OBX_PROPERTY(bool, AutoCloseUp, false)
     OBX_PROPERTY(bool, AutoDropDown, false)
+    // Kept for form files and translations.
+    OBX_PROPERTY(std::string, TextHint, {})
 public:
     TEditCharCase CharCase() const { return FCharCase; }
     void SetCharCase(TEditCharCase Value);
@@ -47,8 +49,6 @@ public:
     void SetSorted(bool Value) { FItems->SetKeepsSorted(Value); }
     TComboBoxStyle Style() const { return FStyle; }
     void SetStyle(TComboBoxStyle Value);
-    const std::string& TextHint() const { return FTextHint; }
-    void SetTextHint(const std::string& Value);
 
     TNotifyEvent OnChange;
     TNotifyEvent OnCloseUp;
@@ -95,7 +95,6 @@ private:
     int FItemHeight = 16;
     int FMaxLength = 0;
     TComboBoxStyle FStyle = csDropDown;
-    std::string FTextHint;
     int FItemIndex = -1;  // while there is no window
     bool FCreatingWnd = false;
 };

@@ -5,6 +5,7 @@
 
 #include "framework/forms/ControlRows.h"
 #include "framework/forms/ImageLists.h"
+#include "framework/forms/Menus.h"
 #include "framework/forms/WinControl.h"
 
 // Makes the window classes known to the system (ICC_ flags).
@@ -26,6 +27,19 @@ inline HIMAGELIST ImagesHandle(TCustomImageList* Images)
 {
     return Images ? Images->Handle() : nullptr;
 }
+
+// Holds back the notifications of changes that the program makes itself.
+class TUpdateScope
+{
+public:
+    explicit TUpdateScope(int& Count) : FCount(Count) { ++FCount; }
+    ~TUpdateScope() { --FCount; }
+    TUpdateScope(const TUpdateScope&) = delete;
+    TUpdateScope& operator=(const TUpdateScope&) = delete;
+
+private:
+    int& FCount;
+};
 
 // Rows of nearly every common control with a window.
 ControlRows::TRows CommonControlRows(bool TabStop);

@@ -216,6 +216,7 @@ public:
     bool Dragging() const;
 
 protected:
+    friend class TControlCanvas;
     friend class TWinControl;
     friend class TControlActionLink;
     friend class TLayout;
@@ -267,6 +268,12 @@ protected:
     int FTop = 0;
     int FWidth = 0;
     int FHeight = 0;
+    TColor FColor = clWindow;
+    bool FVisible = true;
+    bool FShowHint = false;
+    bool FParentColor = true;
+    bool FParentFont = true;
+    bool FParentShowHint = true;
 
 private:
     void DispatchMouse(TMessage& Message);
@@ -300,14 +307,8 @@ private:
     bool FAutoSize = false;
     bool FAutoSizing = false;
     TBiDiMode FBiDiMode = bdLeftToRight;
-    TColor FColor = clWindow;
     bool FEnabled = true;
-    bool FVisible = true;
-    bool FShowHint = false;
     bool FParentBiDiMode = true;
-    bool FParentColor = true;
-    bool FParentFont = true;
-    bool FParentShowHint = true;
     std::unique_ptr<TFont> FFont;
     std::unique_ptr<TSizeConstraints> FConstraints;
     std::unique_ptr<TMargins> FMargins;

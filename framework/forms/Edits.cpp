@@ -1,36 +1,7 @@
 #include "framework/forms/Edits.h"
 
-#include "framework/forms/ControlRows.h"
+#include "framework/forms/EditRows.h"
 #include "framework/forms/MemoLines.h"
-
-namespace {
-
-// What TEdit and its relatives publish beside Text and PasswordChar.
-template<class TPublisher>
-ControlRows::TRows EditRows()
-{
-    using namespace ControlRows;
-    return Joined(Look(), Drag(), Mouse(), Focus(true), Ime(), Bevel(), Ctl3D(), Buffer(),
-                  OBX_ROW(TPublisher, ParentColor).Default(false),
-                  OBX_ROW(TPublisher, Alignment).Default(taLeftJustify),
-                  OBX_ROW(TPublisher, BorderStyle).Default(bsSingle),
-                  OBX_ROW(TPublisher, CharCase).Default(ecNormal),
-                  OBX_ROW(TPublisher, HideSelection).Default(true), OBX_ROW(TPublisher, MaxLength).Default(0),
-                  OBX_ROW(TPublisher, OEMConvert).Default(false), OBX_ROW(TPublisher, ReadOnly).Default(false),
-                  Prop<&TPublisher::OnChange>("OnChange"));
-}
-
-template<class TPublisher>
-ControlRows::TRows SingleLineRows()
-{
-    using namespace ControlRows;
-    return Joined(EditRows<TPublisher>(), OBX_ROW(TPublisher, AutoSelect).Default(true), AutoSize(true),
-                  OBX_ROW(TPublisher, NumbersOnly).Default(false),
-                  OBX_ROW(TPublisher, PasswordChar).Default(0), OBX_ROW(TPublisher, Text),
-                  OBX_ROW(TPublisher, TextHint));
-}
-
-}  // namespace
 
 const TMetaClass& TCustomEdit::MetaClass()
 {
@@ -41,7 +12,7 @@ const TMetaClass& TCustomEdit::MetaClass()
 const TMetaClass& TEdit::MetaClass()
 {
     static const TMetaClass Class("TEdit", &TCustomEdit::MetaClass(), CreateComponent<TEdit>,
-                                  ControlRows::Sorted(SingleLineRows<TEdit>()));
+                                  ControlRows::Sorted(ControlRows::SingleLineRows<TEdit>()));
     return Class;
 }
 
@@ -49,7 +20,7 @@ const TMetaClass& TButtonedEdit::MetaClass()
 {
     static const TMetaClass Class(
         "TButtonedEdit", &TCustomEdit::MetaClass(), CreateComponent<TButtonedEdit>,
-        ControlRows::Sorted(SingleLineRows<TButtonedEdit>(),
+        ControlRows::Sorted(ControlRows::SingleLineRows<TButtonedEdit>(),
                             Prop<&TButtonedEdit::OnLeftButtonClick>("OnLeftButtonClick"),
                             Prop<&TButtonedEdit::OnRightButtonClick>("OnRightButtonClick")));
     return Class;

@@ -40,6 +40,11 @@ public:
     virtual bool CloseQuery();
     // Destroys the form after the messages that are waiting; for event handlers.
     void Release();
+    // Calls OnDestroy and destroys the form; not from its own handlers. A form that
+    // is deleted in another way calls OnDestroy only when the handler is another
+    // object's, for its own class is gone by then. The application frees its forms
+    // in this way.
+    void Free();
     // Shows the form alone: the program's other windows are disabled until
     // ModalResult is not mrNone, which is returned. EInvalidOperation when the
     // form is visible, disabled, modal already or an MDI child.
@@ -76,6 +81,8 @@ public:
     void Previous();
     void Cascade();
     void Tile();
+    TTileMode TileMode() const { return FTileMode; }
+    void SetTileMode(TTileMode Value) { FTileMode = Value; }
     void ArrangeIcons();
 
     // Published by forms.
@@ -104,16 +111,14 @@ public:
 public:
     TFormStyle FormStyle() const { return FFormStyle; }
     void SetFormStyle(TFormStyle Value);
-    TIcon* Icon() { return &FIcon; }
-    TIcon* Icon() const { return const_cast<TIcon*>(&FIcon); }
-    void SetIcon(TIcon* Value) { FIcon.Assign(Value); }
+    TIcon* Icon() const { return FIcon.get(); }
+    void SetIcon(TIcon* Value) { FIcon->Assign(Value); }
     TMainMenu* Menu() const { return FMenu; }
     void SetMenu(TMainMenu* Value);
     TMenuItem* ObjectMenuItem() const { return FObjectMenuItem; }
     void SetObjectMenuItem(TMenuItem* Value);
     int PixelsPerInch() const { return FPixelsPerInch; }
     void SetPixelsPerInch(int Value);
-    TPopupMenu* PopupMenu() const { return TControl::PopupMenu(); }
     TPosition Position() const { return FPosition; }
     void SetPosition(TPosition Value);
     TWindowState WindowState() const { return FWindowState; }
@@ -125,9 +130,8 @@ public:
     bool IsClientSizeStored() const { return !IsFormSizeStored(); }
     bool IsFormSizeStored() const;
     bool IsAutoScrollStored() const;
-    bool IsIconStored() const { return !FIcon.Empty(); }
+    bool IsIconStored() const { return !FIcon->Empty(); }
     bool IsFormFontStored() const;
-    bool IsPixelsPerInchStored() const { return false; }
     void SetVisible(bool Value) override;
 
     TNotifyEvent OnActivate;
@@ -143,7 +147,7 @@ public:
     TNotifyEvent OnShow;
 
     TRect ClientRect() const override;
-    void WndProc(TMessage& Message) override;
+    void SetBounds(int ALeft, int ATop, int AWidth, int AHeight) override;
     void DefaultHandler(TMessage& Message) override;
     void GetChildren(const std::function<void(TComponent*)>& Visit, TComponent* Root) override;
     void DefineProperties(TFiler& Filer) override;
@@ -165,6 +169,7 @@ protected:
     void CreateWnd() override;
     void DestroyWindowHandle() override;
     void DestroyHandle() override;
+    TSize FrameSize() const override;
     void AlignControls(TControl* AControl, TRect& Rect) override;
     void SetParentControl(TWinControl* AParent) override;
     void PaintWindow(HDC Dc) override;
@@ -178,14 +183,11 @@ protected:
     virtual void DoDestroy();
     virtual void DoHide();
     virtual void DoShow();
-    // Calls OnDestroy; the destructor of the most derived class calls it first
-    // when its handler uses that class's own members.
+    // Calls OnDestroy; once.
     void BeforeDestruction();
     virtual void UpdateActions();
 
 private:
-    void ClientWndProc(TMessage& Message);
-    static LRESULT CALLBACK ClientProc(HWND Window, UINT Msg, WPARAM WParam, LPARAM LParam);
     void ApplyClientSize();
     void ApplyPosition();
     void SetWindowFocus();
@@ -195,11 +197,18 @@ private:
     void ShowWindowNow();
     void HideWindowNow();
     void MergeMenu(bool MergeState);
-    bool DispatchCommand(TMessage& Message);
-    void DispatchActivation(TMessage& Message, bool& Handled);
-    void DispatchIcon(TMessage& Message);
+    bool DispatchActivation(TMessage& Message);
+    bool DispatchMenu(TMessage& Message);
+    void ActivateFrame(TMessage& Message);
+    void ShowMenuHint(const TMessage& Message);
+    void DialogKey(TMessage& Message);
+    bool MoveFocus(TWinControl* Control);
+    static void ScrollTo(TScrollingWinControl& Container, TControl* Control);
+    void RunModal();
+    void CreateMDIClient();
+    void CreateMDIChild(const TCreateParams& Params);
+    void ShowMDIChild();
     void IconChanged(TObject* Sender);
-    TSize FrameSize() const;
     void ReadTextHeight(TReader& Reader);
     void WindowStyle(TCreateParams& Params) const;
     void MDIStyle(TCreateParams& Params) const;
@@ -209,7 +218,7 @@ private:
     TModalResult FModalResult = mrNone;
     TWinControl* FActiveControl = nullptr;
     TWinControl* FFocusedControl = nullptr;
-    TIcon FIcon;
+    std::unique_ptr<TIcon> FIcon;
     TBorderIcons FBorderIcons{biSystemMenu, biMinimize, biMaximize};
     TFormBorderStyle FBorderStyle = bsSizeable;
     TFormStyle FFormStyle = fsNormal;
@@ -219,7 +228,6 @@ private:
     TMenuItem* FWindowMenu = nullptr;
     TMenuItem* FObjectMenuItem = nullptr;
     HWND FClientHandle = nullptr;
-    WNDPROC FDefClientProc = nullptr;
     int FPixelsPerInch;
     int FTextHeight = 0;
     // Client size as read or set while there is no window; -1 for none.
@@ -227,6 +235,7 @@ private:
     int FPendingClientHeight = -1;
     // Whether the form file gives the client area's size or the window's.
     enum { SizeUnknown, SizeOfWindow, SizeOfClient } FSizeKind = SizeUnknown;
+    TTileMode FTileMode = tbHorizontal;
     bool FActive = false;
     bool FConstructed = false;
     bool FDestroyed = false;

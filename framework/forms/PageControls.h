@@ -9,7 +9,13 @@ class TPageControl;
 class TTabSheet;
 
 OBX_ENUM(TTabPosition, tpTop, tpBottom, tpLeft, tpRight)
-OBX_ENUM(TTabStyle, tsTabs, tsButtons, tsFlatButtons)
+// Published as "TTabStyle".
+enum TTabControlStyle : int { tsTabs, tsButtons, tsFlatButtons };
+inline const TTypeInfo& TypeInfoFor(TTypeTag<TTabControlStyle>)
+{
+    static const TTypeInfo Info = TTypeInfo::Enumeration("TTabStyle", "tsTabs, tsButtons, tsFlatButtons");
+    return Info;
+}
 
 OBX_EVENT(TTabChangingEvent, TObject*, bool&)
 OBX_EVENT(TDrawTabEvent, TObject*, int, const TRect&, bool)
@@ -46,8 +52,8 @@ public:
     void SetRaggedRight(bool Value) { SetStyleFlag(FRaggedRight, Value); }
     bool ScrollOpposite() const { return FScrollOpposite; }
     void SetScrollOpposite(bool Value) { SetStyleFlag(FScrollOpposite, Value); }
-    TTabStyle Style() const { return FStyle; }
-    void SetStyle(TTabStyle Value);
+    TTabControlStyle Style() const { return FStyle; }
+    void SetStyle(TTabControlStyle Value);
     // Pixels; 0 for as much as the texts need.
     int16_t TabHeight() const { return FTabHeight; }
     void SetTabHeight(int16_t Value);
@@ -95,7 +101,7 @@ private:
     bool FOwnerDraw = false;
     bool FRaggedRight = false;
     bool FScrollOpposite = false;
-    TTabStyle FStyle = tsTabs;
+    TTabControlStyle FStyle = tsTabs;
     int16_t FTabHeight = 0;
     int16_t FTabWidth = 0;
     TTabPosition FTabPosition = tpTop;

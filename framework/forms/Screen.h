@@ -18,12 +18,11 @@ public:
     explicit TScreen(TComponent* Owner);
     ~TScreen() override;
 
-    // All forms in the order of their creation; for TForm and its descendants
-    // FormCount and Forms, for all FormCount's custom counterparts.
-    int FormCount() const { return static_cast<int>(FForms.size()); }
+    // The forms of TForm's descent in the order of their creation.
+    int FormCount() const;
     TForm* Forms(int Index) const;
     int CustomFormCount() const { return static_cast<int>(FCustomForms.size()); }
-    // The one that was active last comes first.
+    // All forms; the one that was active last comes first.
     TCustomForm* CustomForms(int Index) const;
     int DataModuleCount() const { return static_cast<int>(FDataModules.size()); }
     TDataModule* DataModules(int Index) const;
@@ -70,8 +69,8 @@ private:
     void SetActive(TCustomForm* Form, TWinControl* Control);
     void GetMetricSettings();
 
-    std::vector<TForm*> FForms;
-    std::vector<TCustomForm*> FCustomForms;
+    std::vector<TCustomForm*> FAllForms;     // in the order of creation
+    std::vector<TCustomForm*> FCustomForms;  // last active first
     std::vector<TDataModule*> FDataModules;
     TCustomForm* FActiveCustomForm = nullptr;
     TCustomForm* FFocusedForm = nullptr;

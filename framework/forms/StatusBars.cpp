@@ -39,7 +39,7 @@ const TMetaClass& TStatusBar::MetaClass()
     using namespace ControlRows;
     static const TMetaClass Class(
         "TStatusBar", &TCustomStatusBar::MetaClass(), CreateComponent<TStatusBar>,
-        Sorted(Look(), Drag(), Mouse(), Resize(), Buffer(), Action(), OBX_ROW(TStatusBar, AutoHint).Default(false),
+        Sorted(Look(), Drag(), Mouse(), ControlRows::Resize(), Buffer(), ControlRows::Action(), OBX_ROW(TStatusBar, AutoHint).Default(false),
                OBX_ROW(TControl, Align).Default(alBottom), OBX_ROW(TWinControl, BorderWidth).Default(0),
                OBX_ROW(TControl, Color).Default(clBtnFace).Stored<&TControl::IsColorStored>(),
                OBX_ROW(TControl, ParentColor).Default(false), OBX_ROW(TControl, ParentFont).Default(false),

@@ -86,7 +86,7 @@ void TCustomTabControl::SetStyleFlag(bool& Flag, bool Value)
     RecreateWnd();
 }
 
-void TCustomTabControl::SetStyle(TTabStyle Value)
+void TCustomTabControl::SetStyle(TTabControlStyle Value)
 {
     if (FStyle == Value)
         return;

@@ -30,7 +30,8 @@ bool Matches(const ACCEL& Key, const MSG& Message)
         return false;
     const bool Alt = (Message.lParam & (1 << 29)) != 0;
     if (!(Key.fVirt & FVIRTKEY))
-        return (Message.message == WM_CHAR || Message.message == WM_SYSCHAR) && Alt == ((Key.fVirt & FALT) != 0);
+        return (Message.message == WM_CHAR || Message.message == WM_SYSCHAR) &&
+               Alt == ((Key.fVirt & FALT) != 0);
     if (Message.message == WM_CHAR || Message.message == WM_SYSCHAR)
         return false;
     return (GetKeyState(VK_SHIFT) < 0) == ((Key.fVirt & FSHIFT) != 0) &&
@@ -57,7 +58,8 @@ bool MayExecute(HWND Window, WORD Command, TSource& Source)
         return true;
     Source = TSource::System;
     SendMessageA(Window, WM_INITMENU, reinterpret_cast<WPARAM>(System), 0);
-    return IsWindowEnabled(Window) && !(GetMenuState(System, Command, MF_BYCOMMAND) & (MF_DISABLED | MF_GRAYED));
+    return IsWindowEnabled(Window) &&
+           !(GetMenuState(System, Command, MF_BYCOMMAND) & (MF_DISABLED | MF_GRAYED));
 }
 
 } // namespace
@@ -98,7 +100,8 @@ int TranslateAcceleratorA(HWND Window, HACCEL Handle, LPMSG Message)
     const TKeys* const Keys = KeysOf(Handle);
     if (!Keys)
         return 0;
-    const auto Found = std::find_if(Keys->begin(), Keys->end(), [&](const ACCEL& Key) { return Matches(Key, *Message); });
+    const auto Found =
+        std::find_if(Keys->begin(), Keys->end(), [&](const ACCEL& Key) { return Matches(Key, *Message); });
     if (Found == Keys->end())
         return 0;
     const WORD Command = Found->cmd;

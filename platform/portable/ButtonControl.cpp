@@ -60,8 +60,8 @@ LRESULT TButton::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
     case WM_LBUTTONDBLCLK:
         if (Kind() == BS_GROUPBOX)
             return 0;
-        if (Message == WM_LBUTTONDBLCLK && ((Style() & BS_NOTIFY) || Kind() == BS_OWNERDRAW ||
-                                            Kind() == BS_RADIOBUTTON)) {
+        if (Message == WM_LBUTTONDBLCLK &&
+            ((Style() & BS_NOTIFY) || Kind() == BS_OWNERDRAW || Kind() == BS_RADIOBUTTON)) {
             Command(BN_DOUBLECLICKED);
             return 0;
         }
@@ -82,7 +82,9 @@ LRESULT TButton::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
             return 0;
         const RECT Rect = ClientRect();
         FCaptured = false;
-        ReleaseCapture();
+        const bool Pushed = FPushed;
+        ReleaseCapture(); // takes the pushed state away
+        FPushed = Pushed;
         if (Alive())
             Release(PtInRect(&Rect, PointOf(LParam)));
         return 0;
@@ -120,7 +122,8 @@ LRESULT TButton::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
         SetPushed(WParam != 0);
         return 0;
     case BM_SETSTYLE:
-        SetWindowLongA(Window(), GWL_STYLE, static_cast<LONG>((Style() & ~DWORD{BS_TYPEMASK}) | (WParam & BS_TYPEMASK)));
+        SetWindowLongA(Window(), GWL_STYLE,
+                       static_cast<LONG>((Style() & ~DWORD{BS_TYPEMASK}) | (WParam & BS_TYPEMASK)));
         Invalidate();
         return 0;
     case BM_CLICK:
@@ -187,7 +190,8 @@ void TButton::UncheckGroup()
     HWND Other = GetNextDlgGroupItem(Parent, Window(), FALSE);
     for (int Count = 0; Other && Other != Window() && Count < 1000; ++Count) {
         const auto Code = SendMessageA(Other, WM_GETDLGCODE, 0, 0);
-        if ((Code & DLGC_RADIOBUTTON) && (GetWindowLongA(Other, GWL_STYLE) & BS_TYPEMASK) == BS_AUTORADIOBUTTON &&
+        if ((Code & DLGC_RADIOBUTTON) &&
+            (GetWindowLongA(Other, GWL_STYLE) & BS_TYPEMASK) == BS_AUTORADIOBUTTON &&
             SendMessageA(Other, BM_GETCHECK, 0, 0))
             SendMessageA(Other, BM_SETCHECK, BST_UNCHECKED, 0);
         Other = GetNextDlgGroupItem(Parent, Other, FALSE);
@@ -316,7 +320,7 @@ void TButton::PaintBox(HDC Dc, RECT Rect)
     const bool BoxRight = ((Style() & BS_LEFTTEXT) != 0) != ((ExStyle() & WS_EX_LAYOUTRTL) != 0);
     RECT Box = Rect;
     const UINT Format = TextFormat();
-    Box.top = Format & DT_BOTTOM ? Rect.bottom - BoxSide - 1
+    Box.top = Format & DT_BOTTOM                     ? Rect.bottom - BoxSide - 1
               : Format & (DT_VCENTER | DT_WORDBREAK) ? Rect.top + (Rect.bottom - Rect.top - BoxSide) / 2
                                                      : Rect.top + 1;
     Box.bottom = Box.top + BoxSide;
@@ -328,7 +332,7 @@ void TButton::PaintBox(HDC Dc, RECT Rect)
         Box.right = Rect.left + BoxSide;
         Label.left = Box.right + BoxGap;
     }
-    const UINT Shape = IsRadio()        ? DFCS_BUTTONRADIO
+    const UINT Shape = IsRadio()                                       ? DFCS_BUTTONRADIO
                        : IsThreeState() && FCheck == BST_INDETERMINATE ? DFCS_BUTTON3STATE
                                                                        : DFCS_BUTTONCHECK;
     DrawFrameControl(Dc, &Box, DFC_BUTTON, Shape | FrameState());
@@ -371,13 +375,14 @@ void TButton::PaintOwner(HDC Dc, RECT Rect)
     Item.CtlType = ODT_BUTTON;
     Item.CtlID = static_cast<UINT>(Id());
     Item.itemAction = ODA_DRAWENTIRE;
-    Item.itemState = (FPushed ? ODS_SELECTED : 0u) | (Focused() ? ODS_FOCUS : 0u) | (Enabled() ? 0u : ODS_DISABLED);
+    Item.itemState =
+        (FPushed ? ODS_SELECTED : 0u) | (Focused() ? ODS_FOCUS : 0u) | (Enabled() ? 0u : ODS_DISABLED);
     Item.hwndItem = Window();
     Item.hDC = Dc;
     Item.rcItem = Rect;
     SendMessageA(GetParent(Window()), WM_DRAWITEM, Item.CtlID, reinterpret_cast<LPARAM>(&Item));
 }
-}  // namespace
+} // namespace
 
 void RegisterButtons()
 {

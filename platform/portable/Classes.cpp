@@ -5,7 +5,7 @@
 #include "platform/portable/Thread.h"
 #include "platform/portable/Window.h"
 
-void RegisterOwnClasses();  // MDICLIENT, dialogs
+void RegisterOwnClasses(); // MDICLIENT, dialogs
 
 namespace {
 
@@ -36,8 +36,9 @@ bool SameName(const TWindowClass& Class, LPCSTR Name)
 TClasses::iterator FindIn(TClasses& All, LPCSTR Name)
 {
     const auto Match = [&](bool BuiltIn) {
-        return std::find_if(All.begin(), All.end(),
-                            [&](const auto& Class) { return Class->BuiltIn == BuiltIn && SameName(*Class, Name); });
+        return std::find_if(All.begin(), All.end(), [&](const auto& Class) {
+            return Class->BuiltIn == BuiltIn && SameName(*Class, Name);
+        });
     };
     const auto Own = Match(false);
     return Own != All.end() ? Own : Match(true);
@@ -85,7 +86,8 @@ std::shared_ptr<TWindowClass> FindWindowClass(LPCSTR Name)
     return Found == All.end() ? nullptr : *Found;
 }
 
-void RegisterBuiltInClass(LPCSTR Name, UINT Style, WNDPROC Proc, int WindowExtra, LPCSTR Cursor, HBRUSH Background)
+void RegisterBuiltInClass(LPCSTR Name, UINT Style, WNDPROC Proc, int WindowExtra, LPCSTR Cursor,
+                          HBRUSH Background)
 {
     auto Class = std::make_shared<TWindowClass>();
     Class->Name = Name;
@@ -172,9 +174,8 @@ BOOL GetClassInfoA(HINSTANCE Instance, LPCSTR Name, WNDCLASSA* Info)
     WNDCLASSEXA Wide{};
     const BOOL Result = GetClassInfoExA(Instance, Name, &Wide);
     if (Result)
-        *Info = {Wide.style,         Wide.lpfnWndProc, Wide.cbClsExtra, Wide.cbWndExtra,
-                 Wide.hInstance,     Wide.hIcon,       Wide.hCursor,    Wide.hbrBackground,
-                 Wide.lpszMenuName,  Wide.lpszClassName};
+        *Info = {Wide.style, Wide.lpfnWndProc, Wide.cbClsExtra,    Wide.cbWndExtra,   Wide.hInstance,
+                 Wide.hIcon, Wide.hCursor,     Wide.hbrBackground, Wide.lpszMenuName, Wide.lpszClassName};
     return Result;
 }
 
@@ -191,17 +192,28 @@ namespace {
 ULONG_PTR ReadClass(const TWindowClass& Class, int Index)
 {
     switch (Index) {
-    case GCLP_WNDPROC: return reinterpret_cast<ULONG_PTR>(Class.Proc);
-    case GCLP_HBRBACKGROUND: return reinterpret_cast<ULONG_PTR>(Class.Background);
-    case GCLP_HCURSOR: return reinterpret_cast<ULONG_PTR>(Class.Cursor);
-    case GCLP_HICON: return reinterpret_cast<ULONG_PTR>(Class.Icon);
-    case GCLP_HICONSM: return reinterpret_cast<ULONG_PTR>(Class.SmallIcon);
-    case GCLP_HMODULE: return reinterpret_cast<ULONG_PTR>(Class.Instance);
-    case GCL_STYLE: return Class.Style;
-    case GCL_CBWNDEXTRA: return static_cast<ULONG_PTR>(Class.WindowExtra);
-    case GCL_CBCLSEXTRA: return Class.Extra.size();
-    case GCW_ATOM: return Class.Atom;
-    default: break;
+    case GCLP_WNDPROC:
+        return reinterpret_cast<ULONG_PTR>(Class.Proc);
+    case GCLP_HBRBACKGROUND:
+        return reinterpret_cast<ULONG_PTR>(Class.Background);
+    case GCLP_HCURSOR:
+        return reinterpret_cast<ULONG_PTR>(Class.Cursor);
+    case GCLP_HICON:
+        return reinterpret_cast<ULONG_PTR>(Class.Icon);
+    case GCLP_HICONSM:
+        return reinterpret_cast<ULONG_PTR>(Class.SmallIcon);
+    case GCLP_HMODULE:
+        return reinterpret_cast<ULONG_PTR>(Class.Instance);
+    case GCL_STYLE:
+        return Class.Style;
+    case GCL_CBWNDEXTRA:
+        return static_cast<ULONG_PTR>(Class.WindowExtra);
+    case GCL_CBCLSEXTRA:
+        return Class.Extra.size();
+    case GCW_ATOM:
+        return Class.Atom;
+    default:
+        break;
     }
     ULONG_PTR Value = 0;
     if (Index >= 0 && static_cast<std::size_t>(Index) + sizeof(Value) <= Class.Extra.size())
@@ -214,14 +226,30 @@ ULONG_PTR ReadClass(const TWindowClass& Class, int Index)
 void WriteClass(TWindowClass& Class, int Index, LONG_PTR Value)
 {
     switch (Index) {
-    case GCLP_WNDPROC: Class.Proc = reinterpret_cast<WNDPROC>(Value); break;
-    case GCLP_HBRBACKGROUND: Class.Background = reinterpret_cast<HBRUSH>(Value); break;
-    case GCLP_HCURSOR: Class.Cursor = reinterpret_cast<HCURSOR>(Value); break;
-    case GCLP_HICON: Class.Icon = reinterpret_cast<HICON>(Value); break;
-    case GCLP_HICONSM: Class.SmallIcon = reinterpret_cast<HICON>(Value); break;
-    case GCLP_HMODULE: Class.Instance = reinterpret_cast<HINSTANCE>(Value); break;
-    case GCL_STYLE: Class.Style = static_cast<UINT>(Value); break;
-    case GCL_CBWNDEXTRA: Class.WindowExtra = static_cast<int>(Value); break;
+    case GCLP_WNDPROC:
+        Class.Proc = reinterpret_cast<WNDPROC>(Value);
+        break;
+    case GCLP_HBRBACKGROUND:
+        Class.Background = reinterpret_cast<HBRUSH>(Value);
+        break;
+    case GCLP_HCURSOR:
+        Class.Cursor = reinterpret_cast<HCURSOR>(Value);
+        break;
+    case GCLP_HICON:
+        Class.Icon = reinterpret_cast<HICON>(Value);
+        break;
+    case GCLP_HICONSM:
+        Class.SmallIcon = reinterpret_cast<HICON>(Value);
+        break;
+    case GCLP_HMODULE:
+        Class.Instance = reinterpret_cast<HINSTANCE>(Value);
+        break;
+    case GCL_STYLE:
+        Class.Style = static_cast<UINT>(Value);
+        break;
+    case GCL_CBWNDEXTRA:
+        Class.WindowExtra = static_cast<int>(Value);
+        break;
     default:
         if (Index >= 0 && static_cast<std::size_t>(Index) + sizeof(Value) <= Class.Extra.size())
             std::memcpy(Class.Extra.data() + Index, &Value, sizeof(Value));

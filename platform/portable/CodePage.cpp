@@ -2,9 +2,7 @@
 
 #include <iconv.h>
 
-#include <map>
-#include <memory>
-#include <mutex>
+#include "platform/CodePageLoader.h"
 
 namespace {
 
@@ -74,59 +72,19 @@ private:
     iconv_t FHandle;
 };
 
+std::unique_ptr<const TCodePage> Load(int Number)
+{
+    TConverter Converter(Number);
+    if (!Converter.IsOpen() || Converter.Convert("A") != U'A')
+        return nullptr;
+    return TCodePageLoader::Build(
+        Number, [&](unsigned char Byte) { return IsLead(Number, Byte); },
+        [&](std::string_view Bytes) { return Converter.Convert(Bytes); });
+}
+
 } // namespace
-
-struct TCodePageLoader {
-    static std::unique_ptr<const TCodePage> Load(int Number)
-    {
-        TConverter Converter(Number);
-        if (Number <= 0 || Number >= 65000 || !Converter.IsOpen() || Converter.Convert("A") != U'A')
-            return nullptr;
-        std::unique_ptr<TCodePage> Result(new TCodePage);
-        for (int Byte = 0; Byte < 256; ++Byte) {
-            const char Bytes[] = {static_cast<char>(Byte)};
-            Result->LeadBytes[Byte] = IsLead(Number, Byte);
-            Result->Singles[Byte] = Result->LeadBytes[Byte] ? TCodePage::None : Converter.Convert({Bytes, 1});
-            if (Result->Singles[Byte] != TCodePage::None)
-                Result->Codes.emplace(Result->Singles[Byte], static_cast<std::uint16_t>(Byte));
-        }
-        if (IsLead(Number, 0x81))
-            LoadPairs(Number, Converter, *Result);
-        return Result;
-    }
-
-private:
-    static void LoadPairs(int Number, TConverter& Converter, TCodePage& Result)
-    {
-        Result.Pairs.assign(65536, TCodePage::None);
-        for (int Code = 0x8140; Code < 0x10000; ++Code) {
-            if (!Result.LeadBytes[Code >> 8] || (Code & 0xFF) < 0x40)
-                continue;
-            const char Bytes[] = {static_cast<char>(Code >> 8), static_cast<char>(Code)};
-            Result.Pairs[Code] = Converter.Convert({Bytes, 2});
-        }
-        // Rows ED and EE of code page 932 repeat characters whose usual code is
-        // in rows FA to FC; elsewhere the lower of two codes is the usual one.
-        const auto Add = [&](int First, int Last) {
-            for (int Code = First; Code <= Last; ++Code)
-                if (Result.Pairs[Code] != TCodePage::None)
-                    Result.Codes.emplace(Result.Pairs[Code], static_cast<std::uint16_t>(Code));
-        };
-        if (Number == 932) {
-            Add(0x8140, 0xECFF);
-            Add(0xEF00, 0xFFFF);
-        }
-        Add(0x8140, 0xFFFF);
-    }
-};
 
 const TCodePage* TCodePage::Find(int Number)
 {
-    static std::mutex Mutex;
-    static std::map<int, std::unique_ptr<const TCodePage>> Loaded;
-    const std::lock_guard Lock(Mutex);
-    const auto [Place, IsNew] = Loaded.try_emplace(Number);
-    if (IsNew)
-        Place->second = TCodePageLoader::Load(Number);
-    return Place->second.get();
+    return TCodePageLoader::FindLoaded(Number, Load);
 }

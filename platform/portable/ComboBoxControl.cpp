@@ -49,11 +49,11 @@ private:
 
     HWND FList = nullptr;
     HWND FEdit = nullptr;
-    int FFieldHeight = 0;  // 0: from the font
+    int FFieldHeight = 0; // 0: from the font
     int FDropHeight = 0;
     int FDroppedWidth = 0;
     bool FDropped = false;
-    bool FQuiet = false;  // the field is being set by the combo box itself
+    bool FQuiet = false; // the field is being set by the combo box itself
     bool FExtendedInterface = false;
 };
 
@@ -146,13 +146,20 @@ LRESULT TComboBox::HandleItems(UINT Message, WPARAM WParam, LPARAM LParam)
     static constexpr struct {
         UINT Combo, List;
     } Same[] = {
-        {CB_ADDSTRING, LB_ADDSTRING},   {CB_INSERTSTRING, LB_INSERTSTRING},
-        {CB_GETCOUNT, LB_GETCOUNT},     {CB_GETCURSEL, LB_GETCURSEL},
-        {CB_GETLBTEXT, LB_GETTEXT},     {CB_GETLBTEXTLEN, LB_GETTEXTLEN},
-        {CB_FINDSTRING, LB_FINDSTRING}, {CB_FINDSTRINGEXACT, LB_FINDSTRINGEXACT},
-        {CB_GETITEMDATA, LB_GETITEMDATA}, {CB_SETITEMDATA, LB_SETITEMDATA},
-        {CB_GETTOPINDEX, LB_GETTOPINDEX}, {CB_SETTOPINDEX, LB_SETTOPINDEX},
-        {CB_GETHORIZONTALEXTENT, LB_GETHORIZONTALEXTENT}, {CB_SETHORIZONTALEXTENT, LB_SETHORIZONTALEXTENT},
+        {CB_ADDSTRING, LB_ADDSTRING},
+        {CB_INSERTSTRING, LB_INSERTSTRING},
+        {CB_GETCOUNT, LB_GETCOUNT},
+        {CB_GETCURSEL, LB_GETCURSEL},
+        {CB_GETLBTEXT, LB_GETTEXT},
+        {CB_GETLBTEXTLEN, LB_GETTEXTLEN},
+        {CB_FINDSTRING, LB_FINDSTRING},
+        {CB_FINDSTRINGEXACT, LB_FINDSTRINGEXACT},
+        {CB_GETITEMDATA, LB_GETITEMDATA},
+        {CB_SETITEMDATA, LB_SETITEMDATA},
+        {CB_GETTOPINDEX, LB_GETTOPINDEX},
+        {CB_SETTOPINDEX, LB_SETTOPINDEX},
+        {CB_GETHORIZONTALEXTENT, LB_GETHORIZONTALEXTENT},
+        {CB_SETHORIZONTALEXTENT, LB_SETHORIZONTALEXTENT},
     };
     for (const auto& Row : Same)
         if (Row.Combo == Message) {
@@ -195,7 +202,8 @@ LRESULT TComboBox::HandleField(UINT Message, WPARAM WParam, LPARAM LParam)
     case CB_SETEDITSEL:
         if (!FEdit)
             return CB_ERR;
-        return Edit(EM_SETSEL, static_cast<WPARAM>(static_cast<short>(LOWORD(LParam))), static_cast<short>(HIWORD(LParam)));
+        return Edit(EM_SETSEL, static_cast<WPARAM>(static_cast<short>(LOWORD(LParam))),
+                    static_cast<short>(HIWORD(LParam)));
     case CB_LIMITTEXT:
         Edit(EM_SETLIMITTEXT, WParam, LParam);
         return TRUE;
@@ -264,8 +272,8 @@ void TComboBox::Start()
         ListStyle |= LBS_OWNERDRAWFIXED;
     const RECT Rect = ClientRect();
     FDropHeight = Rect.bottom;
-    FList = CreateWindowExA(WS_EX_TOOLWINDOW, "ComboLBox", "", ListStyle, 0, 0, Rect.right, Rect.bottom, nullptr,
-                            nullptr, nullptr, nullptr);
+    FList = CreateWindowExA(WS_EX_TOOLWINDOW, "ComboLBox", "", ListStyle, 0, 0, Rect.right, Rect.bottom,
+                            nullptr, nullptr, nullptr, nullptr);
     if (HasEdit()) {
         DWORD EditStyle = WS_CHILD | WS_VISIBLE | ES_NOHIDESEL | ES_AUTOHSCROLL;
         if (!Enabled())
@@ -275,9 +283,9 @@ void TComboBox::Start()
         if (Style() & CBS_LOWERCASE)
             EditStyle |= ES_LOWERCASE;
         FQuiet = true;
-        FEdit = CreateWindowExA(ExStyle() & (WS_EX_RTLREADING | WS_EX_RIGHT), "Edit", Text().c_str(), EditStyle, 0, 0,
-                                0, 0, Window(), reinterpret_cast<HMENU>(static_cast<INT_PTR>(EditId)), nullptr,
-                                nullptr);
+        FEdit = CreateWindowExA(ExStyle() & (WS_EX_RTLREADING | WS_EX_RIGHT), "Edit", Text().c_str(),
+                                EditStyle, 0, 0, 0, 0, Window(),
+                                reinterpret_cast<HMENU>(static_cast<INT_PTR>(EditId)), nullptr, nullptr);
         FQuiet = false;
     }
     FontChanged();
@@ -297,7 +305,8 @@ void TComboBox::FontChanged()
     Edit(WM_SETFONT, reinterpret_cast<WPARAM>(Font()));
     if (!Simple()) {
         const RECT Rect = ClientRect();
-        SetWindowPos(Window(), nullptr, 0, 0, Rect.right, ClosedHeight(), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+        SetWindowPos(Window(), nullptr, 0, 0, Rect.right, ClosedHeight(),
+                     SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     }
     Place();
 }
@@ -313,8 +322,8 @@ void TComboBox::Place()
         return;
     const RECT Rect = ClientRect();
     const int Right = Simple() ? Rect.right - Edge : Rect.right - Edge - ButtonWidth;
-    SetWindowPos(FEdit, nullptr, Edge + 1, Edge + 1, std::max(0, Right - Edge - 2), std::max(0, ClosedHeight() - 2 * Edge - 2),
-                 SWP_NOZORDER | SWP_NOACTIVATE);
+    SetWindowPos(FEdit, nullptr, Edge + 1, Edge + 1, std::max(0, Right - Edge - 2),
+                 std::max(0, ClosedHeight() - 2 * Edge - 2), SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 std::string TComboBox::ItemText(int Index) const
@@ -391,14 +400,26 @@ void TComboBox::Key(WPARAM Key)
     const int Count = static_cast<int>(List(LB_GETCOUNT));
     int Target = Current();
     switch (Key) {
-    case VK_UP: --Target; break;
-    case VK_DOWN: ++Target; break;
-    case VK_HOME: Target = 0; break;
-    case VK_END: Target = Count - 1; break;
-    case VK_F4: return Drop(!FDropped, false);
-    case VK_RETURN: return Drop(false, true);
-    case VK_ESCAPE: return Drop(false, false);
-    default: return;
+    case VK_UP:
+        --Target;
+        break;
+    case VK_DOWN:
+        ++Target;
+        break;
+    case VK_HOME:
+        Target = 0;
+        break;
+    case VK_END:
+        Target = Count - 1;
+        break;
+    case VK_F4:
+        return Drop(!FDropped, false);
+    case VK_RETURN:
+        return Drop(false, true);
+    case VK_ESCAPE:
+        return Drop(false, false);
+    default:
+        return;
     }
     if (Count == 0)
         return;
@@ -495,7 +516,7 @@ BOOL TComboBox::GetInfo(COMBOBOXINFO& Info) const
     Info.hwndList = FList;
     return TRUE;
 }
-}  // namespace
+} // namespace
 
 void RegisterComboBoxes()
 {

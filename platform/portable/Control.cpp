@@ -11,7 +11,11 @@ char32_t NextCharacter(const std::string& Text, std::size_t& At)
 {
     const auto Byte = [&](std::size_t Index) { return static_cast<unsigned char>(Text[Index]); };
     const unsigned First = Byte(At++);
-    const int Following = First < 0x80 ? 0 : (First >> 5) == 6 ? 1 : (First >> 4) == 14 ? 2 : (First >> 3) == 30 ? 3 : -1;
+    const int Following = First < 0x80         ? 0
+                          : (First >> 5) == 6  ? 1
+                          : (First >> 4) == 14 ? 2
+                          : (First >> 3) == 30 ? 3
+                                               : -1;
     if (Following < 0)
         return Replacement;
     char32_t Result = Following ? First & (0x3Fu >> Following) : First;
@@ -42,7 +46,7 @@ void AppendCharacter(std::string& Text, char32_t Character)
         Add(0x80 | (Character & 0x3F));
     }
 }
-}  // namespace
+} // namespace
 
 std::u16string Widen(const std::string& Text)
 {
@@ -159,7 +163,8 @@ std::string TControl::Text() const
 
 LRESULT TControl::Command(int Code)
 {
-    return SendMessageA(GetParent(FWindow), WM_COMMAND, MAKEWPARAM(Id(), Code), reinterpret_cast<LPARAM>(FWindow));
+    return SendMessageA(GetParent(FWindow), WM_COMMAND, MAKEWPARAM(Id(), Code),
+                        reinterpret_cast<LPARAM>(FWindow));
 }
 
 LRESULT TControl::Notify(UINT Code)
@@ -176,7 +181,8 @@ LRESULT TControl::NotifyWith(NMHDR& Header, UINT Code)
 
 HBRUSH TControl::ParentColors(HDC Dc, UINT Message) const
 {
-    const auto Answer = SendMessageA(GetParent(FWindow), Message, reinterpret_cast<WPARAM>(Dc), reinterpret_cast<LPARAM>(FWindow));
+    const auto Answer = SendMessageA(GetParent(FWindow), Message, reinterpret_cast<WPARAM>(Dc),
+                                     reinterpret_cast<LPARAM>(FWindow));
     if (Answer)
         return reinterpret_cast<HBRUSH>(Answer);
     const bool Field = Message == WM_CTLCOLOREDIT || Message == WM_CTLCOLORLISTBOX;

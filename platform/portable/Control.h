@@ -74,13 +74,13 @@ private:
     HGDIOBJ FOld;
 };
 
-template <class T>
+template<class T>
 struct TControlHolder final : TControlState {
     explicit TControlHolder(HWND Handle) : Control(std::make_shared<T>(Handle)) {}
     std::shared_ptr<T> Control;
 };
 
-template <class T>
+template<class T>
 LRESULT CALLBACK ControlProc(HWND Handle, UINT Message, WPARAM WParam, LPARAM LParam)
 {
     if (Message == WM_NCCREATE) {
@@ -98,14 +98,14 @@ LRESULT CALLBACK ControlProc(HWND Handle, UINT Message, WPARAM WParam, LPARAM LP
     return Result;
 }
 
-template <class T>
+template<class T>
 void RegisterControl(LPCSTR Name, UINT ClassStyle = CS_DBLCLKS, LPCSTR Cursor = nullptr)
 {
     RegisterBuiltInClass(Name, ClassStyle | CS_GLOBALCLASS, ControlProc<T>, sizeof(void*), Cursor);
 }
 
 // The structure that a message parameter points at.
-template <class T>
+template<class T>
 T& Structure(LPARAM LParam)
 {
     return *reinterpret_cast<T*>(LParam);

@@ -90,7 +90,8 @@ bool FindPlace(HWND ParentHandle, DWORD Style, TPlaceInTree& Place)
     return true;
 }
 
-TWindow* MakeWindow(const CREATESTRUCTA& Data, const std::shared_ptr<TWindowClass>& Class, const TPlaceInTree& Place)
+TWindow* MakeWindow(const CREATESTRUCTA& Data, const std::shared_ptr<TWindowClass>& Class,
+                    const TPlaceInTree& Place)
 {
     auto Window = std::make_unique<TWindow>();
     const auto Style = static_cast<DWORD>(Data.style);
@@ -121,7 +122,8 @@ TWindow* MakeWindow(const CREATESTRUCTA& Data, const std::shared_ptr<TWindowClas
 bool Introduce(HWND Handle, CREATESTRUCTA& Data)
 {
     CBT_CREATEWNDA Hook{&Data, HWND_TOP};
-    if (CallHooks(WH_CBT, HCBT_CREATEWND, reinterpret_cast<WPARAM>(Handle), reinterpret_cast<LPARAM>(&Hook)) != 0) {
+    if (CallHooks(WH_CBT, HCBT_CREATEWND, reinterpret_cast<WPARAM>(Handle),
+                  reinterpret_cast<LPARAM>(&Hook)) != 0) {
         RemoveWindow(Handle);
         return false;
     }
@@ -167,8 +169,10 @@ void ShowFirst(HWND Handle, const CREATESTRUCTA& Data)
         Command = Window->Has(WS_MINIMIZE) ? SW_SHOWMINIMIZED : SW_SHOW;
         Window->Style &= ~(WS_MINIMIZE | WS_MAXIMIZE);
         RECT Rect{};
-        const UINT Flags = MinMaximize(Handle, Change, Rect) | SWP_FRAMECHANGED | SWP_NOZORDER | SWP_NOACTIVATE;
-        SetWindowPos(Handle, nullptr, Rect.left, Rect.top, Rect.right - Rect.left, Rect.bottom - Rect.top, Flags);
+        const UINT Flags =
+            MinMaximize(Handle, Change, Rect) | SWP_FRAMECHANGED | SWP_NOZORDER | SWP_NOACTIVATE;
+        SetWindowPos(Handle, nullptr, Rect.left, Rect.top, Rect.right - Rect.left, Rect.bottom - Rect.top,
+                     Flags);
     }
     NotifyParent(Handle, WM_CREATE);
     if (!IsWindow(Handle) || !(Style & WS_VISIBLE))
@@ -182,8 +186,8 @@ void ShowFirst(HWND Handle, const CREATESTRUCTA& Data)
 
 } // namespace
 
-HWND CreateWindowExA(DWORD ExStyle, LPCSTR ClassName, LPCSTR Text, DWORD Style, int X, int Y, int Width, int Height,
-                     HWND Parent, HMENU Menu, HINSTANCE Instance, LPVOID Param)
+HWND CreateWindowExA(DWORD ExStyle, LPCSTR ClassName, LPCSTR Text, DWORD Style, int X, int Y, int Width,
+                     int Height, HWND Parent, HMENU Menu, HINSTANCE Instance, LPVOID Param)
 {
     const std::shared_ptr<TWindowClass> Class = FindWindowClass(ClassName);
     if (!Class) {
@@ -200,8 +204,8 @@ HWND CreateWindowExA(DWORD ExStyle, LPCSTR ClassName, LPCSTR Text, DWORD Style, 
     TPlaceInTree Place;
     if (!FindPlace(Parent, Style, Place))
         return nullptr;
-    CREATESTRUCTA Data{Param, Instance, Menu, Parent, Height, Width, Y, X, static_cast<LONG>(Style), Text, ClassName,
-                       ExStyle};
+    CREATESTRUCTA Data{Param, Instance,  Menu,   Parent, Height, Width, Y, X, static_cast<LONG>(Style),
+                       Text,  ClassName, ExStyle};
     FillDefaults(Data, *Place.Parent);
     TWindow* const Window = MakeWindow(Data, Class, Place);
     if (!Window) {

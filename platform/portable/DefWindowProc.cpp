@@ -124,7 +124,9 @@ LRESULT HitTest(HWND Handle, LPARAM Where)
     if (PtInRect(&Client, Point))
         return HTCLIENT;
     if (Window->Has(WS_CAPTION) && Point.y < Client.top - MenuBarHeight(*Window))
-        return Point.y < Outer.top + GetSystemMetrics(SM_CYDLGFRAME) && Window->Has(WS_THICKFRAME) ? HTTOP : HTCAPTION;
+        return Point.y < Outer.top + GetSystemMetrics(SM_CYDLGFRAME) && Window->Has(WS_THICKFRAME)
+                   ? HTTOP
+                   : HTCAPTION;
     if (Point.y < Client.top && MenuBarHeight(*Window) > 0)
         return HTMENU;
     if (Window->Has(WS_VSCROLL) && Point.x >= Client.right && Point.y < Client.bottom)
@@ -155,7 +157,8 @@ LRESULT SystemCommand(HWND Handle, WPARAM WParam, LPARAM LParam)
     if (CallHooks(WH_CBT, HCBT_SYSCOMMAND, WParam, LParam) != 0)
         return 0;
     switch (WParam & 0xFFF0) {
-    case SC_CLOSE: return SendMessageA(Handle, WM_CLOSE, 0, 0);
+    case SC_CLOSE:
+        return SendMessageA(Handle, WM_CLOSE, 0, 0);
     case SC_MINIMIZE:
         ShowOwnedPopups(Handle, FALSE);
         ShowWindow(Handle, SW_MINIMIZE);
@@ -173,7 +176,8 @@ LRESULT SystemCommand(HWND Handle, WPARAM WParam, LPARAM LParam)
     case SC_KEYMENU:
         TrackMenuBarByKey(Handle, static_cast<char>(LParam));
         return 0;
-    default: return 0;
+    default:
+        return 0;
     }
 }
 
@@ -253,7 +257,8 @@ LRESULT ContextMenu(HWND Handle, LPARAM Where)
 {
     POINT Point{static_cast<SHORT>(LOWORD(Where)), static_cast<SHORT>(HIWORD(Where))};
     ClientToScreen(Handle, &Point);
-    return SendMessageA(Handle, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(Handle), MAKELPARAM(Point.x, Point.y));
+    return SendMessageA(Handle, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(Handle),
+                        MAKELPARAM(Point.x, Point.y));
 }
 
 LRESULT NcCreate(HWND Handle, const CREATESTRUCTA* Data)
@@ -277,51 +282,80 @@ LRESULT DefWindowProcA(HWND Handle, UINT Message, WPARAM WParam, LPARAM LParam)
 {
     const auto Dc = reinterpret_cast<HDC>(WParam);
     switch (Message) {
-    case WM_NCCREATE: return NcCreate(Handle, reinterpret_cast<const CREATESTRUCTA*>(LParam));
+    case WM_NCCREATE:
+        return NcCreate(Handle, reinterpret_cast<const CREATESTRUCTA*>(LParam));
     case WM_NCCALCSIZE:
         if (const TWindow* const Window = WindowOf(Handle))
             CalculateClient(*Window, *reinterpret_cast<RECT*>(LParam));
         return 0;
-    case WM_NCDESTROY: return 0;
-    case WM_NCHITTEST: return HitTest(Handle, LParam);
-    case WM_NCACTIVATE: return TRUE;
-    case WM_WINDOWPOSCHANGING: LimitSize(Handle, *reinterpret_cast<WINDOWPOS*>(LParam)); return 0;
-    case WM_WINDOWPOSCHANGED: TellMoved(Handle, *reinterpret_cast<const WINDOWPOS*>(LParam)); return 0;
+    case WM_NCDESTROY:
+        return 0;
+    case WM_NCHITTEST:
+        return HitTest(Handle, LParam);
+    case WM_NCACTIVATE:
+        return TRUE;
+    case WM_WINDOWPOSCHANGING:
+        LimitSize(Handle, *reinterpret_cast<WINDOWPOS*>(LParam));
+        return 0;
+    case WM_WINDOWPOSCHANGED:
+        TellMoved(Handle, *reinterpret_cast<const WINDOWPOS*>(LParam));
+        return 0;
     case WM_SHOWWINDOW:
         if (LParam)
             ShowWindow(Handle, WParam ? SW_SHOWNOACTIVATE : SW_HIDE);
         return 0;
-    case WM_SETTEXT: return SetText(Handle, reinterpret_cast<LPCSTR>(LParam));
-    case WM_GETTEXT: return GetText(Handle, WParam, LParam);
-    case WM_GETTEXTLENGTH: return TextLength(Handle);
-    case WM_SETICON: return ChangeIcon(Handle, WParam, LParam, true);
-    case WM_GETICON: return ChangeIcon(Handle, WParam, 0, false);
-    case WM_SETREDRAW: return SetRedraw(Handle, WParam != 0);
-    case WM_PAINT: return PaintNothing(Handle);
-    case WM_PRINT: return Print(Handle, WParam, LParam);
+    case WM_SETTEXT:
+        return SetText(Handle, reinterpret_cast<LPCSTR>(LParam));
+    case WM_GETTEXT:
+        return GetText(Handle, WParam, LParam);
+    case WM_GETTEXTLENGTH:
+        return TextLength(Handle);
+    case WM_SETICON:
+        return ChangeIcon(Handle, WParam, LParam, true);
+    case WM_GETICON:
+        return ChangeIcon(Handle, WParam, 0, false);
+    case WM_SETREDRAW:
+        return SetRedraw(Handle, WParam != 0);
+    case WM_PAINT:
+        return PaintNothing(Handle);
+    case WM_PRINT:
+        return Print(Handle, WParam, LParam);
     case WM_ERASEBKGND:
-    case WM_ICONERASEBKGND: return EraseBackground(Handle, Dc);
+    case WM_ICONERASEBKGND:
+        return EraseBackground(Handle, Dc);
     case WM_CTLCOLOREDIT:
-    case WM_CTLCOLORLISTBOX: return ControlColor(Dc, COLOR_WINDOW);
+    case WM_CTLCOLORLISTBOX:
+        return ControlColor(Dc, COLOR_WINDOW);
     case WM_CTLCOLORMSGBOX:
     case WM_CTLCOLORBTN:
     case WM_CTLCOLORDLG:
-    case WM_CTLCOLORSTATIC: return ControlColor(Dc, COLOR_BTNFACE);
-    case WM_CTLCOLORSCROLLBAR: return ControlColor(Dc, COLOR_SCROLLBAR);
-    case WM_CLOSE: DestroyWindow(Handle); return 0;
+    case WM_CTLCOLORSTATIC:
+        return ControlColor(Dc, COLOR_BTNFACE);
+    case WM_CTLCOLORSCROLLBAR:
+        return ControlColor(Dc, COLOR_SCROLLBAR);
+    case WM_CLOSE:
+        DestroyWindow(Handle);
+        return 0;
     case WM_ACTIVATE:
         if (LOWORD(WParam) != WA_INACTIVE && !IsIconic(Handle))
             SetFocus(Handle);
         return 0;
-    case WM_MOUSEACTIVATE: return MouseActivate(Handle, WParam, LParam);
-    case WM_SETCURSOR: return SetClassCursor(Handle, WParam, LParam);
-    case WM_SYSCOMMAND: return SystemCommand(Handle, WParam, LParam);
-    case WM_SYSKEYDOWN: return SystemKey(Handle, WParam, LParam);
-    case WM_SYSCHAR: return SystemChar(Handle, WParam, LParam);
-    case WM_RBUTTONUP: return ContextMenu(Handle, LParam);
+    case WM_MOUSEACTIVATE:
+        return MouseActivate(Handle, WParam, LParam);
+    case WM_SETCURSOR:
+        return SetClassCursor(Handle, WParam, LParam);
+    case WM_SYSCOMMAND:
+        return SystemCommand(Handle, WParam, LParam);
+    case WM_SYSKEYDOWN:
+        return SystemKey(Handle, WParam, LParam);
+    case WM_SYSCHAR:
+        return SystemChar(Handle, WParam, LParam);
+    case WM_RBUTTONUP:
+        return ContextMenu(Handle, LParam);
     case WM_CONTEXTMENU:
     case WM_MOUSEWHEEL:
-    case WM_HELP: return PassToParent(Handle, Message, WParam, LParam);
+    case WM_HELP:
+        return PassToParent(Handle, Message, WParam, LParam);
     case WM_CANCELMODE:
         if (CurrentThread()->MenuOwner == Handle)
             EndMenu();
@@ -329,13 +363,17 @@ LRESULT DefWindowProcA(HWND Handle, UINT Message, WPARAM WParam, LPARAM LParam)
             ReleaseCapture();
         return 0;
     case WM_VKEYTOITEM:
-    case WM_CHARTOITEM: return -1;
+    case WM_CHARTOITEM:
+        return -1;
     case WM_QUERYOPEN:
-    case WM_QUERYENDSESSION: return TRUE;
-    case WM_NOTIFYFORMAT: return 1;  // NFR_ANSI
+    case WM_QUERYENDSESSION:
+        return TRUE;
+    case WM_NOTIFYFORMAT:
+        return 1; // NFR_ANSI
     case WM_QUERYUISTATE:
     case WM_UPDATEUISTATE:
-    case WM_CHANGEUISTATE: return UiState(Handle, Message, WParam);
+    case WM_CHANGEUISTATE:
+        return UiState(Handle, Message, WParam);
     default:
         if (Message == ShowFromOtherThread())
             ShowWindow(Handle, static_cast<int>(WParam));

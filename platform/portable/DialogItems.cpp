@@ -21,8 +21,8 @@ UINT GetDlgItemTextA(HWND Dialog, int Id, LPSTR Text, int Size)
 {
     if (Text && Size > 0)
         Text[0] = 0;
-    return static_cast<UINT>(
-        SendDlgItemMessageA(Dialog, Id, WM_GETTEXT, static_cast<WPARAM>(Size), reinterpret_cast<LPARAM>(Text)));
+    return static_cast<UINT>(SendDlgItemMessageA(Dialog, Id, WM_GETTEXT, static_cast<WPARAM>(Size),
+                                                 reinterpret_cast<LPARAM>(Text)));
 }
 
 BOOL SetDlgItemInt(HWND Dialog, int Id, UINT Value, BOOL Signed)

@@ -110,12 +110,13 @@ void MoveInGroup(HWND Dialog, HWND From, bool Previous)
 void PressDefault(HWND Dialog)
 {
     const LRESULT Default = SendMessageA(Dialog, DM_GETDEFID, 0, 0);
-    constexpr WORD HasDefault = 0x534B;  // DC_HASDEFID
+    constexpr WORD HasDefault = 0x534B; // DC_HASDEFID
     const int Id = HIWORD(Default) == HasDefault ? LOWORD(Default) : IDOK;
     const HWND Focus = GetFocus();
     const HWND Button = GetDlgItem(Dialog, Id);
     if (Focus && IsChild(Dialog, Focus) && (CodeOf(Focus) & DLGC_DEFPUSHBUTTON)) {
-        SendMessageA(Dialog, WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(Focus), BN_CLICKED), reinterpret_cast<LPARAM>(Focus));
+        SendMessageA(Dialog, WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(Focus), BN_CLICKED),
+                     reinterpret_cast<LPARAM>(Focus));
         return;
     }
     if (!Button || IsWindowEnabled(Button))
@@ -173,8 +174,11 @@ bool HandleKey(HWND Dialog, const MSG& Message, LRESULT Code)
         SendMessageA(Dialog, WM_COMMAND, IDCANCEL, reinterpret_cast<LPARAM>(GetDlgItem(Dialog, IDCANCEL)));
         return true;
     case VK_EXECUTE:
-    case VK_RETURN: PressDefault(Dialog); return true;
-    default: return false;
+    case VK_RETURN:
+        PressDefault(Dialog);
+        return true;
+    default:
+        return false;
     }
 }
 
@@ -192,10 +196,12 @@ BOOL IsDialogMessageA(HWND Dialog, LPMSG Message)
     if (Message->message == WM_KEYDOWN && !Wanted && HandleKey(Dialog, *Message, Code))
         return TRUE;
     if (Message->message == WM_CHAR && !(Code & DLGC_WANTCHARS) && !Wanted && Message->wParam != '\t' &&
-        PressMnemonic(Dialog, Message->hwnd, static_cast<char>(std::tolower(static_cast<int>(Message->wParam)))))
+        PressMnemonic(Dialog, Message->hwnd,
+                      static_cast<char>(std::tolower(static_cast<int>(Message->wParam)))))
         return TRUE;
     if (Message->message == WM_SYSCHAR &&
-        PressMnemonic(Dialog, Message->hwnd, static_cast<char>(std::tolower(static_cast<int>(Message->wParam)))))
+        PressMnemonic(Dialog, Message->hwnd,
+                      static_cast<char>(std::tolower(static_cast<int>(Message->wParam)))))
         return TRUE;
     TranslateMessage(Message);
     DispatchMessageA(Message);

@@ -17,7 +17,7 @@ struct TDialog : TControlState {
     INT_PTR Result = 0;
     UINT DefaultId = 0;
     HFONT OwnFont = nullptr;
-    int BaseX = 6;   // average width and height of the font's characters
+    int BaseX = 6; // average width and height of the font's characters
     int BaseY = 13;
 
     ~TDialog() override
@@ -37,7 +37,7 @@ class TTemplateReader {
 public:
     explicit TTemplateReader(const void* Data) : FAt(static_cast<const BYTE*>(Data)) {}
 
-    template <typename TValue>
+    template<typename TValue>
     TValue Read()
     {
         TValue Value;
@@ -90,7 +90,7 @@ private:
 struct TBox {
     DWORD Style = 0;
     DWORD ExStyle = 0;
-    int X = 0, Y = 0, Width = 0, Height = 0;  // dialog units
+    int X = 0, Y = 0, Width = 0, Height = 0; // dialog units
 };
 
 struct TDialogData {
@@ -108,7 +108,7 @@ TBox ReadBox(TTemplateReader& Reader, bool Extended, WORD* Count)
 {
     TBox Box;
     if (Extended) {
-        Reader.Skip(4);  // help id
+        Reader.Skip(4); // help id
         Box.ExStyle = Reader.Read<DWORD>();
         Box.Style = Reader.Read<DWORD>();
     } else {
@@ -131,7 +131,7 @@ TDialogData ReadDialog(TTemplateReader& Reader, const void* Template)
     if (Data.Extended)
         Reader.Skip(4);
     Data.Box = ReadBox(Reader, Data.Extended, &Data.Count);
-    Reader.Name();  // menu
+    Reader.Name(); // menu
     Data.ClassName = Reader.Name();
     Data.Title = Reader.Name();
     if (Data.Box.Style & DS_SETFONT) {
@@ -199,10 +199,10 @@ bool CreateItems(HWND Dialog, TTemplateReader& Reader, const TDialogData& Data, 
         if (!State)
             return false;
         const RECT Rect = Pixels(*State, Box);
-        const HWND Item = CreateWindowExA(Box.ExStyle | WS_EX_NOPARENTNOTIFY, PredefinedClass(ClassName), Text.c_str(),
-                                          Box.Style | WS_CHILD, Rect.left, Rect.top, Rect.right - Rect.left,
-                                          Rect.bottom - Rect.top, Dialog,
-                                          reinterpret_cast<HMENU>(static_cast<UINT_PTR>(Id)), Instance, nullptr);
+        const HWND Item = CreateWindowExA(
+            Box.ExStyle | WS_EX_NOPARENTNOTIFY, PredefinedClass(ClassName), Text.c_str(),
+            Box.Style | WS_CHILD, Rect.left, Rect.top, Rect.right - Rect.left, Rect.bottom - Rect.top, Dialog,
+            reinterpret_cast<HMENU>(static_cast<UINT_PTR>(Id)), Instance, nullptr);
         if (!Item) {
             if (Data.Box.Style & DS_NOFAILCREATE)
                 continue;
@@ -265,8 +265,8 @@ HWND CreateDialogWindow(HINSTANCE Instance, const void* Template, HWND Owner, DL
     const RECT Rect = OuterRect(*State, Data, Owner);
     const std::string ClassName = Data.ClassName.empty() ? "#32770" : Data.ClassName;
     const HWND Dialog = CreateWindowExA(ExStyle, ClassName.c_str(), Data.Title.c_str(), DialogStyle(Data),
-                                        Rect.left, Rect.top, Rect.right - Rect.left, Rect.bottom - Rect.top, Owner,
-                                        nullptr, Instance, nullptr);
+                                        Rect.left, Rect.top, Rect.right - Rect.left, Rect.bottom - Rect.top,
+                                        Owner, nullptr, Instance, nullptr);
     if (!Dialog)
         return nullptr;
     const HFONT Font = State->OwnFont;
@@ -343,7 +343,7 @@ void RestoreFocus(HWND Dialog)
 LRESULT DefaultId(HWND Dialog)
 {
     const TDialog* const State = StateOf<TDialog>(Dialog);
-    return State && State->DefaultId ? MAKELRESULT(State->DefaultId, 0x534B) : 0;  // DC_HASDEFID
+    return State && State->DefaultId ? MAKELRESULT(State->DefaultId, 0x534B) : 0; // DC_HASDEFID
 }
 
 LRESULT SetDefaultId(HWND Dialog, UINT Id)
@@ -370,7 +370,9 @@ LRESULT DefaultDialogAnswer(HWND Dialog, UINT Message, WPARAM WParam, LPARAM LPa
         else
             SaveFocus(Dialog);
         return 0;
-    case WM_SETFOCUS: RestoreFocus(Dialog); return 0;
+    case WM_SETFOCUS:
+        RestoreFocus(Dialog);
+        return 0;
     case WM_NCDESTROY:
         SetWindowLongPtrA(Dialog, DWLP_DLGPROC, 0);
         return DefWindowProcA(Dialog, Message, WParam, LParam);
@@ -378,7 +380,8 @@ LRESULT DefaultDialogAnswer(HWND Dialog, UINT Message, WPARAM WParam, LPARAM LPa
         PostMessageA(Dialog, WM_COMMAND, IDCANCEL, reinterpret_cast<LPARAM>(GetDlgItem(Dialog, IDCANCEL)));
         return 0;
     case WM_NEXTDLGCTL: {
-        const HWND Next = LParam ? reinterpret_cast<HWND>(WParam) : GetNextDlgTabItem(Dialog, GetFocus(), WParam != 0);
+        const HWND Next =
+            LParam ? reinterpret_cast<HWND>(WParam) : GetNextDlgTabItem(Dialog, GetFocus(), WParam != 0);
         if (Next)
             SetFocus(Next);
         return 0;
@@ -387,9 +390,12 @@ LRESULT DefaultDialogAnswer(HWND Dialog, UINT Message, WPARAM WParam, LPARAM LPa
         const TWindow* const Window = WindowOf(Dialog);
         return Window ? reinterpret_cast<LRESULT>(Window->Font) : 0;
     }
-    case DM_GETDEFID: return DefaultId(Dialog);
-    case DM_SETDEFID: return SetDefaultId(Dialog, static_cast<UINT>(WParam));
-    default: return DefWindowProcA(Dialog, Message, WParam, LParam);
+    case DM_GETDEFID:
+        return DefaultId(Dialog);
+    case DM_SETDEFID:
+        return SetDefaultId(Dialog, static_cast<UINT>(WParam));
+    default:
+        return DefWindowProcA(Dialog, Message, WParam, LParam);
     }
 }
 
@@ -413,7 +419,8 @@ LRESULT DefDlgProcA(HWND Dialog, UINT Message, WPARAM WParam, LPARAM LParam)
     if (!IsWindow(Dialog))
         return Answer;
     if (AnswersDirectly(Message))
-        return Answer || Message == WM_INITDIALOG ? Answer : DefaultDialogAnswer(Dialog, Message, WParam, LParam);
+        return Answer || Message == WM_INITDIALOG ? Answer
+                                                  : DefaultDialogAnswer(Dialog, Message, WParam, LParam);
     if (!Answer)
         return DefaultDialogAnswer(Dialog, Message, WParam, LParam);
     return GetWindowLongPtrA(Dialog, DWLP_MSGRESULT);
@@ -426,12 +433,14 @@ void RegisterOwnClasses()
                          reinterpret_cast<HBRUSH>(static_cast<LONG_PTR>(COLOR_BTNFACE + 1)));
 }
 
-HWND CreateDialogIndirectParamA(HINSTANCE Instance, LPCDLGTEMPLATEA Template, HWND Owner, DLGPROC Proc, LPARAM Param)
+HWND CreateDialogIndirectParamA(HINSTANCE Instance, LPCDLGTEMPLATEA Template, HWND Owner, DLGPROC Proc,
+                                LPARAM Param)
 {
     return Template ? CreateDialogWindow(Instance, Template, Owner, Proc, Param) : nullptr;
 }
 
-INT_PTR DialogBoxIndirectParamA(HINSTANCE Instance, LPCDLGTEMPLATEA Template, HWND Owner, DLGPROC Proc, LPARAM Param)
+INT_PTR DialogBoxIndirectParamA(HINSTANCE Instance, LPCDLGTEMPLATEA Template, HWND Owner, DLGPROC Proc,
+                                LPARAM Param)
 {
     if (!Template || (Owner && !IsWindow(Owner)))
         return -1;

@@ -65,12 +65,12 @@ private:
     void PaintLine(HDC Dc, std::size_t Line, const RECT& Rect, UINT Format);
 
     std::u16string FText;
-    std::size_t FStart = 0;  // where a selection began
-    std::size_t FEnd = 0;    // the caret
+    std::size_t FStart = 0; // where a selection began
+    std::size_t FEnd = 0;   // the caret
     std::size_t FLimit = FirstLimit;
     std::optional<TUndo> FUndo;
-    std::vector<std::size_t> FLines;  // first unit of each line; empty: to be made
-    std::string FPending;             // bytes of a character that is being typed
+    std::vector<std::size_t> FLines; // first unit of each line; empty: to be made
+    std::string FPending;            // bytes of a character that is being typed
     std::string FCue;
     std::size_t FTop = 0;
     DWORD FEvents = 0;
@@ -173,9 +173,10 @@ std::optional<LRESULT> TEdit::HandleLines(UINT Message, WPARAM WParam, LPARAM LP
         return static_cast<LRESULT>(LineOf(At < 0 ? First() : static_cast<std::size_t>(At)));
     }
     case EM_LINELENGTH: {
-        if (Number < 0) {  // what the selected lines hold besides the selection
+        if (Number < 0) { // what the selected lines hold besides the selection
             const std::size_t From = LineOf(First()), To = LineOf(Last());
-            return static_cast<LRESULT>(First() - LineStart(From) + LineEnd(To) - std::min(Last(), LineEnd(To)));
+            return static_cast<LRESULT>(First() - LineStart(From) + LineEnd(To) -
+                                        std::min(Last(), LineEnd(To)));
         }
         const std::size_t Line = Multiline() ? LineOf(static_cast<std::size_t>(Number)) : 0;
         return static_cast<LRESULT>(LineEnd(Line) - LineStart(Line));
@@ -347,7 +348,7 @@ void TEdit::Replace(const std::u16string& Text, bool CanUndo, TNotice Notice)
     const std::size_t Kept = FText.size() - (Last() - First());
     std::size_t Room = Kept < FLimit ? std::min(Text.size(), FLimit - Kept) : 0;
     if (Room > 0 && Room < Text.size() && Text[Room] >= 0xDC00 && Text[Room] < 0xE000)
-        --Room;  // both halves of a character or none
+        --Room; // both halves of a character or none
     FModified = true;
     const std::size_t At = First();
     if (Room == 0 && Last() == At)
@@ -632,7 +633,7 @@ public:
 protected:
     std::size_t InitialLimit() const override { return 0x7FFF; }
 };
-}  // namespace
+} // namespace
 
 void RegisterEdits()
 {

@@ -56,7 +56,8 @@ void SendInactive(HWND Previous, HWND Next)
     if (!IsWindow(Previous))
         return;
     SendMessageA(Previous, WM_NCACTIVATE, FALSE, reinterpret_cast<LPARAM>(Next));
-    SendMessageA(Previous, WM_ACTIVATE, MAKEWPARAM(WA_INACTIVE, IsIconic(Previous)), reinterpret_cast<LPARAM>(Next));
+    SendMessageA(Previous, WM_ACTIVATE, MAKEWPARAM(WA_INACTIVE, IsIconic(Previous)),
+                 reinterpret_cast<LPARAM>(Next));
 }
 
 void SendActive(HWND Handle, HWND Previous, TByMouse Mouse)
@@ -78,7 +79,8 @@ bool ActivateWindow(HWND Handle, TByMouse Mouse, bool Focus)
     if (Previous == Handle)
         return true;
     CBTACTIVATESTRUCT Hook{Mouse == TByMouse::Yes, Previous};
-    if (Handle && CallHooks(WH_CBT, HCBT_ACTIVATE, reinterpret_cast<WPARAM>(Handle), reinterpret_cast<LPARAM>(&Hook)))
+    if (Handle &&
+        CallHooks(WH_CBT, HCBT_ACTIVATE, reinterpret_cast<WPARAM>(Handle), reinterpret_cast<LPARAM>(&Hook)))
         return false;
     if (Previous)
         SendInactive(Previous, Handle);
@@ -96,7 +98,8 @@ bool ActivateWindow(HWND Handle, TByMouse Mouse, bool Focus)
     }
     SendActivateApp(IsWindow(Previous) ? Previous : nullptr, Handle);
     SendActive(Handle, Previous, Mouse);
-    if (Focus && Thread.Active == Handle && (!Thread.Focus || !Handle || GetAncestor(Thread.Focus, GA_ROOT) != Handle))
+    if (Focus && Thread.Active == Handle &&
+        (!Thread.Focus || !Handle || GetAncestor(Thread.Focus, GA_ROOT) != Handle))
         MoveFocus(Handle);
     return true;
 }

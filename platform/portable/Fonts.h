@@ -15,12 +15,12 @@ struct TFontFace {
     ~TFontFace();
     PangoFontDescription* Description = nullptr;
     PangoAttrList* Attributes = nullptr;
-    int Em = 0;  // all in pixels
+    int Em = 0; // all in pixels
     int Ascent = 0;
     int Descent = 0;
     int AverageWidth = 0;
     int MaximumWidth = 0;
-    int AsciiWidths[128] = {};  // -1: not measured yet
+    int AsciiWidths[128] = {}; // -1: not measured yet
     bool FixedPitch = false;
 
     int Height() const { return Ascent + Descent; }

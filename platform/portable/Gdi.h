@@ -19,8 +19,8 @@ struct TGdiObject {
     virtual DWORD Kind() const = 0;
 
     bool Stock = false;
-    bool Doomed = false;  // deleted while selected; goes when the last context lets go
-    int Selected = 0;     // contexts that hold it
+    bool Doomed = false; // deleted while selected; goes when the last context lets go
+    int Selected = 0;    // contexts that hold it
 };
 
 struct TGdiPen final : TGdiObject {
@@ -38,7 +38,7 @@ struct TGdiBrush final : TGdiObject {
 struct TGdiFont final : TGdiObject {
     DWORD Kind() const override { return OBJ_FONT; }
     LOGFONTA Font{};
-    std::shared_ptr<TFontFace> Face;  // made on first use
+    std::shared_ptr<TFontFace> Face; // made on first use
 };
 
 // The surface holds the picture from top to bottom; a device independent bitmap
@@ -76,7 +76,7 @@ struct TDcState {
     POINT Viewport{};
     POINT WindowOrg{};
     POINT Position{};
-    std::shared_ptr<cairo_region_t> Clip;  // device coordinates; none: everything
+    std::shared_ptr<cairo_region_t> Clip; // device coordinates; none: everything
 };
 
 // A context draws on Surface; without one (the context of a window that is not
@@ -86,10 +86,10 @@ struct TGdiContext final : TGdiObject {
     DWORD Kind() const override { return Memory ? OBJ_MEMDC : OBJ_DC; }
     bool Memory = false;
     HWND Window = nullptr;
-    cairo_surface_t* Surface = nullptr;        // referenced
-    POINT Origin{};                            // device (0, 0) on the surface
-    SIZE Size{};                               // of the drawable part, from device (0, 0)
-    std::shared_ptr<cairo_region_t> Visible;   // device coordinates; none: all of Size
+    cairo_surface_t* Surface = nullptr;      // referenced
+    POINT Origin{};                          // device (0, 0) on the surface
+    SIZE Size{};                             // of the drawable part, from device (0, 0)
+    std::shared_ptr<cairo_region_t> Visible; // device coordinates; none: all of Size
     HBITMAP Bitmap = nullptr;
     TDcState State;
     std::vector<TDcState> Saved;
@@ -98,13 +98,15 @@ struct TGdiContext final : TGdiObject {
 // Puts Object into the table and returns its handle.
 HGDIOBJ AddGdiObject(std::unique_ptr<TGdiObject> Object);
 TGdiObject* FindGdiObject(const void* Handle);
-template <class T>
+template<class T>
 T* FindGdi(const void* Handle)
 {
     return dynamic_cast<T*>(FindGdiObject(Handle));
 }
 void SelectGdiObject(const void* Handle);
 void DeselectGdiObject(const void* Handle);
+// From now on Handle belongs to the system: never deleted and not counted.
+void KeepAsStock(const void* Handle);
 int CountGdiObjects();
 
 // A context that draws on Surface (referenced) from Origin on, or only measures

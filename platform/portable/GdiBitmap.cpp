@@ -25,8 +25,9 @@ bool Usable(const BITMAPINFOHEADER& Header)
 {
     const int Bits = Header.biBitCount;
     const bool KnownBits = Bits == 1 || Bits == 4 || Bits == 8 || Bits == 16 || Bits == 24 || Bits == 32;
-    return Header.biSize >= sizeof(BITMAPINFOHEADER) && KnownBits && Header.biWidth > 0 && Header.biHeight != 0 &&
-           Header.biWidth <= LargestSide && Header.biHeight >= -LargestSide && Header.biHeight <= LargestSide &&
+    return Header.biSize >= sizeof(BITMAPINFOHEADER) && KnownBits && Header.biWidth > 0 &&
+           Header.biHeight != 0 && Header.biWidth <= LargestSide && Header.biHeight >= -LargestSide &&
+           Header.biHeight <= LargestSide &&
            (Header.biCompression == BI_RGB || (Header.biCompression == BI_BITFIELDS && Bits == 32));
 }
 
@@ -85,7 +86,8 @@ unsigned Nearest(const std::vector<RGBQUAD>& Palette, std::uint32_t Color)
         const std::uint32_t Entry = ColorAt(Palette, Index);
         int Distance = 0;
         for (const int Shift : {0, 8, 16}) {
-            const int Difference = static_cast<int>(Entry >> Shift & 255) - static_cast<int>(Color >> Shift & 255);
+            const int Difference =
+                static_cast<int>(Entry >> Shift & 255) - static_cast<int>(Color >> Shift & 255);
             Distance += Difference * Difference;
         }
         if (Distance < BestDistance) {
@@ -148,7 +150,7 @@ struct TTransfer {
         return Header.biHeight > 0 ? Height - 1 - (Start + Line) : Start + Line;
     }
 
-    template <class T>
+    template<class T>
     void ForRows(T Work) const
     {
         const int Width = std::min(Header.biWidth, cairo_image_surface_get_width(Surface));
@@ -182,7 +184,8 @@ std::unique_ptr<TGdiBitmap> NewBitmap(int Width, int Height, int BitCount)
     if (Width <= 0 || Height <= 0 || Width > LargestSide || Height > LargestSide)
         return nullptr;
     auto Bitmap = std::make_unique<TGdiBitmap>();
-    Bitmap->Info = {0, Width, Height, ShortRowBytes(Width, BitCount), 1, static_cast<WORD>(BitCount), nullptr};
+    Bitmap->Info = {0,      Width, Height, ShortRowBytes(Width, BitCount), 1, static_cast<WORD>(BitCount),
+                    nullptr};
     Bitmap->Surface = cairo_image_surface_create(CAIRO_FORMAT_RGB24, Width, Height);
     if (cairo_surface_status(Bitmap->Surface) != CAIRO_STATUS_SUCCESS)
         return nullptr;
@@ -208,7 +211,7 @@ std::vector<RGBQUAD> DefaultPalette(int BitCount)
     }
     return Result;
 }
-}  // namespace
+} // namespace
 
 TGdiBitmap::~TGdiBitmap()
 {
@@ -262,7 +265,8 @@ HBITMAP CreateBitmap(int Width, int Height, UINT, UINT BitCount, const void* Bit
 
 HBITMAP CreateCompatibleBitmap(HDC Dc, int Width, int Height)
 {
-    return FindGdi<TGdiContext>(Dc) ? CreateBitmap(std::max(Width, 1), std::max(Height, 1), 1, 32, nullptr) : nullptr;
+    return FindGdi<TGdiContext>(Dc) ? CreateBitmap(std::max(Width, 1), std::max(Height, 1), 1, 32, nullptr)
+                                    : nullptr;
 }
 
 HBITMAP CreateDIBSection(HDC, const BITMAPINFO* Info, UINT, void** Bits, HANDLE, DWORD)
@@ -279,7 +283,8 @@ HBITMAP CreateDIBSection(HDC, const BITMAPINFO* Info, UINT, void** Bits, HANDLE,
     Bitmap->Header = Header;
     Bitmap->Palette = ReadPalette(*Info);
     Bitmap->Info.bmWidthBytes = RowBytes(Header.biWidth, Header.biBitCount);
-    Bitmap->Bits.resize(static_cast<std::size_t>(Bitmap->Info.bmWidthBytes) * static_cast<std::size_t>(Height));
+    Bitmap->Bits.resize(static_cast<std::size_t>(Bitmap->Info.bmWidthBytes) *
+                        static_cast<std::size_t>(Height));
     Bitmap->Info.bmBits = Bitmap->Bits.data();
     if (Bits)
         *Bits = Bitmap->Bits.data();
@@ -320,13 +325,14 @@ int GetDIBits(HDC, HBITMAP Handle, UINT Start, UINT Lines, LPVOID Bits, BITMAPIN
     if (!Bitmap || !Info || Info->bmiHeader.biSize < sizeof(BITMAPINFOHEADER))
         return 0;
     auto& Header = Info->bmiHeader;
-    if (Header.biBitCount == 0) {  // only asks what the bitmap is like
+    if (Header.biBitCount == 0) { // only asks what the bitmap is like
         Header.biWidth = Bitmap->Info.bmWidth;
         Header.biHeight = Bitmap->Info.bmHeight;
         Header.biPlanes = 1;
         Header.biBitCount = Bitmap->Info.bmBitsPixel;
         Header.biCompression = BI_RGB;
-        Header.biSizeImage = static_cast<DWORD>(RowBytes(Header.biWidth, Header.biBitCount) * Header.biHeight);
+        Header.biSizeImage =
+            static_cast<DWORD>(RowBytes(Header.biWidth, Header.biBitCount) * Header.biHeight);
         return 1;
     }
     if (!Usable(Header))
@@ -337,12 +343,15 @@ int GetDIBits(HDC, HBITMAP Handle, UINT Start, UINT Lines, LPVOID Bits, BITMAPIN
     const auto Palette = OwnPalette ? Bitmap->Palette : DefaultPalette(Header.biBitCount);
     if (!Palette.empty()) {
         Header.biClrUsed = 0;
-        std::memcpy(reinterpret_cast<BYTE*>(Info) + Header.biSize, Palette.data(), Palette.size() * sizeof(RGBQUAD));
+        std::memcpy(reinterpret_cast<BYTE*>(Info) + Header.biSize, Palette.data(),
+                    Palette.size() * sizeof(RGBQUAD));
     }
     if (!Bits)
         return Height;
     ReadBitmapBits(*Bitmap);
-    const int Count = static_cast<int>(std::min<UINT>(Lines, static_cast<UINT>(Height) - std::min<UINT>(Start, static_cast<UINT>(Height))));
-    TTransfer{Header, Palette, Bitmap->Surface, static_cast<int>(Start), Count}.FromSurface(static_cast<BYTE*>(Bits));
+    const int Count = static_cast<int>(
+        std::min<UINT>(Lines, static_cast<UINT>(Height) - std::min<UINT>(Start, static_cast<UINT>(Height))));
+    TTransfer{Header, Palette, Bitmap->Surface, static_cast<int>(Start), Count}.FromSurface(
+        static_cast<BYTE*>(Bits));
     return Count;
 }

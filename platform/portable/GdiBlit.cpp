@@ -7,8 +7,8 @@ using TPixel = std::uint32_t;
 
 bool NeedsSource(DWORD Operation)
 {
-    return Operation != PATCOPY && Operation != PATINVERT && Operation != DSTINVERT && Operation != BLACKNESS &&
-           Operation != WHITENESS;
+    return Operation != PATCOPY && Operation != PATINVERT && Operation != DSTINVERT &&
+           Operation != BLACKNESS && Operation != WHITENESS;
 }
 
 TPixel Combine(DWORD Operation, TPixel Target, TPixel Source, TPixel Pattern)
@@ -45,7 +45,8 @@ struct TArea {
 
 // Draws into a surface of its own what the operation gives and lays that over
 // the target, so that clipping is the one of every other drawing.
-BOOL Blit(HDC Dc, const TArea& To, cairo_surface_t* Source, POINT SourceOrigin, const TArea& From, DWORD Operation)
+BOOL Blit(HDC Dc, const TArea& To, cairo_surface_t* Source, POINT SourceOrigin, const TArea& From,
+          DWORD Operation)
 {
     auto* const Context = FindGdi<TGdiContext>(Dc);
     if (!Context)
@@ -84,7 +85,8 @@ BOOL Blit(HDC Dc, const TArea& To, cairo_surface_t* Source, POINT SourceOrigin, 
         cairo_destroy(Copy);
         const auto* const Brush = FindGdi<TGdiBrush>(State.Brush);
         const COLORREF Color = Brush ? Brush->Brush.lbColor : 0;
-        const TPixel Pattern = TPixel{GetRValue(Color)} << 16 | TPixel{GetGValue(Color)} << 8 | GetBValue(Color);
+        const TPixel Pattern =
+            TPixel{GetRValue(Color)} << 16 | TPixel{GetGValue(Color)} << 8 | GetBValue(Color);
         cairo_surface_flush(Old);
         cairo_surface_flush(Result);
         auto* const Pixels = reinterpret_cast<TPixel*>(cairo_image_surface_get_data(Result));
@@ -102,7 +104,7 @@ BOOL Blit(HDC Dc, const TArea& To, cairo_surface_t* Source, POINT SourceOrigin, 
     cairo_surface_destroy(Result);
     return TRUE;
 }
-}  // namespace
+} // namespace
 
 BOOL StretchBlt(HDC Dc, int X, int Y, int Width, int Height, HDC Source, int SourceX, int SourceY,
                 int SourceWidth, int SourceHeight, DWORD Operation)
@@ -121,7 +123,8 @@ BOOL StretchBlt(HDC Dc, int X, int Y, int Width, int Height, HDC Source, int Sou
     return Blit(Dc, To, From->Surface, Origin, {SourceX, SourceY, SourceWidth, SourceHeight}, Operation);
 }
 
-BOOL BitBlt(HDC Dc, int X, int Y, int Width, int Height, HDC Source, int SourceX, int SourceY, DWORD Operation)
+BOOL BitBlt(HDC Dc, int X, int Y, int Width, int Height, HDC Source, int SourceX, int SourceY,
+            DWORD Operation)
 {
     return StretchBlt(Dc, X, Y, Width, Height, Source, SourceX, SourceY, Width, Height, Operation);
 }

@@ -7,7 +7,7 @@ namespace {
 constexpr int ScreenWidth = 1280;
 constexpr int ScreenHeight = 1024;
 
-template <class T>
+template<class T>
 T Exchange(HDC Dc, T TDcState::*Field, T Value, T Failed)
 {
     auto* const Context = FindGdi<TGdiContext>(Dc);
@@ -16,7 +16,7 @@ T Exchange(HDC Dc, T TDcState::*Field, T Value, T Failed)
     return std::exchange(Context->State.*Field, Value);
 }
 
-template <class T>
+template<class T>
 T Ask(HDC Dc, T TDcState::*Field, T Failed)
 {
     const auto* const Context = FindGdi<TGdiContext>(Dc);
@@ -37,7 +37,7 @@ void DropObjects(const TDcState& State)
     DeselectGdiObject(State.Pen);
 }
 
-template <class T>
+template<class T>
 HGDIOBJ ExchangeObject(T& Field, HGDIOBJ Handle)
 {
     const T Old = Field;
@@ -64,12 +64,12 @@ HBITMAP EmptyBitmap()
 {
     static HBITMAP const Only = [] {
         const auto Bitmap = CreateBitmap(1, 1, 1, 1, nullptr);
-        FindGdiObject(Bitmap)->Stock = true;
+        KeepAsStock(Bitmap);
         return Bitmap;
     }();
     return Only;
 }
-}  // namespace
+} // namespace
 
 TGdiContext::~TGdiContext()
 {
@@ -276,7 +276,8 @@ HGDIOBJ SelectObject(HDC Dc, HGDIOBJ Handle)
     if (dynamic_cast<TGdiPen*>(Object))
         return ExchangeObject(Context->State.Pen, Handle);
     if (auto* const Bitmap = dynamic_cast<TGdiBitmap*>(Object))
-        return Bitmap->Stock ? ExchangeObject(Context->Bitmap, Handle) : SelectBitmap(*Context, *Bitmap, Handle);
+        return Bitmap->Stock ? ExchangeObject(Context->Bitmap, Handle)
+                             : SelectBitmap(*Context, *Bitmap, Handle);
     if (dynamic_cast<TGdiRegion*>(Object))
         return reinterpret_cast<HGDIOBJ>(static_cast<INT_PTR>(SelectClipRgn(Dc, static_cast<HRGN>(Handle))));
     return nullptr;

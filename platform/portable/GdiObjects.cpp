@@ -4,6 +4,8 @@
 #include <cstring>
 #include <unordered_map>
 
+#include "platform/portable/winuser.h"
+
 namespace {
 constexpr std::uintptr_t FirstHandle = 0x20010;
 constexpr std::uintptr_t HandleStep = 0x10;
@@ -13,6 +15,7 @@ struct TTable {
     std::unordered_map<std::uintptr_t, std::unique_ptr<TGdiObject>> Objects;
     std::uintptr_t Next = FirstHandle;
     HGDIOBJ Stock[StockCount] = {};
+    std::unordered_map<int, HGDIOBJ> SystemBrushes;
     int StockMade = 0;
 };
 
@@ -91,7 +94,7 @@ HGDIOBJ MakeStock(int Index)
     }
 }
 
-template <class T>
+template<class T>
 int CopyOut(const T& Value, int Size, LPVOID Data)
 {
     if (!Data)
@@ -121,7 +124,7 @@ int GetFont(const TGdiFont& Font, int Size, LPVOID Data)
     std::memcpy(Data, &Font.Font, Bytes);
     return static_cast<int>(Bytes);
 }
-}  // namespace
+} // namespace
 
 TGdiBrush::~TGdiBrush()
 {
@@ -157,6 +160,12 @@ void DeselectGdiObject(const void* Handle)
         Table().Objects.erase(Key(Handle));
 }
 
+void KeepAsStock(const void* Handle)
+{
+    FindGdiObject(Handle)->Stock = true;
+    ++Table().StockMade;
+}
+
 int CountGdiObjects()
 {
     return static_cast<int>(Table().Objects.size()) - Table().StockMade;
@@ -176,11 +185,21 @@ HGDIOBJ GetStockObject(int Index)
         const auto Handle = MakeStock(Index);
         if (!Handle)
             return nullptr;
-        FindGdiObject(Handle)->Stock = true;
+        KeepAsStock(Handle);
         All.Stock[Index] = Handle;
-        ++All.StockMade;
     }
     return All.Stock[Index];
+}
+
+HBRUSH GetSysColorBrush(int Index)
+{
+    auto& All = Table();
+    auto& Known = All.SystemBrushes[Index];
+    if (!Known) {
+        Known = CreateSolidBrush(GetSysColor(Index));
+        KeepAsStock(Known);
+    }
+    return static_cast<HBRUSH>(Known);
 }
 
 BOOL DeleteObject(HGDIOBJ Handle)
@@ -242,7 +261,8 @@ HBRUSH CreatePatternBrush(HBITMAP Handle)
     ReadBitmapBits(*Bitmap);
     auto Brush = std::make_unique<TGdiBrush>();
     Brush->Brush.lbStyle = BS_PATTERN;
-    Brush->Pattern = cairo_image_surface_create(CAIRO_FORMAT_RGB24, Bitmap->Info.bmWidth, Bitmap->Info.bmHeight);
+    Brush->Pattern =
+        cairo_image_surface_create(CAIRO_FORMAT_RGB24, Bitmap->Info.bmWidth, Bitmap->Info.bmHeight);
     cairo_t* const Copy = cairo_create(Brush->Pattern);
     cairo_set_source_surface(Copy, Bitmap->Surface, 0, 0);
     cairo_paint(Copy);

@@ -67,7 +67,7 @@ int ChangeClipRect(HDC Dc, int Mode, POINT Start, POINT End)
     Combine(Clip, Rect.get(), Mode);
     return Complexity(Clip);
 }
-}  // namespace
+} // namespace
 
 TGdiRegion::TGdiRegion() : Region(cairo_region_create()) {}
 
@@ -157,7 +157,8 @@ BOOL RectInRegion(HRGN Handle, const RECT* Rect)
     const auto* const Region = FindGdi<TGdiRegion>(Handle);
     if (!Region || !Rect)
         return FALSE;
-    const cairo_rectangle_int_t Box = {Rect->left, Rect->top, Rect->right - Rect->left, Rect->bottom - Rect->top};
+    const cairo_rectangle_int_t Box = {Rect->left, Rect->top, Rect->right - Rect->left,
+                                       Rect->bottom - Rect->top};
     return cairo_region_contains_rectangle(Region->Region, &Box) != CAIRO_REGION_OVERLAP_OUT;
 }
 

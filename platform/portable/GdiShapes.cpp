@@ -76,7 +76,8 @@ BOOL DrawPolygon(HDC Dc, const POINT* Points, int Count, bool Closed)
     return TRUE;
 }
 
-void RoundPath(cairo_t* Cairo, double Left, double Top, double Right, double Bottom, double RadiusX, double RadiusY)
+void RoundPath(cairo_t* Cairo, double Left, double Top, double Right, double Bottom, double RadiusX,
+               double RadiusY)
 {
     RadiusX = std::min(RadiusX, (Right - Left) / 2);
     RadiusY = std::min(RadiusY, (Bottom - Top) / 2);
@@ -152,7 +153,7 @@ bool SurfacePoint(const TGdiContext& Context, int X, int Y, POINT& Point)
            Point.x < cairo_image_surface_get_width(Context.Surface) &&
            Point.y < cairo_image_surface_get_height(Context.Surface);
 }
-}  // namespace
+} // namespace
 
 TColor ColorOf(COLORREF Color)
 {
@@ -277,7 +278,7 @@ BOOL LineTo(HDC Dc, int X, int Y)
         cairo_rectangle(Draw, std::min(From.x, LastX), std::min(From.y, LastY), std::abs(LastX - From.x) + 1,
                         std::abs(LastY - From.y) + 1);
         Draw.SetColor(Draw.Context().State.Pen == GetStockObject(DC_PEN) ? Draw.Context().State.PenColor
-                                                                        : Pen->Pen.lopnColor);
+                                                                         : Pen->Pen.lopnColor);
         cairo_fill(Draw);
         return TRUE;
     }
@@ -364,7 +365,8 @@ int FrameRect(HDC Dc, const RECT* Rect, HBRUSH Brush)
 
 BOOL InvertRect(HDC Dc, const RECT* Rect)
 {
-    return Rect && PatBlt(Dc, Rect->left, Rect->top, Rect->right - Rect->left, Rect->bottom - Rect->top, DSTINVERT);
+    return Rect &&
+           PatBlt(Dc, Rect->left, Rect->top, Rect->right - Rect->left, Rect->bottom - Rect->top, DSTINVERT);
 }
 
 COLORREF SetPixel(HDC Dc, int X, int Y, COLORREF Color)

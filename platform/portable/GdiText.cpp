@@ -2,6 +2,7 @@
 #include <cmath>
 #include <cstring>
 
+#include "platform/portable/Control.h"
 #include "platform/portable/Fonts.h"
 
 namespace {
@@ -55,10 +56,18 @@ void UnderlineCharacter(PangoLayout* Layout, std::string_view Text, int At)
     PangoAttrList* const List = pango_attr_list_copy(pango_layout_get_attributes(Layout));
     PangoAttribute* const Line = pango_attr_underline_new(PANGO_UNDERLINE_SINGLE);
     Line->start_index = static_cast<guint>(At);
-    Line->end_index = static_cast<guint>(At) + static_cast<guint>(CharLength(Text, static_cast<std::size_t>(At)));
+    Line->end_index =
+        static_cast<guint>(At) + static_cast<guint>(CharLength(Text, static_cast<std::size_t>(At)));
     pango_attr_list_insert(List, Line);
     pango_layout_set_attributes(Layout, List);
     pango_attr_list_unref(List);
+}
+
+std::string NarrowCount(LPCWSTR Text, int Count)
+{
+    if (!Text)
+        return {};
+    return Narrow(Count < 0 ? std::u16string(Text) : std::u16string(Text, static_cast<std::size_t>(Count)));
 }
 
 struct TLine {
@@ -77,7 +86,8 @@ void WrapParagraph(const TFontFace& Face, const std::string& Text, int From, int
     const int Count = std::max(pango_layout_get_line_count(Layout.get()), 1);
     for (int Index = 0; Index < Count; ++Index) {
         const auto* const Line = pango_layout_get_line_readonly(Layout.get(), Index);
-        std::string Part = Text.substr(static_cast<std::size_t>(Line->start_index), static_cast<std::size_t>(Line->length));
+        std::string Part =
+            Text.substr(static_cast<std::size_t>(Line->start_index), static_cast<std::size_t>(Line->length));
         const int Mark = Underline - From - Line->start_index;
         if (Index + 1 < Count)
             while (!Part.empty() && Part.back() == ' ')
@@ -108,7 +118,7 @@ std::vector<TLine> SplitLines(const TFontFace& Face, const TMarkedText& Marked, 
         if (End == Text.size())
             break;
         Start = End + (Text[End] == '\r' && End + 1 < Text.size() && Text[End + 1] == '\n' ? 2 : 1);
-        if (Start == Text.size())  // a final line break opens no line of its own
+        if (Start == Text.size()) // a final line break opens no line of its own
             break;
     }
     return Lines;
@@ -137,8 +147,8 @@ void PaintBack(const TDrawing& Draw, int X, int Y, int Width, int Height)
 }
 
 // X and Y are the upper left corner of the line.
-void DrawLine(HDC Dc, const TFontFace& Face, const TLine& Line, int X, int Y, TDirection Direction, bool Opaque,
-              int Escapement = 0)
+void DrawLine(HDC Dc, const TFontFace& Face, const TLine& Line, int X, int Y, TDirection Direction,
+              bool Opaque, int Escapement = 0)
 {
     const TDrawing Draw(Dc);
     if (!Draw)
@@ -187,13 +197,13 @@ BOOL DrawOut(HDC Dc, int X, int Y, std::string_view Text, bool RightToLeft, bool
     else if (Align & TA_BOTTOM)
         Y -= Face->Height();
     const bool FromRight = RightToLeft || (Align & TA_RTLREADING);
-    DrawLine(Dc, *Face, {std::string(Text)}, X, Y, FromRight ? TDirection::RightToLeft : TDirection::LeftToRight,
-             Opaque, Escapement(*Context));
+    DrawLine(Dc, *Face, {std::string(Text)}, X, Y,
+             FromRight ? TDirection::RightToLeft : TDirection::LeftToRight, Opaque, Escapement(*Context));
     if (Align & TA_UPDATECP)
         Context->State.Position.x = Start + Width;
     return TRUE;
 }
-}  // namespace
+} // namespace
 
 BOOL GetTextExtentPoint32A(HDC Dc, LPCSTR Text, int Count, SIZE* Size)
 {
@@ -202,6 +212,26 @@ BOOL GetTextExtentPoint32A(HDC Dc, LPCSTR Text, int Count, SIZE* Size)
     const auto Face = FaceOf(Dc);
     *Size = {TextWidth(*Face, View(Text, Count)), Face->Height()};
     return TRUE;
+}
+
+BOOL GetTextExtentPoint32W(HDC Dc, LPCWSTR Text, int Count, SIZE* Size)
+{
+    if (Count < 0 || (!Text && Count > 0))
+        return FALSE;
+    const std::string Bytes = NarrowCount(Text, Count);
+    return GetTextExtentPoint32A(Dc, Bytes.c_str(), static_cast<int>(Bytes.size()), Size);
+}
+
+BOOL TextOutW(HDC Dc, int X, int Y, LPCWSTR Text, int Count)
+{
+    const std::string Bytes = NarrowCount(Text, Count);
+    return TextOutA(Dc, X, Y, Bytes.c_str(), static_cast<int>(Bytes.size()));
+}
+
+int DrawTextW(HDC Dc, LPCWSTR Text, int Count, RECT* Rect, UINT Format)
+{
+    const std::string Bytes = NarrowCount(Text, Count);
+    return Text ? DrawTextA(Dc, Bytes.c_str(), static_cast<int>(Bytes.size()), Rect, Format) : 0;
 }
 
 BOOL GetTextExtentPointA(HDC Dc, LPCSTR Text, int Count, SIZE* Size)

@@ -13,7 +13,7 @@ enum class THandleKind { Window = 1, Menu, Hook, Accelerators, Icon, Key, Positi
 // Layout of a handle: generation (11 bits), index (16 bits), kind (3 bits) and
 // a zero bit; it fits into 31 bits, as programs expect that store it in an int.
 // Not guarded: the caller holds the lock of what it keeps here.
-template <typename TObject, THandleKind Kind>
+template<typename TObject, THandleKind Kind>
 class THandleTable {
 public:
     // The handle of the new object; 0 when there are 65,000 of them already.
@@ -53,7 +53,7 @@ public:
         return std::move(Slot.Object);
     }
 
-    template <typename TVisit>
+    template<typename TVisit>
     void ForEach(TVisit Visit) const
     {
         for (const TSlot& Slot : FSlots)

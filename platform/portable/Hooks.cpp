@@ -30,7 +30,7 @@ HHOOK SetWindowsHookExA(int Kind, HOOKPROC Proc, HINSTANCE Module, DWORD ThreadI
         SetLastError(ERROR_INVALID_FILTER_PROC);
         return nullptr;
     }
-    if (!ThreadId) {  // hooks of the whole system would need other processes
+    if (!ThreadId) { // hooks of the whole system would need other processes
         SetLastError(Module ? ERROR_NOT_SUPPORTED : ERROR_HOOK_NEEDS_HMOD);
         return nullptr;
     }

@@ -51,7 +51,7 @@ std::uint32_t Rgb(COLORREF Color)
 }
 
 // The part of Bitmap from Left on; Opaque tells of each pixel whether it shows.
-template <class T>
+template<class T>
 TImage CutImage(const _IMAGELIST& List, TGdiBitmap& Bitmap, int Left, T Opaque)
 {
     const auto Image = NewImage(List.Width, List.Height);
@@ -66,7 +66,7 @@ TImage CutImage(const _IMAGELIST& List, TGdiBitmap& Bitmap, int Left, T Opaque)
     return Image;
 }
 
-template <class T>
+template<class T>
 int AddParts(HIMAGELIST List, HBITMAP Handle, T Opaque)
 {
     auto* const Bitmap = FindGdi<TGdiBitmap>(Handle);
@@ -79,7 +79,7 @@ int AddParts(HIMAGELIST List, HBITMAP Handle, T Opaque)
     return First;
 }
 
-template <class T>
+template<class T>
 int WithMask(HBITMAP Mask, T Work)
 {
     auto* const Bitmap = FindGdi<TGdiBitmap>(Mask);
@@ -91,7 +91,7 @@ int WithMask(HBITMAP Mask, T Work)
         return (PixelAt(Bitmap->Surface, X, Y) & 0xFFFFFF) == 0;
     });
 }
-}  // namespace
+} // namespace
 
 HIMAGELIST ImageList_Create(int Width, int Height, UINT Flags, int, int)
 {
@@ -257,12 +257,14 @@ BOOL DrawIconEx(HDC Dc, int X, int Y, HICON Icon, int Width, int Height, UINT, H
     const auto* const Bitmap = FindGdi<TGdiBitmap>(Info.hbmColor);
     bool Done = false;
     if (Bitmap) {
-        const auto List = ImageList_Create(Bitmap->Info.bmWidth, Bitmap->Info.bmHeight, ILC_COLOR32 | ILC_MASK, 1, 1);
+        const auto List =
+            ImageList_Create(Bitmap->Info.bmWidth, Bitmap->Info.bmHeight, ILC_COLOR32 | ILC_MASK, 1, 1);
         ImageList_Add(List, Info.hbmColor, Info.hbmMask);
         const TDrawing Draw(Dc);
         if (Draw && ImageList_GetImageCount(List) > 0) {
             cairo_translate(Draw, X, Y);
-            cairo_scale(Draw, Width > 0 ? double(Width) / List->Width : 1, Height > 0 ? double(Height) / List->Height : 1);
+            cairo_scale(Draw, Width > 0 ? double(Width) / List->Width : 1,
+                        Height > 0 ? double(Height) / List->Height : 1);
             cairo_set_source_surface(Draw, List->Images[0].get(), 0, 0);
             cairo_paint(Draw);
         }

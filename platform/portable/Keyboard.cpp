@@ -15,12 +15,13 @@ constexpr struct {
     BYTE Key;
     char Plain;
     char Shifted;
-} Signs[] = {{VK_OEM_1, ';', ':'},     {VK_OEM_PLUS, '=', '+'},  {VK_OEM_COMMA, ',', '<'}, {VK_OEM_MINUS, '-', '_'},
-             {VK_OEM_PERIOD, '.', '>'}, {VK_OEM_2, '/', '?'},     {VK_OEM_3, '`', '~'},     {VK_OEM_4, '[', '{'},
-             {VK_OEM_5, '\\', '|'},     {VK_OEM_6, ']', '}'},     {VK_OEM_7, '\'', '"'},    {VK_SPACE, ' ', ' '},
-             {VK_MULTIPLY, '*', '*'},   {VK_ADD, '+', '+'},       {VK_SUBTRACT, '-', '-'},  {VK_DIVIDE, '/', '/'},
-             {VK_DECIMAL, '.', '.'},    {VK_BACK, '\b', '\b'},    {VK_TAB, '\t', '\t'},     {VK_RETURN, '\r', '\r'},
-             {VK_ESCAPE, '\x1b', '\x1b'}};
+} Signs[] = {{VK_OEM_1, ';', ':'},     {VK_OEM_PLUS, '=', '+'},   {VK_OEM_COMMA, ',', '<'},
+             {VK_OEM_MINUS, '-', '_'}, {VK_OEM_PERIOD, '.', '>'}, {VK_OEM_2, '/', '?'},
+             {VK_OEM_3, '`', '~'},     {VK_OEM_4, '[', '{'},      {VK_OEM_5, '\\', '|'},
+             {VK_OEM_6, ']', '}'},     {VK_OEM_7, '\'', '"'},     {VK_SPACE, ' ', ' '},
+             {VK_MULTIPLY, '*', '*'},  {VK_ADD, '+', '+'},        {VK_SUBTRACT, '-', '-'},
+             {VK_DIVIDE, '/', '/'},    {VK_DECIMAL, '.', '.'},    {VK_BACK, '\b', '\b'},
+             {VK_TAB, '\t', '\t'},     {VK_RETURN, '\r', '\r'},   {VK_ESCAPE, '\x1b', '\x1b'}};
 constexpr char ShiftedDigits[] = ")!@#$%^&*(";
 
 bool IsDown(int Key)
@@ -39,7 +40,11 @@ char CharacterOf(WPARAM Key)
         return static_cast<char>(Capital ? Key : Key + 32);
     }
     if (IsDown(VK_CONTROL) && !IsDown(VK_MENU))
-        return Key == VK_RETURN ? '\n' : Key == VK_BACK ? '\x7f' : Key == VK_ESCAPE ? '\x1b' : Key == VK_SPACE ? ' ' : 0;
+        return Key == VK_RETURN   ? '\n'
+               : Key == VK_BACK   ? '\x7f'
+               : Key == VK_ESCAPE ? '\x1b'
+               : Key == VK_SPACE  ? ' '
+                                  : 0;
     if (Key >= '0' && Key <= '9')
         return Shift ? ShiftedDigits[Key - '0'] : static_cast<char>(Key);
     if (Key >= VK_NUMPAD0 && Key <= VK_NUMPAD9)
@@ -169,10 +174,10 @@ int GetKeyNameTextA(LONG LParam, LPSTR Name, int Size)
     constexpr struct {
         BYTE Key;
         const char* Name;
-    } Names[] = {{VK_CONTROL, "Ctrl"},  {VK_SHIFT, "Shift"},  {VK_MENU, "Alt"},       {VK_BACK, "Backspace"},
-                 {VK_TAB, "Tab"},       {VK_RETURN, "Enter"}, {VK_ESCAPE, "Esc"},     {VK_SPACE, "Space"},
-                 {VK_PRIOR, "Page Up"}, {VK_NEXT, "Page Down"}, {VK_END, "End"},      {VK_HOME, "Home"},
-                 {VK_LEFT, "Left"},     {VK_UP, "Up"},        {VK_RIGHT, "Right"},    {VK_DOWN, "Down"},
+    } Names[] = {{VK_CONTROL, "Ctrl"},  {VK_SHIFT, "Shift"},    {VK_MENU, "Alt"},    {VK_BACK, "Backspace"},
+                 {VK_TAB, "Tab"},       {VK_RETURN, "Enter"},   {VK_ESCAPE, "Esc"},  {VK_SPACE, "Space"},
+                 {VK_PRIOR, "Page Up"}, {VK_NEXT, "Page Down"}, {VK_END, "End"},     {VK_HOME, "Home"},
+                 {VK_LEFT, "Left"},     {VK_UP, "Up"},          {VK_RIGHT, "Right"}, {VK_DOWN, "Down"},
                  {VK_INSERT, "Insert"}, {VK_DELETE, "Delete"}};
     for (const auto& Each : Names)
         if (Each.Key == Key)

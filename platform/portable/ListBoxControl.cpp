@@ -59,6 +59,7 @@ private:
     int FTop = 0;
     int FItemHeight = 16;
     int FExtent = 0;
+    bool FScrolls = false; // created with a scroll bar, which hides while all items fit
     bool FPressed = false;
 };
 
@@ -105,13 +106,24 @@ LRESULT TListBox::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
     case WM_VSCROLL: {
         const int Page = std::max<int>(1, ClientRect().bottom / std::max(1, FItemHeight));
         switch (LOWORD(WParam)) {
-        case SB_LINEUP: SetTop(FTop - 1); break;
-        case SB_LINEDOWN: SetTop(FTop + 1); break;
-        case SB_PAGEUP: SetTop(FTop - Page); break;
-        case SB_PAGEDOWN: SetTop(FTop + Page); break;
+        case SB_LINEUP:
+            SetTop(FTop - 1);
+            break;
+        case SB_LINEDOWN:
+            SetTop(FTop + 1);
+            break;
+        case SB_PAGEUP:
+            SetTop(FTop - Page);
+            break;
+        case SB_PAGEDOWN:
+            SetTop(FTop + Page);
+            break;
         case SB_THUMBPOSITION:
-        case SB_THUMBTRACK: SetTop(HIWORD(WParam)); break;
-        default: break;
+        case SB_THUMBTRACK:
+            SetTop(HIWORD(WParam));
+            break;
+        default:
+            break;
         }
         return 0;
     }
@@ -142,7 +154,8 @@ LRESULT TListBox::HandleItems(UINT Message, WPARAM WParam, LPARAM LParam)
     case LB_GETTEXTLEN:
         if (!Valid(Index))
             return LB_ERR;
-        return HasStrings() ? static_cast<LRESULT>(At(Index).Text.size()) : static_cast<LRESULT>(sizeof(LPARAM));
+        return HasStrings() ? static_cast<LRESULT>(At(Index).Text.size())
+                            : static_cast<LRESULT>(sizeof(LPARAM));
     case LB_GETTEXT:
         if (!Valid(Index))
             return LB_ERR;
@@ -230,7 +243,8 @@ LRESULT TListBox::HandleMultiple(UINT Message, WPARAM WParam, LPARAM LParam)
     case LB_GETSELCOUNT:
         if (!Multiple())
             return LB_ERR;
-        return std::count_if(FItems.begin(), FItems.end(), [](const TListItem& Item) { return Item.Selected; });
+        return std::count_if(FItems.begin(), FItems.end(),
+                             [](const TListItem& Item) { return Item.Selected; });
     case LB_GETSELITEMS: {
         if (!Multiple())
             return LB_ERR;
@@ -248,6 +262,8 @@ LRESULT TListBox::HandleMultiple(UINT Message, WPARAM WParam, LPARAM LParam)
 void TListBox::Start()
 {
     FItemHeight = LineHeight();
+    FScrolls = (Style() & WS_VSCROLL) != 0;
+    UpdateScrollBar();
     if (!OwnerDrawn() || (Style() & LBS_OWNERDRAWVARIABLE))
         return;
     TListItem Item;
@@ -368,12 +384,24 @@ void TListBox::Key(WPARAM Key)
     const int Page = std::max<int>(1, ClientRect().bottom / std::max(1, FItemHeight) - 1);
     int Target = FCurrent;
     switch (Key) {
-    case VK_UP: --Target; break;
-    case VK_DOWN: ++Target; break;
-    case VK_HOME: Target = 0; break;
-    case VK_END: Target = Count() - 1; break;
-    case VK_PRIOR: Target -= Page; break;
-    case VK_NEXT: Target += Page; break;
+    case VK_UP:
+        --Target;
+        break;
+    case VK_DOWN:
+        ++Target;
+        break;
+    case VK_HOME:
+        Target = 0;
+        break;
+    case VK_END:
+        Target = Count() - 1;
+        break;
+    case VK_PRIOR:
+        Target -= Page;
+        break;
+    case VK_NEXT:
+        Target += Page;
+        break;
     case VK_SPACE:
         if ((Style() & LBS_MULTIPLESEL) && Valid(FCurrent)) {
             Toggle(FCurrent);
@@ -443,12 +471,16 @@ void TListBox::ScrollTo(int Index)
 void TListBox::UpdateScrollBar()
 {
     const int Page = std::max<int>(1, ClientRect().bottom / std::max(1, FItemHeight));
-    if (!(Style() & WS_VSCROLL) && Count() <= Page)
+    if (!FScrolls)
         return;
-    SCROLLINFO Info{sizeof(SCROLLINFO), SIF_RANGE | SIF_PAGE | SIF_POS, 0, std::max(0, Count() - 1),
-                    static_cast<UINT>(Page), FTop, 0};
-    if (Style() & WS_VSCROLL)
-        SetScrollInfo(Window(), SB_VERT, &Info, FALSE);
+    SCROLLINFO Info{sizeof(SCROLLINFO),
+                    SIF_RANGE | SIF_PAGE | SIF_POS,
+                    0,
+                    std::max(0, Count() - 1),
+                    static_cast<UINT>(Page),
+                    FTop,
+                    0};
+    SetScrollInfo(Window(), SB_VERT, &Info, FALSE);
 }
 
 void TListBox::Paint(HDC Dc)
@@ -471,7 +503,8 @@ void TListBox::PaintItem(HDC Dc, int Index)
         Item.CtlID = static_cast<UINT>(Id());
         Item.itemID = static_cast<UINT>(Index);
         Item.itemAction = ODA_DRAWENTIRE;
-        Item.itemState = (Selected ? ODS_SELECTED : 0u) | (WithFocus ? ODS_FOCUS : 0u) | (Enabled() ? 0u : ODS_DISABLED);
+        Item.itemState =
+            (Selected ? ODS_SELECTED : 0u) | (WithFocus ? ODS_FOCUS : 0u) | (Enabled() ? 0u : ODS_DISABLED);
         Item.hwndItem = Window();
         Item.hDC = Dc;
         Item.rcItem = Rect;
@@ -495,7 +528,7 @@ void TListBox::PaintItem(HDC Dc, int Index)
     if (WithFocus)
         DrawFocusRect(Dc, &Rect);
 }
-}  // namespace
+} // namespace
 
 void RegisterListBoxes()
 {

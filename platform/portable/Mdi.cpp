@@ -34,9 +34,10 @@ bool PrepareMdiChild(HWND ClientHandle, DWORD& Style, DWORD& ExStyle, int& X, in
     }
     ExStyle |= WS_EX_MDICHILD;
     if (!Client->Has(MDIS_ALLCHILDSTYLES)) {
-        Style &= WS_MINIMIZE | WS_MAXIMIZE | WS_CLIPCHILDREN | WS_CLIPSIBLINGS | WS_DISABLED | WS_VSCROLL | WS_HSCROLL;
-        Style |= WS_CHILD | WS_VISIBLE | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_MINIMIZEBOX | WS_MAXIMIZEBOX |
-                 WS_CLIPSIBLINGS;
+        Style &= WS_MINIMIZE | WS_MAXIMIZE | WS_CLIPCHILDREN | WS_CLIPSIBLINGS | WS_DISABLED | WS_VSCROLL |
+                 WS_HSCROLL;
+        Style |= WS_CHILD | WS_VISIBLE | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_MINIMIZEBOX |
+                 WS_MAXIMIZEBOX | WS_CLIPSIBLINGS;
     }
     const int Step = GetSystemMetrics(SM_CYCAPTION) + GetSystemMetrics(SM_CYFRAME);
     const bool NoSize = Width == CW_USEDEFAULT || Width == 0;
@@ -74,7 +75,8 @@ HWND NextDocument(HWND Client, HWND From, bool Backwards)
         Order = ChildrenOf(*Window);
     std::erase_if(Order, [](HWND Child) {
         const LONG Style = GetWindowLongA(Child, GWL_STYLE);
-        return !(Style & WS_VISIBLE) || (Style & WS_DISABLED) || !(GetWindowLongA(Child, GWL_EXSTYLE) & WS_EX_MDICHILD);
+        return !(Style & WS_VISIBLE) || (Style & WS_DISABLED) ||
+               !(GetWindowLongA(Child, GWL_EXSTYLE) & WS_EX_MDICHILD);
     });
     const auto Here = std::find(Order.begin(), Order.end(), From);
     if (Order.empty())
@@ -98,7 +100,8 @@ void ActivateDocument(HWND Client, HWND Next)
     const bool FrameActive = GetActiveWindow() == FrameOf(Client);
     if (Previous) {
         SendMessageA(Previous, WM_NCACTIVATE, FALSE, 0);
-        SendMessageA(Previous, WM_MDIACTIVATE, reinterpret_cast<WPARAM>(Previous), reinterpret_cast<LPARAM>(Next));
+        SendMessageA(Previous, WM_MDIACTIVATE, reinterpret_cast<WPARAM>(Previous),
+                     reinterpret_cast<LPARAM>(Next));
     }
     State = MdiClientOf(Client);
     if (!State)
@@ -110,6 +113,7 @@ void ActivateDocument(HWND Client, HWND Next)
     }
     State->Active = Next;
     RefreshWindowList(Client);
+    ShowDocumentInTitle(Client);
     if (!Next) {
         if (FrameActive)
             SetFocus(Client);
@@ -136,8 +140,6 @@ void RemoveDocument(HWND Client, HWND Child)
             ActivateDocument(Client, Next);
         } else {
             ShowWindow(Child, SW_HIDE);
-            if (IsZoomed(Child))
-                SetWindowTextA(FrameOf(Client), nullptr);
             ActivateDocument(Client, nullptr);
         }
     }
@@ -160,8 +162,9 @@ HWND CreateDocument(HWND Client, const MDICREATESTRUCTA& Data)
     DWORD Style = Data.style;
     if (Active && IsZoomed(Active) && !(Style & WS_MINIMIZE))
         Style |= WS_MAXIMIZE;
-    return CreateWindowExA(WS_EX_MDICHILD, Data.szClass, Data.szTitle, Style, Data.x, Data.y, Data.cx, Data.cy, Client,
-                           nullptr, static_cast<HINSTANCE>(Data.hOwner), reinterpret_cast<LPVOID>(Data.lParam));
+    return CreateWindowExA(WS_EX_MDICHILD, Data.szClass, Data.szTitle, Style, Data.x, Data.y, Data.cx,
+                           Data.cy, Client, nullptr, static_cast<HINSTANCE>(Data.hOwner),
+                           reinterpret_cast<LPVOID>(Data.lParam));
 }
 
 LRESULT SetFrameMenu(HWND Client, HMENU Menu, HMENU WindowMenu)
@@ -169,6 +172,8 @@ LRESULT SetFrameMenu(HWND Client, HMENU Menu, HMENU WindowMenu)
     TMdiClient* const State = MdiClientOf(Client);
     const HWND Frame = FrameOf(Client);
     const HMENU Old = GetMenu(Frame);
+    if ((Menu && !IsMenu(Menu)) || (WindowMenu && !IsMenu(WindowMenu)))
+        return 0;
     if (WindowMenu && WindowMenu != State->WindowMenu) {
         ClearWindowList(Client);
         State->WindowMenu = WindowMenu;
@@ -220,8 +225,11 @@ LRESULT MdiClientProc(HWND Client, UINT Message, WPARAM WParam, LPARAM LParam)
         return DefWindowProcA(Client, Message, WParam, LParam);
     switch (Message) {
     case WM_MDICREATE:
-        return reinterpret_cast<LRESULT>(CreateDocument(Client, *reinterpret_cast<const MDICREATESTRUCTA*>(LParam)));
-    case WM_MDIDESTROY: RemoveDocument(Client, Child); return 0;
+        return reinterpret_cast<LRESULT>(
+            CreateDocument(Client, *reinterpret_cast<const MDICREATESTRUCTA*>(LParam)));
+    case WM_MDIDESTROY:
+        RemoveDocument(Client, Child);
+        return 0;
     case WM_MDIACTIVATE:
         if (ActiveDocument(Client) != Child)
             SetWindowPos(Child, nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE);
@@ -232,18 +240,30 @@ LRESULT MdiClientProc(HWND Client, UINT Message, WPARAM WParam, LPARAM LParam)
             *reinterpret_cast<BOOL*>(LParam) = Active && IsZoomed(Active);
         return reinterpret_cast<LRESULT>(Active);
     }
-    case WM_MDIMAXIMIZE: ShowWindow(Child, SW_MAXIMIZE); return 0;
-    case WM_MDIRESTORE: ShowWindow(Child, SW_SHOWNORMAL); return 0;
+    case WM_MDIMAXIMIZE:
+        ShowWindow(Child, SW_MAXIMIZE);
+        return 0;
+    case WM_MDIRESTORE:
+        ShowWindow(Child, SW_SHOWNORMAL);
+        return 0;
     case WM_MDINEXT:
         if (const HWND Next = NextDocument(Client, Child ? Child : ActiveDocument(Client), LParam != 0))
             SendMessageA(Client, WM_MDIACTIVATE, reinterpret_cast<WPARAM>(Next), 0);
         return 0;
-    case WM_MDICASCADE: return CascadeWindows(Client, static_cast<UINT>(WParam), nullptr, 0, nullptr) > 0;
-    case WM_MDITILE: return TileWindows(Client, static_cast<UINT>(WParam), nullptr, 0, nullptr) > 0;
-    case WM_MDIICONARRANGE: return static_cast<LRESULT>(ArrangeIconicWindows(Client));
-    case WM_MDISETMENU: return SetFrameMenu(Client, reinterpret_cast<HMENU>(WParam), reinterpret_cast<HMENU>(LParam));
-    case WM_MDIREFRESHMENU: RefreshWindowList(Client); return 0;
-    case WM_PARENTNOTIFY: FollowNotification(Client, WParam, LParam); return 0;
+    case WM_MDICASCADE:
+        return CascadeWindows(Client, static_cast<UINT>(WParam), nullptr, 0, nullptr) > 0;
+    case WM_MDITILE:
+        return TileWindows(Client, static_cast<UINT>(WParam), nullptr, 0, nullptr) > 0;
+    case WM_MDIICONARRANGE:
+        return static_cast<LRESULT>(ArrangeIconicWindows(Client));
+    case WM_MDISETMENU:
+        return SetFrameMenu(Client, reinterpret_cast<HMENU>(WParam), reinterpret_cast<HMENU>(LParam));
+    case WM_MDIREFRESHMENU:
+        RefreshWindowList(Client);
+        return 0;
+    case WM_PARENTNOTIFY:
+        FollowNotification(Client, WParam, LParam);
+        return 0;
     case WM_SETFOCUS:
         if (const HWND Active = ActiveDocument(Client); Active && !IsIconic(Active))
             SetFocus(Active);
@@ -260,8 +280,11 @@ LRESULT MdiClientProc(HWND Client, UINT Message, WPARAM WParam, LPARAM LParam)
             MoveWindow(Active, Rect.left, Rect.top, Rect.right - Rect.left, Rect.bottom - Rect.top, TRUE);
         }
         return 0;
-    case WM_DESTROY: ClearWindowList(Client); return 0;
-    default: return DefWindowProcA(Client, Message, WParam, LParam);
+    case WM_DESTROY:
+        ClearWindowList(Client);
+        return 0;
+    default:
+        return DefWindowProcA(Client, Message, WParam, LParam);
     }
 }
 
@@ -281,7 +304,7 @@ LRESULT DefMDIChildProcA(HWND Handle, UINT Message, WPARAM WParam, LPARAM LParam
     switch (Message) {
     case WM_SETTEXT:
         DefWindowProcA(Handle, Message, WParam, LParam);
-        RefreshWindowList(Client);
+        ShowDocumentInTitle(Client);
         return 1;
     case WM_GETMINMAXINFO: {
         auto& Info = *reinterpret_cast<MINMAXINFO*>(LParam);
@@ -293,7 +316,9 @@ LRESULT DefMDIChildProcA(HWND Handle, UINT Message, WPARAM WParam, LPARAM LParam
         Info.ptMaxPosition = {Rect.left, Rect.top};
         return 0;
     }
-    case WM_CLOSE: SendMessageA(Client, WM_MDIDESTROY, reinterpret_cast<WPARAM>(Handle), 0); return 0;
+    case WM_CLOSE:
+        SendMessageA(Client, WM_MDIDESTROY, reinterpret_cast<WPARAM>(Handle), 0);
+        return 0;
     case WM_CHILDACTIVATE:
         if (IsWindowEnabled(Handle))
             ActivateDocument(Client, Handle);
@@ -303,9 +328,7 @@ LRESULT DefMDIChildProcA(HWND Handle, UINT Message, WPARAM WParam, LPARAM LParam
             ActivateDocument(Client, Handle);
         return 0;
     case WM_SIZE:
-        if (ActiveDocument(Client) == Handle && WParam == SIZE_MAXIMIZED)
-            if (TMdiClient* const State = MdiClientOf(Client))
-                State->Maximized = Handle;
+        ShowDocumentInTitle(Client);
         return DefWindowProcA(Handle, Message, WParam, LParam);
     case WM_SYSCOMMAND:
         if ((WParam & 0xFFF0) == SC_NEXTWINDOW || (WParam & 0xFFF0) == SC_PREVWINDOW) {
@@ -314,8 +337,11 @@ LRESULT DefMDIChildProcA(HWND Handle, UINT Message, WPARAM WParam, LPARAM LParam
             return 0;
         }
         break;
-    case WM_MENUCHAR: PostMessageA(Handle, WM_SYSCOMMAND, SC_KEYMENU, LOWORD(WParam)); return 0x00010000;
-    default: break;
+    case WM_MENUCHAR:
+        PostMessageA(Handle, WM_SYSCOMMAND, SC_KEYMENU, LOWORD(WParam));
+        return 0x00010000;
+    default:
+        break;
     }
     return DefWindowProcA(Handle, Message, WParam, LParam);
 }

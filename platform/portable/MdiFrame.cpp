@@ -40,7 +40,8 @@ void ClearWindowList(HWND Client)
     if (!Menu || !State->FirstId)
         return;
     const std::size_t Before = Menu->Items.size();
-    std::erase_if(Menu->Items, [&](const TMenuItem& Item) { return !Item.IsSeparator() && IsListed(*State, Item); });
+    std::erase_if(Menu->Items,
+                  [&](const TMenuItem& Item) { return !Item.IsSeparator() && IsListed(*State, Item); });
     if (Menu->Items.size() < Before && !Menu->Items.empty() && Menu->Items.back().IsSeparator())
         Menu->Items.pop_back();
 }
@@ -70,6 +71,40 @@ void RefreshWindowList(HWND Client)
     }
 }
 
+void ShowDocumentInTitle(HWND Client)
+{
+    TMdiClient* const State = MdiClientOf(Client);
+    const HWND Frame = GetParent(Client);
+    if (!State || State->ChangesTitle)
+        return;
+    const HWND Active = ActiveDocument(Client);
+    const bool Share = Active && IsZoomed(Active);
+    if (!Share && !State->TitleIsShared)
+        return;
+    if (!State->TitleIsShared)
+        State->FrameTitle = TitleOf(Frame);
+    State->TitleIsShared = Share;
+    const std::string Title = Share ? State->FrameTitle + " - [" + TitleOf(Active) + "]" : State->FrameTitle;
+    State->ChangesTitle = true;
+    DefWindowProcA(Frame, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(Title.c_str()));
+    if (TMdiClient* const Kept = MdiClientOf(Client))
+        Kept->ChangesTitle = false;
+}
+
+namespace {
+
+// A new title of the frame, which keeps naming the maximized document.
+void SetFrameTitle(HWND Frame, HWND Client, LPARAM Text)
+{
+    DefWindowProcA(Frame, WM_SETTEXT, 0, Text);
+    if (TMdiClient* const State = MdiClientOf(Client)) {
+        State->TitleIsShared = false;
+        ShowDocumentInTitle(Client);
+    }
+}
+
+} // namespace
+
 LRESULT DefFrameProcA(HWND Frame, HWND Client, UINT Message, WPARAM WParam, LPARAM LParam)
 {
     if (!Client)
@@ -84,10 +119,20 @@ LRESULT DefFrameProcA(HWND Frame, HWND Client, UINT Message, WPARAM WParam, LPAR
             SendMessageA(Client, WM_MDIACTIVATE, reinterpret_cast<WPARAM>(Document), 0);
         return 0;
     }
-    case WM_NCACTIVATE: SendMessageA(Client, Message, WParam, LParam); break;
-    case WM_SETFOCUS: SetFocus(Client); return 0;
-    case WM_SIZE: MoveWindow(Client, 0, 0, LOWORD(LParam), HIWORD(LParam), TRUE); break;
-    default: break;
+    case WM_NCACTIVATE:
+        SendMessageA(Client, Message, WParam, LParam);
+        break;
+    case WM_SETTEXT:
+        SetFrameTitle(Frame, Client, LParam);
+        return 1;
+    case WM_SETFOCUS:
+        SetFocus(Client);
+        return 0;
+    case WM_SIZE:
+        MoveWindow(Client, 0, 0, LOWORD(LParam), HIWORD(LParam), TRUE);
+        break;
+    default:
+        break;
     }
     return DefWindowProcA(Frame, Message, WParam, LParam);
 }
@@ -110,9 +155,9 @@ BOOL TranslateMDISysAccel(HWND Client, LPMSG Message)
     return TRUE;
 }
 
-HWND CreateMDIWindowA(LPCSTR ClassName, LPCSTR Text, DWORD Style, int X, int Y, int Width, int Height, HWND Client,
-                      HINSTANCE Instance, LPARAM LParam)
+HWND CreateMDIWindowA(LPCSTR ClassName, LPCSTR Text, DWORD Style, int X, int Y, int Width, int Height,
+                      HWND Client, HINSTANCE Instance, LPARAM LParam)
 {
-    return CreateWindowExA(WS_EX_MDICHILD, ClassName, Text, Style, X, Y, Width, Height, Client, nullptr, Instance,
-                           reinterpret_cast<LPVOID>(LParam));
+    return CreateWindowExA(WS_EX_MDICHILD, ClassName, Text, Style, X, Y, Width, Height, Client, nullptr,
+                           Instance, reinterpret_cast<LPVOID>(LParam));
 }

@@ -1,16 +1,19 @@
 // What a client window of documents keeps, for the sources that serve it.
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "platform/portable/Window.h"
 
 struct TMdiClient : TControlState {
-    std::vector<HWND> Documents;  // in the order of creation
+    std::vector<HWND> Documents; // in the order of creation
     HWND Active = nullptr;
-    HWND Maximized = nullptr;
+    std::string FrameTitle; // of the frame, without a document's
+    bool TitleIsShared = false;
+    bool ChangesTitle = false; // while it is written from here
     HMENU WindowMenu = nullptr;
-    UINT FirstId = 0;  // command of the first document in the window menu
+    UINT FirstId = 0; // command of the first document in the window menu
     UINT Created = 0;
 };
 
@@ -26,5 +29,9 @@ HWND ActiveDocument(HWND Client);
 // separator and up to nine lines "&1 Title", the active one checked.
 void ClearWindowList(HWND Client);
 void RefreshWindowList(HWND Client);
+
+// While the active document is maximized the frame's title names it too:
+// "Frame - [Document]".
+void ShowDocumentInTitle(HWND Client);
 
 void RegisterMdiClass();

@@ -8,8 +8,8 @@
 #include "platform/portable/Window.h"
 
 struct TMenuItem {
-    UINT Type = 0;   // MFT_ flags
-    UINT State = 0;  // MFS_ flags
+    UINT Type = 0;  // MFT_ flags
+    UINT State = 0; // MFS_ flags
     UINT Id = 0;
     HMENU SubMenu = nullptr;
     bool HasText = false;
@@ -27,7 +27,7 @@ struct TMenu {
     HMENU Handle = nullptr;
     std::vector<TMenuItem> Items;
     bool Popup = false;
-    bool System = false;  // what is chosen arrives as WM_SYSCOMMAND
+    bool System = false; // what is chosen arrives as WM_SYSCOMMAND
     MENUINFO Info{};
 };
 

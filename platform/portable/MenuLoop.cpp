@@ -168,8 +168,9 @@ void TMenuLoop::Type(char Character)
             Execute();
             return;
         }
-    const LRESULT Answer = SendMessageA(FOwner, WM_MENUCHAR, MAKEWPARAM(Character, Menu && Menu->Popup ? MF_POPUP : 0),
-                                        reinterpret_cast<LPARAM>(Top().Menu));
+    const LRESULT Answer =
+        SendMessageA(FOwner, WM_MENUCHAR, MAKEWPARAM(Character, Menu && Menu->Popup ? MF_POPUP : 0),
+                     reinterpret_cast<LPARAM>(Top().Menu));
     if (HIWORD(Answer) == MNC_CLOSE)
         FDone = true;
     if (HIWORD(Answer) == MNC_EXECUTE || HIWORD(Answer) == MNC_SELECT)
@@ -183,8 +184,12 @@ void TMenuLoop::Press(WPARAM Key)
     const TMenu* const Menu = MenuOf(Top().Menu);
     const bool Bar = Menu && !Menu->Popup;
     switch (Key) {
-    case VK_DOWN: Bar ? Execute() : Step(1); break;
-    case VK_UP: Bar ? Execute() : Step(-1); break;
+    case VK_DOWN:
+        Bar ? Execute() : Step(1);
+        break;
+    case VK_UP:
+        Bar ? Execute() : Step(-1);
+        break;
     case VK_RIGHT: {
         const TItemPlace Place = FindItem(Top().Menu, static_cast<UINT>(Top().Selected), MF_BYPOSITION);
         if (Bar)
@@ -199,7 +204,9 @@ void TMenuLoop::Press(WPARAM Key)
         else if (FLevels.size() > 1)
             CloseTop();
         break;
-    case VK_RETURN: Execute(); break;
+    case VK_RETURN:
+        Execute();
+        break;
     case VK_ESCAPE:
         if (FLevels.size() > 1)
             CloseTop();
@@ -207,8 +214,11 @@ void TMenuLoop::Press(WPARAM Key)
             FDone = true;
         break;
     case VK_MENU:
-    case VK_F10: FDone = true; break;
-    default: break;
+    case VK_F10:
+        FDone = true;
+        break;
+    default:
+        break;
     }
 }
 

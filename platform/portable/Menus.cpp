@@ -48,7 +48,7 @@ namespace {
 TItemPlace FindCommand(TMenu& Menu, UINT Id, int Depth)
 {
     TItemPlace Fallback;
-    constexpr int MaximumDepth = 25;  // a menu may be put into itself
+    constexpr int MaximumDepth = 25; // a menu may be put into itself
     for (std::size_t Position = 0; Position < Menu.Items.size(); ++Position) {
         const TMenuItem& Item = Menu.Items[Position];
         TMenu* const Sub = Item.SubMenu ? MenuOf(Item.SubMenu) : nullptr;

@@ -27,7 +27,8 @@ struct TFilter {
 
 bool TakeFrom(std::deque<MSG>& Queue, const TFilter& Filter, bool Remove, MSG& Message)
 {
-    const auto Found = std::find_if(Queue.begin(), Queue.end(), [&](const MSG& Each) { return Filter.Fits(Each); });
+    const auto Found =
+        std::find_if(Queue.begin(), Queue.end(), [&](const MSG& Each) { return Filter.Fits(Each); });
     if (Found == Queue.end())
         return false;
     Message = *Found;
@@ -157,7 +158,7 @@ BOOL PostMessageA(HWND Handle, UINT Message, WPARAM WParam, LPARAM LParam)
         if (!Window)
             return FALSE;
         Thread = Window->Thread;
-        if (!Thread)  // the desktop
+        if (!Thread) // the desktop
             return TRUE;
     }
     return PostTo(*Thread, MakeMessage(Handle, Message, WParam, LParam));
@@ -286,8 +287,9 @@ UINT RegisterWindowMessageA(LPCSTR Name)
         return 0;
     TStateLock Lock;
     std::string Key = Name;
-    std::transform(Key.begin(), Key.end(), Key.begin(),
-                   [](char Each) { return Each >= 'A' && Each <= 'Z' ? static_cast<char>(Each + 32) : Each; });
+    std::transform(Key.begin(), Key.end(), Key.begin(), [](char Each) {
+        return Each >= 'A' && Each <= 'Z' ? static_cast<char>(Each + 32) : Each;
+    });
     return Numbers.try_emplace(Key, 0xC000 + static_cast<UINT>(Numbers.size())).first->second;
 }
 

@@ -94,9 +94,11 @@ void DrawArrow(HDC Dc, const RECT& Rect, int DirectionX, int DirectionY, int Col
         const int Long = 2 * (Half - 1 - Row) + 1;
         const int Along = Row - Half / 2;
         if (DirectionY)
-            cairo_rectangle(Draw, X - Long / 2 - 1, Y + DirectionY * Along - (DirectionY < 0 ? 1 : 0), Long, 1);
+            cairo_rectangle(Draw, X - Long / 2 - 1, Y + DirectionY * Along - (DirectionY < 0 ? 1 : 0), Long,
+                            1);
         else
-            cairo_rectangle(Draw, X + DirectionX * Along - (DirectionX < 0 ? 1 : 0), Y - Long / 2 - 1, 1, Long);
+            cairo_rectangle(Draw, X + DirectionX * Along - (DirectionX < 0 ? 1 : 0), Y - Long / 2 - 1, 1,
+                            Long);
     }
     cairo_fill(Draw);
 }
@@ -210,12 +212,12 @@ void DrawMenuSign(HDC Dc, const RECT& Rect, UINT Kind)
         return;
     const RECT Box = SquareIn(Rect);
     cairo_set_antialias(Draw, CAIRO_ANTIALIAS_GRAY);
-    cairo_arc(Draw, (Box.left + Box.right) / 2.0, (Box.top + Box.bottom) / 2.0, (Box.right - Box.left) / 5.0, 0,
-              2 * M_PI);
+    cairo_arc(Draw, (Box.left + Box.right) / 2.0, (Box.top + Box.bottom) / 2.0, (Box.right - Box.left) / 5.0,
+              0, 2 * M_PI);
     Draw.SetColor(GetSysColor(COLOR_MENUTEXT));
     cairo_fill(Draw);
 }
-}  // namespace
+} // namespace
 
 BOOL DrawEdge(HDC Dc, RECT* Rect, UINT Edge, UINT Flags)
 {

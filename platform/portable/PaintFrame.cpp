@@ -46,7 +46,8 @@ void FillCaption(HDC Dc, const RECT& Rect, bool Active)
     if (!Draw)
         return;
     const auto From = ColorOf(GetSysColor(Active ? COLOR_ACTIVECAPTION : COLOR_INACTIVECAPTION));
-    const auto To = ColorOf(GetSysColor(Active ? COLOR_GRADIENTACTIVECAPTION : COLOR_GRADIENTINACTIVECAPTION));
+    const auto To =
+        ColorOf(GetSysColor(Active ? COLOR_GRADIENTACTIVECAPTION : COLOR_GRADIENTINACTIVECAPTION));
     cairo_pattern_t* const Blend = cairo_pattern_create_linear(Rect.left, 0, Rect.right, 0);
     cairo_pattern_add_color_stop_rgb(Blend, 0, From.Red, From.Green, From.Blue);
     cairo_pattern_add_color_stop_rgb(Blend, 1, To.Red, To.Green, To.Blue);
@@ -69,7 +70,8 @@ void PaintCaptionButtons(HDC Dc, const TWindow& Window, RECT& Rect)
     Button(DFCS_CAPTIONCLOSE, 2);
     if (Window.Style & (WS_MINIMIZEBOX | WS_MAXIMIZEBOX)) {
         Button((Window.Has(WS_MAXIMIZE) ? DFCS_CAPTIONRESTORE : DFCS_CAPTIONMAX) |
-                   (Window.Has(WS_MAXIMIZEBOX) ? 0u : DFCS_INACTIVE), 0);
+                   (Window.Has(WS_MAXIMIZEBOX) ? 0u : DFCS_INACTIVE),
+               0);
         Button(DFCS_CAPTIONMIN | (Window.Has(WS_MINIMIZEBOX) ? 0u : DFCS_INACTIVE), 0);
     } else if (Window.ExStyle & WS_EX_CONTEXTHELP) {
         Button(DFCS_CAPTIONHELP, 0);
@@ -86,7 +88,8 @@ void PaintCaption(HDC Dc, const TWindow& Window, RECT Rect)
     SetBkMode(Dc, TRANSPARENT);
     SetTextColor(Dc, GetSysColor(Active ? COLOR_CAPTIONTEXT : COLOR_INACTIVECAPTIONTEXT));
     const UINT Reading = RightToLeft(Window) ? DT_RTLREADING | DT_RIGHT : 0u;
-    DrawTextA(Dc, Window.Text.c_str(), -1, &Rect, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS | Reading);
+    DrawTextA(Dc, Window.Text.c_str(), -1, &Rect,
+              DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS | Reading);
 }
 
 std::string MenuText(HMENU Menu, int Position)
@@ -169,9 +172,10 @@ int ThumbLength(int Room, const TScrollBar& Bar)
     const long long Span = static_cast<long long>(Bar.Maximum) - Bar.Minimum + 1;
     if (Bar.Page == 0 || Span <= 0)
         return std::min(Room, 17);
-    return static_cast<int>(std::clamp<long long>(Room * static_cast<long long>(Bar.Page) / Span, 8, std::max(Room, 8)));
+    return static_cast<int>(
+        std::clamp<long long>(Room * static_cast<long long>(Bar.Page) / Span, 8, std::max(Room, 8)));
 }
-}  // namespace
+} // namespace
 
 void PaintScrollBar(HDC Dc, const RECT& Rect, bool Vertical, const TScrollBar& Bar, bool Enabled)
 {
@@ -183,7 +187,8 @@ void PaintScrollBar(HDC Dc, const RECT& Rect, bool Vertical, const TScrollBar& B
         return Vertical ? RECT{Rect.left, Rect.top + From, Rect.right, Rect.top + To}
                         : RECT{Rect.left + From, Rect.top, Rect.left + To, Rect.bottom};
     };
-    const long long Range = static_cast<long long>(Bar.Maximum) - Bar.Minimum - (Bar.Page ? static_cast<long long>(Bar.Page) - 1 : 0);
+    const long long Range = static_cast<long long>(Bar.Maximum) - Bar.Minimum -
+                            (Bar.Page ? static_cast<long long>(Bar.Page) - 1 : 0);
     const bool Usable = Enabled && Range > 0 && !(Bar.Arrows & ESB_DISABLE_BOTH);
     const UINT Dull = Usable ? 0u : DFCS_INACTIVE;
     RECT First = Part(0, Arrow), Last = Part(Length - Arrow, Length);
@@ -193,8 +198,10 @@ void PaintScrollBar(HDC Dc, const RECT& Rect, bool Vertical, const TScrollBar& B
     const int Thumb = ThumbLength(Room, Bar);
     if (!Usable || Room <= Thumb)
         return;
-    const auto Offset = static_cast<int>((static_cast<long long>(Bar.Position) - Bar.Minimum) * (Room - Thumb) / Range);
-    RECT Handle = Part(Arrow + std::clamp(Offset, 0, Room - Thumb), Arrow + std::clamp(Offset, 0, Room - Thumb) + Thumb);
+    const auto Offset =
+        static_cast<int>((static_cast<long long>(Bar.Position) - Bar.Minimum) * (Room - Thumb) / Range);
+    RECT Handle = Part(Arrow + std::clamp(Offset, 0, Room - Thumb),
+                       Arrow + std::clamp(Offset, 0, Room - Thumb) + Thumb);
     DrawEdge(Dc, &Handle, EDGE_RAISED, BF_RECT | BF_MIDDLE);
 }
 
@@ -206,7 +213,8 @@ void PaintFrame(const TWindow& Window, HDC Dc)
     RECT Rect = {0, 0, Outer.right - Outer.left, Outer.bottom - Outer.top};
     PaintBorder(Dc, Window, Rect);
     if (Window.Has(WS_CAPTION)) {
-        const int Height = GetSystemMetrics(Window.ExStyle & WS_EX_TOOLWINDOW ? SM_CYSMCAPTION : SM_CYCAPTION);
+        const int Height =
+            GetSystemMetrics(Window.ExStyle & WS_EX_TOOLWINDOW ? SM_CYSMCAPTION : SM_CYCAPTION);
         const RECT Caption = {Rect.left, Rect.top, Rect.right, Rect.top + Height - 1};
         PaintCaption(Dc, Window, Caption);
         const RECT Line = {Rect.left, Caption.bottom, Rect.right, Rect.top + Height};

@@ -36,7 +36,7 @@ std::shared_ptr<cairo_region_t> VisibleRegion(const TWindow& Window, const RECT&
         }
     return MakeRegion(Region);
 }
-}  // namespace
+} // namespace
 
 TPictureScope::TPictureScope(const TWindow& Window, cairo_surface_t* Target)
     : Root(Window.Handle), Corner{ScreenRect(Window).left, ScreenRect(Window).top}, Surface(Target),
@@ -64,7 +64,8 @@ HDC WindowContext(const TWindow& Window, TPaintArea Kind)
 HDC GetDC(HWND Handle)
 {
     if (!Handle)
-        return NewContext(nullptr, nullptr, {}, {GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)});
+        return NewContext(nullptr, nullptr, {},
+                          {GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)});
     const TWindow* const Window = WindowOf(Handle);
     return Window ? WindowContext(*Window, TPaintArea::Client) : nullptr;
 }

@@ -15,7 +15,7 @@ public:
     TPictureScope& operator=(const TPictureScope&) = delete;
 
     HWND Root;
-    POINT Corner;  // of the root on the screen
+    POINT Corner; // of the root on the screen
     cairo_surface_t* Surface;
 
 private:

@@ -25,7 +25,7 @@ void PaintTree(HWND Handle)
         if (IsWindow(Child))
             PaintTree(Child);
 }
-}  // namespace
+} // namespace
 
 bool SaveWindowPicture(HWND Handle, const std::string& FileName)
 {

@@ -165,7 +165,8 @@ BOOL SetWindowPos(HWND Handle, HWND After, int X, int Y, int Width, int Height, 
     if (!Moved)
         return FALSE;
     Place(*Moved, Pos, Rect, Client);
-    if (((Pos.flags & (SWP_NOCLIENTSIZE | SWP_FRAMECHANGED)) != SWP_NOCLIENTSIZE || (Pos.flags & SWP_SHOWWINDOW)) &&
+    if (((Pos.flags & (SWP_NOCLIENTSIZE | SWP_FRAMECHANGED)) != SWP_NOCLIENTSIZE ||
+         (Pos.flags & SWP_SHOWWINDOW)) &&
         !(Pos.flags & SWP_NOREDRAW) && Moved->Has(WS_VISIBLE))
         RedrawWindow(Handle, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
     if (!(Pos.flags & (SWP_NOACTIVATE | SWP_HIDEWINDOW))) {
@@ -196,7 +197,8 @@ MINMAXINFO AskMinMax(HWND Handle)
     const TWindow* const Window = WindowOf(Handle);
     if (!Window)
         return Info;
-    const RECT Frame = FrameMargins(Window->Style & ~static_cast<DWORD>(WS_VSCROLL | WS_HSCROLL), Window->ExStyle);
+    const RECT Frame =
+        FrameMargins(Window->Style & ~static_cast<DWORD>(WS_VSCROLL | WS_HSCROLL), Window->ExStyle);
     const int BorderX = Window->Has(WS_THICKFRAME) || Window->Has(WS_CAPTION) ? Frame.left : 0;
     RECT Space{0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
     if (Window->IsChild())

@@ -102,7 +102,7 @@ HMODULE ProgramModule()
                         *static_cast<ElfW(Addr)*>(Result) = Info->dlpi_addr + Info->dlpi_phdr[Index].p_vaddr;
                         break;
                     }
-                return 1;  // the program comes first
+                return 1; // the program comes first
             },
             &Base);
         return static_cast<HMODULE>(Base);

@@ -89,7 +89,8 @@ void TProgress::Paint(HDC Dc)
     const int Length = Vertical ? Rect.bottom - Rect.top : Rect.right - Rect.left;
     const long long Span = std::max(1, FHigh - FLow);
     const int Filled = static_cast<int>((static_cast<long long>(FPosition) - FLow) * Length / Span);
-    const int Block = Style() & PBS_SMOOTH ? std::max(1, Filled) : std::max(4, (Vertical ? Rect.right : Rect.bottom) * 2 / 3);
+    const int Block = Style() & PBS_SMOOTH ? std::max(1, Filled)
+                                           : std::max(4, (Vertical ? Rect.right : Rect.bottom) * 2 / 3);
     const int Gap = Style() & PBS_SMOOTH ? 0 : 2;
     for (int At = 0; At < Filled; At += Block + Gap) {
         const int End = std::min(At + Block, Length);
@@ -100,7 +101,7 @@ void TProgress::Paint(HDC Dc)
     DeleteObject(Bar);
     DeleteObject(Back);
 }
-}  // namespace
+} // namespace
 
 void RegisterProgressBars()
 {

@@ -10,7 +10,7 @@
 namespace {
 
 struct TOpenKey {
-    std::string Root;  // name of the root key's file
+    std::string Root; // name of the root key's file
     std::string Path;
 };
 
@@ -59,7 +59,7 @@ HKEY Remember(const TOpenKey& Key)
 }
 
 // Calls Look with the key as it is on disk.
-template <typename TLook>
+template<typename TLook>
 LSTATUS Read(HKEY Handle, TLook Look)
 {
     TOpenKey Key;
@@ -72,7 +72,7 @@ LSTATUS Read(HKEY Handle, TLook Look)
 
 // The same for a change: Change returns an error number, and what it did is
 // kept when that is ERROR_SUCCESS.
-template <typename TChange>
+template<typename TChange>
 LSTATUS Modify(HKEY Handle, TChange Change)
 {
     TOpenKey Key;
@@ -112,7 +112,7 @@ DWORD GiveName(const std::string& Name, LPSTR Buffer, LPDWORD Size)
     return ERROR_SUCCESS;
 }
 
-template <typename TMap>
+template<typename TMap>
 DWORD LongestName(const TMap& Map)
 {
     std::size_t Longest = 0;
@@ -262,7 +262,8 @@ LSTATUS RegDeleteTreeA(HKEY Handle, LPCSTR Path)
     });
 }
 
-LSTATUS RegEnumKeyExA(HKEY Handle, DWORD Index, LPSTR Name, LPDWORD Size, LPDWORD, LPSTR, LPDWORD, PFILETIME Written)
+LSTATUS RegEnumKeyExA(HKEY Handle, DWORD Index, LPSTR Name, LPDWORD Size, LPDWORD, LPSTR, LPDWORD,
+                      PFILETIME Written)
 {
     return Read(Handle, [&](const TRegistryKey& Key) -> DWORD {
         if (Index >= Key.Keys.size())
@@ -286,9 +287,9 @@ LSTATUS RegEnumValueA(HKEY Handle, DWORD Index, LPSTR Name, LPDWORD Size, LPDWOR
     });
 }
 
-LSTATUS RegQueryInfoKeyA(HKEY Handle, LPSTR, LPDWORD ClassSize, LPDWORD, LPDWORD SubKeys, LPDWORD LongestSubKey,
-                         LPDWORD LongestClass, LPDWORD Values, LPDWORD LongestValueName, LPDWORD LongestData,
-                         LPDWORD Security, PFILETIME Written)
+LSTATUS RegQueryInfoKeyA(HKEY Handle, LPSTR, LPDWORD ClassSize, LPDWORD, LPDWORD SubKeys,
+                         LPDWORD LongestSubKey, LPDWORD LongestClass, LPDWORD Values,
+                         LPDWORD LongestValueName, LPDWORD LongestData, LPDWORD Security, PFILETIME Written)
 {
     return Read(Handle, [&](const TRegistryKey& Key) -> DWORD {
         std::size_t Longest = 0;

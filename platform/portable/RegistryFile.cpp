@@ -46,7 +46,8 @@ std::string EscapeName(const std::string& Name)
 {
     std::string Result;
     for (const char Each : Name) {
-        if (std::string_view("\\=[]%@").find(Each) == std::string_view::npos && static_cast<BYTE>(Each) >= 32) {
+        if (std::string_view("\\=[]%@").find(Each) == std::string_view::npos &&
+            static_cast<BYTE>(Each) >= 32) {
             Result += Each;
             continue;
         }
@@ -248,7 +249,7 @@ TRegistryKey LoadRegistry(const std::string& RootName)
     std::error_code Error;
     if (!std::filesystem::exists(File, Error))
         return {};
-    return ReadFile(File);  // it is replaced as a whole, so no lock is needed
+    return ReadFile(File); // it is replaced as a whole, so no lock is needed
 }
 
 bool ChangeRegistry(const std::string& RootName, const std::function<bool(TRegistryKey&)>& Change)

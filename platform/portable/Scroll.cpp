@@ -9,7 +9,8 @@ namespace {
 TScrollBar* BarOf(HWND Handle, int Bar)
 {
     TWindow* const Window = WindowOf(Handle);
-    return Window && (Bar == SB_HORZ || Bar == SB_VERT) ? &Window->Scroll[static_cast<std::size_t>(Bar)] : nullptr;
+    return Window && (Bar == SB_HORZ || Bar == SB_VERT) ? &Window->Scroll[static_cast<std::size_t>(Bar)]
+                                                        : nullptr;
 }
 
 void Clamp(TScrollBar& Bar)
@@ -25,8 +26,8 @@ void Clamp(TScrollBar& Bar)
 int SetScrollInfo(HWND Handle, int Kind, const SCROLLINFO* Info, BOOL Redraw)
 {
     if (Kind == SB_CTL)
-        return static_cast<int>(
-            SendMessageA(Handle, SBM_SETSCROLLINFO, static_cast<WPARAM>(Redraw), reinterpret_cast<LPARAM>(Info)));
+        return static_cast<int>(SendMessageA(Handle, SBM_SETSCROLLINFO, static_cast<WPARAM>(Redraw),
+                                             reinterpret_cast<LPARAM>(Info)));
     TScrollBar* const Bar = BarOf(Handle, Kind);
     if (!Bar || !Info)
         return 0;
@@ -140,9 +141,10 @@ BOOL EnableScrollBar(HWND Handle, UINT Bar, UINT Arrows)
     return Changed;
 }
 
-int ScrollWindowEx(HWND Handle, int X, int Y, const RECT* Rect, const RECT*, HRGN Update, LPRECT UpdateRect, UINT Flags)
+int ScrollWindowEx(HWND Handle, int X, int Y, const RECT* Rect, const RECT*, HRGN Update, LPRECT UpdateRect,
+                   UINT Flags)
 {
-    constexpr UINT MoveChildren = 1;  // SW_SCROLLCHILDREN
+    constexpr UINT MoveChildren = 1; // SW_SCROLLCHILDREN
     const TWindow* const Window = WindowOf(Handle);
     if (!Window)
         return 0;

@@ -65,14 +65,27 @@ LRESULT TScrollBarControl::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
     case WM_KEYDOWN:
         switch (WParam) {
         case VK_UP:
-        case VK_LEFT: Scroll(SB_LINEUP); break;
+        case VK_LEFT:
+            Scroll(SB_LINEUP);
+            break;
         case VK_DOWN:
-        case VK_RIGHT: Scroll(SB_LINEDOWN); break;
-        case VK_PRIOR: Scroll(SB_PAGEUP); break;
-        case VK_NEXT: Scroll(SB_PAGEDOWN); break;
-        case VK_HOME: Scroll(SB_TOP); break;
-        case VK_END: Scroll(SB_BOTTOM); break;
-        default: break;
+        case VK_RIGHT:
+            Scroll(SB_LINEDOWN);
+            break;
+        case VK_PRIOR:
+            Scroll(SB_PAGEUP);
+            break;
+        case VK_NEXT:
+            Scroll(SB_PAGEDOWN);
+            break;
+        case VK_HOME:
+            Scroll(SB_TOP);
+            break;
+        case VK_END:
+            Scroll(SB_BOTTOM);
+            break;
+        default:
+            break;
         }
         return 0;
     default:
@@ -139,7 +152,7 @@ void TScrollBarControl::Paint(HDC Dc)
 {
     PaintScrollBar(Dc, ClientRect(), Vertical(), FBar, Enabled());
 }
-}  // namespace
+} // namespace
 
 void RegisterScrollBars()
 {

@@ -60,7 +60,9 @@ void SendSizeAndMove(HWND Handle)
     const TWindow* const Window = WindowOf(Handle);
     if (!Window)
         return;
-    const WPARAM Kind = Window->Has(WS_MAXIMIZE) ? SIZE_MAXIMIZED : Window->Has(WS_MINIMIZE) ? SIZE_MINIMIZED : SIZE_RESTORED;
+    const WPARAM Kind = Window->Has(WS_MAXIMIZE)   ? SIZE_MAXIMIZED
+                        : Window->Has(WS_MINIMIZE) ? SIZE_MINIMIZED
+                                                   : SIZE_RESTORED;
     const LPARAM Place = MAKELPARAM(Window->Client.left, Window->Client.top);
     SendMessageA(Handle, WM_SIZE, Kind, MAKELPARAM(Window->ClientWidth(), Window->ClientHeight()));
     SendMessageA(Handle, WM_MOVE, 0, Place);
@@ -71,7 +73,7 @@ namespace {
 struct TShowing {
     UINT Flags = 0;
     RECT Rect{};
-    bool Done = false;  // there is nothing to change
+    bool Done = false; // there is nothing to change
 };
 
 void AddMinMax(HWND Handle, int Command, TShowing& Showing)
@@ -111,7 +113,7 @@ TShowing PlanShowing(HWND Handle, int Command, DWORD Style, bool Visible)
         Plan.Done = Visible;
         Plan.Flags = SWP_SHOWWINDOW | SWP_NOSIZE | SWP_NOMOVE | ForChild;
         break;
-    default:  // SW_RESTORE, SW_SHOWNORMAL, SW_SHOWDEFAULT, SW_SHOWNOACTIVATE
+    default: // SW_RESTORE, SW_SHOWNORMAL, SW_SHOWDEFAULT, SW_SHOWNOACTIVATE
         Plan.Flags = (Visible ? 0u : SWP_SHOWWINDOW) | (Command == SW_SHOWNOACTIVATE ? SWP_NOACTIVATE : 0u);
         if (Style & (WS_MINIMIZE | WS_MAXIMIZE)) {
             AddMinMax(Handle, Command, Plan);
@@ -204,7 +206,8 @@ BOOL ShowOwnedPopups(HWND Owner, BOOL Show)
         const bool Visible = IsWindowVisible(Handle);
         if (Visible == (Show != FALSE))
             continue;
-        SendMessageA(Handle, WM_SHOWWINDOW, static_cast<WPARAM>(Show), Show ? SW_PARENTOPENING : SW_PARENTCLOSING);
+        SendMessageA(Handle, WM_SHOWWINDOW, static_cast<WPARAM>(Show),
+                     Show ? SW_PARENTOPENING : SW_PARENTCLOSING);
     }
     return TRUE;
 }

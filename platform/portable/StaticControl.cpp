@@ -138,7 +138,7 @@ void TStatic::PaintImage(HDC Dc, const RECT& Rect) const
     SelectObject(Source, Old);
     DeleteDC(Source);
 }
-}  // namespace
+} // namespace
 
 void RegisterStatics()
 {

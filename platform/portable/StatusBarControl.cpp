@@ -9,9 +9,9 @@ constexpr int Gap = 2;
 
 struct TPart {
     std::string Text;
-    int Right = -1;  // -1: to the end
+    int Right = -1; // -1: to the end
     UINT Type = 0;
-    LPARAM Data = 0;  // of a part that the parent draws
+    LPARAM Data = 0; // of a part that the parent draws
     std::string Tip;
 };
 
@@ -201,7 +201,7 @@ void TStatusBar::PaintPart(HDC Dc, const TPart& Part, std::size_t Index, RECT Re
     const UINT Reading = Part.Type & SBT_RTLREADING ? DT_RTLREADING : 0u;
     DrawItemText(Dc, Shown, Rect, Align | Reading | DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
 }
-}  // namespace
+} // namespace
 
 void RegisterStatusBars()
 {

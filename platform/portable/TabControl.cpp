@@ -5,9 +5,9 @@
 #include "platform/portable/Control.h"
 
 namespace {
-constexpr int Raise = 2;  // how far the current tab stands out
+constexpr int Raise = 2; // how far the current tab stands out
 constexpr int Padding = 6;
-constexpr int LeastWidth = 42;
+constexpr int LeastWidth = 54;
 
 struct TTab {
     std::string Text;
@@ -263,8 +263,6 @@ RECT TTabs::RectOf(int Index)
         Left += TabWidth(Each) + (Buttons() ? 3 : 0);
     const int Top = Bottom() ? Client.bottom - TabHeight() - Raise : Buttons() ? 0 : Raise;
     RECT Rect = {Left, Top, Left + TabWidth(Index), Top + TabHeight()};
-    if (Index == FCurrent && !Buttons())
-        InflateRect(&Rect, Raise, Raise);
     if (ExStyle() & WS_EX_LAYOUTRTL)
         Rect = {Client.right - Rect.right, Rect.top, Client.right - Rect.left, Rect.bottom};
     return Rect;
@@ -312,6 +310,8 @@ void TTabs::PaintTab(HDC Dc, int Index)
 {
     RECT Rect = RectOf(Index);
     const bool Current = Index == FCurrent;
+    if (Current && !Buttons())
+        InflateRect(&Rect, Raise, Raise);
     RECT Label = Rect;
     if (Buttons()) {
         DrawFrameControl(Dc, &Rect, DFC_BUTTON, DFCS_BUTTONPUSH | (Current ? DFCS_PUSHED : 0u));
@@ -320,7 +320,8 @@ void TTabs::PaintTab(HDC Dc, int Index)
             ++Rect.top;
         else if (Current)
             Bottom() ? Rect.bottom -= 1 : Rect.bottom -= Raise;
-        RECT Inside = {Rect.left + 1, Rect.top + 1, Rect.right - 1, Bottom() ? Rect.bottom - 1 : Rect.bottom + (Current ? 1 : 0)};
+        RECT Inside = {Rect.left + 1, Rect.top + 1, Rect.right - 1,
+                       Bottom() ? Rect.bottom - 1 : Rect.bottom + (Current ? 1 : 0)};
         if (Bottom() && Current)
             Inside.top -= 1;
         FillRect(Dc, &Inside, GetSysColorBrush(COLOR_BTNFACE));
@@ -336,7 +337,7 @@ void TTabs::PaintTab(HDC Dc, int Index)
         DrawFocusRect(Dc, &Label);
     }
 }
-}  // namespace
+} // namespace
 
 void RegisterTabs()
 {

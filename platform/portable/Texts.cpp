@@ -63,8 +63,9 @@ std::string PropName(LPCSTR Name)
     if (IS_INTRESOURCE(Name))
         return "#" + std::to_string(LOWORD(Name));
     std::string Result = Name;
-    std::transform(Result.begin(), Result.end(), Result.begin(),
-                   [](char Each) { return Each >= 'A' && Each <= 'Z' ? static_cast<char>(Each + 32) : Each; });
+    std::transform(Result.begin(), Result.end(), Result.begin(), [](char Each) {
+        return Each >= 'A' && Each <= 'Z' ? static_cast<char>(Each + 32) : Each;
+    });
     return Result;
 }
 
@@ -157,18 +158,25 @@ LONG_PTR GetWindowLongPtrA(HWND Handle, int Index)
     if (!Window)
         return 0;
     switch (Index) {
-    case GWLP_WNDPROC: return reinterpret_cast<LONG_PTR>(Window->Proc);
-    case GWLP_HINSTANCE: return reinterpret_cast<LONG_PTR>(Window->Instance);
+    case GWLP_WNDPROC:
+        return reinterpret_cast<LONG_PTR>(Window->Proc);
+    case GWLP_HINSTANCE:
+        return reinterpret_cast<LONG_PTR>(Window->Instance);
     case GWLP_HWNDPARENT: {
         const HWND Parent = GetParent(Handle);
         const HWND Owner = Window->Owner ? Window->Owner->Handle : nullptr;
         return reinterpret_cast<LONG_PTR>(Window->IsChild() ? Parent : Owner);
     }
-    case GWLP_ID: return Window->Id;
-    case GWLP_USERDATA: return Window->UserData;
-    case GWL_STYLE: return static_cast<LONG_PTR>(static_cast<LONG>(Window->Style));
-    case GWL_EXSTYLE: return static_cast<LONG_PTR>(static_cast<LONG>(Window->ExStyle));
-    default: break;
+    case GWLP_ID:
+        return Window->Id;
+    case GWLP_USERDATA:
+        return Window->UserData;
+    case GWL_STYLE:
+        return static_cast<LONG_PTR>(static_cast<LONG>(Window->Style));
+    case GWL_EXSTYLE:
+        return static_cast<LONG_PTR>(static_cast<LONG>(Window->ExStyle));
+    default:
+        break;
     }
     LONG_PTR Value = 0;
     if (InExtra(*Window, Index, sizeof(Value)))
@@ -188,11 +196,20 @@ LONG_PTR SetWindowLongPtrA(HWND Handle, int Index, LONG_PTR Value)
     const LONG_PTR Old = GetWindowLongPtrA(Handle, Index);
     TStateLock Lock;
     switch (Index) {
-    case GWLP_WNDPROC: Window->Proc = reinterpret_cast<WNDPROC>(Value); break;
-    case GWLP_HINSTANCE: Window->Instance = reinterpret_cast<HINSTANCE>(Value); break;
-    case GWLP_HWNDPARENT: return reinterpret_cast<LONG_PTR>(ChangeOwner(*Window, reinterpret_cast<HWND>(Value)));
-    case GWLP_ID: Window->Id = Value; break;
-    case GWLP_USERDATA: Window->UserData = Value; break;
+    case GWLP_WNDPROC:
+        Window->Proc = reinterpret_cast<WNDPROC>(Value);
+        break;
+    case GWLP_HINSTANCE:
+        Window->Instance = reinterpret_cast<HINSTANCE>(Value);
+        break;
+    case GWLP_HWNDPARENT:
+        return reinterpret_cast<LONG_PTR>(ChangeOwner(*Window, reinterpret_cast<HWND>(Value)));
+    case GWLP_ID:
+        Window->Id = Value;
+        break;
+    case GWLP_USERDATA:
+        Window->UserData = Value;
+        break;
     default:
         if (InExtra(*Window, Index, sizeof(Value)))
             std::memcpy(Window->Extra.data() + Index, &Value, sizeof(Value));

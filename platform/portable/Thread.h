@@ -8,8 +8,8 @@
 #include <memory>
 #include <vector>
 
-#include "platform/portable/winbase.h"
 #include "platform/portable/Window.h"
+#include "platform/portable/winbase.h"
 
 using TClock = std::chrono::steady_clock;
 
@@ -41,18 +41,18 @@ struct THook {
 struct TThread {
     DWORD Id = 0;
     std::deque<MSG> Posted;
-    std::deque<MSG> Input;  // keys and mouse
+    std::deque<MSG> Input; // keys and mouse
     std::deque<std::shared_ptr<TSent>> Sent;
-    std::vector<std::shared_ptr<TSent>> Receiving;  // innermost last
+    std::vector<std::shared_ptr<TSent>> Receiving; // innermost last
     std::vector<TTimer> Timers;
-    std::array<std::vector<THook>, 16> Hooks;  // by kind + 1; the newest last
-    HHOOK CurrentHook = nullptr;  // the one that runs, and its kind
+    std::array<std::vector<THook>, 16> Hooks; // by kind + 1; the newest last
+    HHOOK CurrentHook = nullptr;              // the one that runs, and its kind
     int CurrentKind = 0;
     std::array<BYTE, 256> Keys{};
     HWND Active = nullptr;
     HWND Focus = nullptr;
     HWND Capture = nullptr;
-    HWND MenuOwner = nullptr;  // of the menu that is tracked
+    HWND MenuOwner = nullptr; // of the menu that is tracked
     bool EndMenu = false;
     bool Quit = false;
     int QuitCode = 0;

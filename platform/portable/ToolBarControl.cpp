@@ -10,7 +10,7 @@ constexpr int SeparatorWidth = 8;
 struct TToolButton {
     TBBUTTON Data{};
     std::string Text;
-    int Width = 0;  // 0: from the text
+    int Width = 0; // 0: from the text
 };
 
 class TToolBar final : public TControl {
@@ -46,7 +46,7 @@ private:
     std::vector<std::string> FStrings;
     HIMAGELIST FImages = nullptr;
     SIZE FBitmap = {16, 15};
-    SIZE FSize{};  // least size of a button; 0: 24 by 22
+    SIZE FSize{}; // least size of a button; 0: 24 by 22
     int FPressed = -1;
     int FIndent = 0;
     DWORD FExtended = 0;
@@ -123,7 +123,8 @@ LRESULT TToolBar::HandleState(UINT Message, WPARAM WParam, LPARAM LParam)
         if (!Valid(Index))
             return -1;
         if (LParam)
-            CopyText(At(Index).Text, reinterpret_cast<LPSTR>(LParam), static_cast<int>(At(Index).Text.size()) + 1);
+            CopyText(At(Index).Text, reinterpret_cast<LPSTR>(LParam),
+                     static_cast<int>(At(Index).Text.size()) + 1);
         return static_cast<LRESULT>(At(Index).Text.size());
     case TB_GETBUTTONINFOA: {
         auto& Info = Structure<TBBUTTONINFOA>(LParam);
@@ -210,7 +211,8 @@ LRESULT TToolBar::HandleLayout(UINT Message, WPARAM WParam, LPARAM LParam)
             return 0;
         RECT Parent{};
         GetClientRect(GetParent(Window()), &Parent);
-        SetWindowPos(Window(), nullptr, 0, 0, Parent.right, ButtonHeight() + 6, SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOMOVE);
+        SetWindowPos(Window(), nullptr, 0, 0, Parent.right, ButtonHeight() + 6,
+                     SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOMOVE);
         return 0;
     }
     case TB_SETEXTENDEDSTYLE:
@@ -248,7 +250,9 @@ LRESULT TToolBar::Insert(int Index, int Count, const TBBUTTON* Buttons)
         Button.Data = Buttons[Each];
         const auto String = Buttons[Each].iString;
         if (String >= 0 && String < 0x10000)
-            Button.Text = String < static_cast<INT_PTR>(FStrings.size()) ? FStrings[static_cast<std::size_t>(String)] : "";
+            Button.Text = String < static_cast<INT_PTR>(FStrings.size())
+                              ? FStrings[static_cast<std::size_t>(String)]
+                              : "";
         else if (String != -1)
             Button.Text = reinterpret_cast<LPCSTR>(String);
         FButtons.insert(FButtons.begin() + Index + Each, std::move(Button));
@@ -349,7 +353,8 @@ void TToolBar::Click(int Index)
 
 int TToolBar::ButtonHeight() const
 {
-    const bool Texts = std::any_of(FButtons.begin(), FButtons.end(), [](const TToolButton& B) { return !B.Text.empty(); });
+    const bool Texts =
+        std::any_of(FButtons.begin(), FButtons.end(), [](const TToolButton& B) { return !B.Text.empty(); });
     int Height = FBitmap.cy + 7;
     if (Texts)
         Height = ListStyle() ? std::max(Height, LineHeight() + 8) : Height + LineHeight();
@@ -364,7 +369,8 @@ int TToolBar::WidthOfButton(const TToolButton& Button) const
         return Button.Width;
     int Width = FBitmap.cx + 8;
     if (!Button.Text.empty())
-        Width = ListStyle() ? Width + MnemonicWidthOf(Button.Text) + 4 : std::max(Width, MnemonicWidthOf(Button.Text) + 10);
+        Width = ListStyle() ? Width + MnemonicWidthOf(Button.Text) + 4
+                            : std::max(Width, MnemonicWidthOf(Button.Text) + 10);
     if (Button.Data.fsStyle & BTNS_DROPDOWN)
         Width += 12;
     return std::max<int>(Width, FSize.cx);
@@ -385,7 +391,8 @@ RECT TToolBar::RectOf(int Index)
 int TToolBar::ButtonAt(POINT Point)
 {
     for (int Index = 0; Valid(Index); ++Index)
-        if (const RECT Rect = RectOf(Index); !(At(Index).Data.fsState & TBSTATE_HIDDEN) && PtInRect(&Rect, Point))
+        if (const RECT Rect = RectOf(Index);
+            !(At(Index).Data.fsState & TBSTATE_HIDDEN) && PtInRect(&Rect, Point))
             return Index;
     return -1;
 }
@@ -406,7 +413,8 @@ void TToolBar::PaintButton(HDC Dc, int Index)
     const auto& Button = At(Index);
     RECT Rect = RectOf(Index);
     if (IsSeparator(Button)) {
-        RECT Line = {(Rect.left + Rect.right) / 2 - 1, Rect.top + 2, (Rect.left + Rect.right) / 2 + 1, Rect.bottom - 2};
+        RECT Line = {(Rect.left + Rect.right) / 2 - 1, Rect.top + 2, (Rect.left + Rect.right) / 2 + 1,
+                     Rect.bottom - 2};
         DrawEdge(Dc, &Line, EDGE_ETCHED, BF_LEFT);
         return;
     }
@@ -419,11 +427,15 @@ void TToolBar::PaintButton(HDC Dc, int Index)
         OffsetRect(&Rect, 1, 1);
     const bool On = (Button.Data.fsState & TBSTATE_ENABLED) != 0;
     RECT Label = Rect;
-    const bool Image = FImages && Button.Data.iBitmap >= 0 && Button.Data.iBitmap < ImageList_GetImageCount(FImages);
+    const bool Image =
+        FImages && Button.Data.iBitmap >= 0 && Button.Data.iBitmap < ImageList_GetImageCount(FImages);
     if (Image) {
-        const int X = ListStyle() && !Button.Text.empty() ? Rect.left + 4 : (Rect.left + Rect.right - FBitmap.cx) / 2;
-        const int Y = ListStyle() || Button.Text.empty() ? (Rect.top + Rect.bottom - FBitmap.cy) / 2 : Rect.top + 3;
-        ImageList_Draw(FImages, Button.Data.iBitmap, Dc, X, Y, On ? ILD_TRANSPARENT : ILD_TRANSPARENT | ILD_BLEND50);
+        const int X =
+            ListStyle() && !Button.Text.empty() ? Rect.left + 4 : (Rect.left + Rect.right - FBitmap.cx) / 2;
+        const int Y =
+            ListStyle() || Button.Text.empty() ? (Rect.top + Rect.bottom - FBitmap.cy) / 2 : Rect.top + 3;
+        ImageList_Draw(FImages, Button.Data.iBitmap, Dc, X, Y,
+                       On ? ILD_TRANSPARENT : ILD_TRANSPARENT | ILD_BLEND50);
         if (ListStyle())
             Label.left = X + FBitmap.cx;
         else
@@ -432,7 +444,7 @@ void TToolBar::PaintButton(HDC Dc, int Index)
     SetTextColor(Dc, GetSysColor(On ? COLOR_BTNTEXT : COLOR_GRAYTEXT));
     DrawItemText(Dc, Button.Text, Label, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
 }
-}  // namespace
+} // namespace
 
 void RegisterToolBars()
 {

@@ -30,7 +30,7 @@ private:
     int FHigh = 100;
     int FPosition = 0;
     int FLine = 1;
-    int FPage = -1;  // -1: a fifth of the range
+    int FPage = -1; // -1: a fifth of the range
     int FFrequency = 1;
     int FSelectionStart = 0;
     int FSelectionEnd = 0;
@@ -182,7 +182,8 @@ int TTrackBar::PixelOf(int Position) const
     const RECT Rect = ClientRect();
     const int Length = (Vertical() ? Rect.bottom : Rect.right) - 2 * Indent - ThumbWidth;
     const long long Span = std::max(1, FHigh - FLow);
-    return Indent + ThumbWidth / 2 + static_cast<int>((static_cast<long long>(Position) - FLow) * Length / Span);
+    return Indent + ThumbWidth / 2 +
+           static_cast<int>((static_cast<long long>(Position) - FLow) * Length / Span);
 }
 
 int TTrackBar::PositionAt(POINT Point) const
@@ -197,7 +198,9 @@ void TTrackBar::Paint(HDC Dc)
     const RECT Rect = ClientRect();
     FillRect(Dc, &Rect, ParentColors(Dc, WM_CTLCOLORSTATIC));
     const int Middle = Indent + FThumb / 2 - 4;
-    const auto Turn = [&](RECT Part) { return Vertical() ? RECT{Part.top, Part.left, Part.bottom, Part.right} : Part; };
+    const auto Turn = [&](RECT Part) {
+        return Vertical() ? RECT{Part.top, Part.left, Part.bottom, Part.right} : Part;
+    };
     const int Length = Vertical() ? Rect.bottom : Rect.right;
     RECT Channel = Turn({Indent, Middle - 2, Length - Indent, Middle + 2});
     DrawEdge(Dc, &Channel, EDGE_SUNKEN, BF_RECT);
@@ -216,7 +219,7 @@ void TTrackBar::Paint(HDC Dc)
     if (Focused())
         DrawFocusRect(Dc, &Rect);
 }
-}  // namespace
+} // namespace
 
 void RegisterTrackBars()
 {

@@ -26,10 +26,14 @@ HWND Neighbour(const TWindow& Window, UINT Relation)
     const auto& Siblings = Window.Parent->Children;
     const auto Here = std::find(Siblings.begin(), Siblings.end(), &Window);
     switch (Relation) {
-    case GW_HWNDFIRST: return Siblings.front()->Handle;
-    case GW_HWNDLAST: return Siblings.back()->Handle;
-    case GW_HWNDNEXT: return Here + 1 == Siblings.end() ? nullptr : (*(Here + 1))->Handle;
-    default: return Here == Siblings.begin() ? nullptr : (*(Here - 1))->Handle;
+    case GW_HWNDFIRST:
+        return Siblings.front()->Handle;
+    case GW_HWNDLAST:
+        return Siblings.back()->Handle;
+    case GW_HWNDNEXT:
+        return Here + 1 == Siblings.end() ? nullptr : (*(Here + 1))->Handle;
+    default:
+        return Here == Siblings.begin() ? nullptr : (*(Here - 1))->Handle;
     }
 }
 
@@ -87,7 +91,9 @@ HWND GetParent(HWND Handle)
 HWND SetParent(HWND Handle, HWND NewParent)
 {
     TWindow* Window = WindowOf(Handle);
-    TWindow* const Parent = NewParent == HWND_MESSAGE ? &MessageRoot() : NewParent ? WindowOf(NewParent) : &Desktop();
+    TWindow* const Parent = NewParent == HWND_MESSAGE ? &MessageRoot()
+                            : NewParent               ? WindowOf(NewParent)
+                                                      : &Desktop();
     if (!Window || !Parent || IsRoot(*Window))
         return nullptr;
     for (const TWindow* Above = Parent; Above; Above = Above->Parent)
@@ -138,11 +144,17 @@ HWND GetWindow(HWND Handle, UINT Relation)
     case GW_HWNDFIRST:
     case GW_HWNDLAST:
     case GW_HWNDNEXT:
-    case GW_HWNDPREV: return Neighbour(*Window, Relation);
-    case GW_OWNER: return HandleOf(Window->Owner);
-    case GW_CHILD: return Window->Children.empty() ? nullptr : Window->Children.front()->Handle;
-    case GW_ENABLEDPOPUP: return EnabledPopup(*Window);
-    default: SetLastError(ERROR_INVALID_PARAMETER); return nullptr;
+    case GW_HWNDPREV:
+        return Neighbour(*Window, Relation);
+    case GW_OWNER:
+        return HandleOf(Window->Owner);
+    case GW_CHILD:
+        return Window->Children.empty() ? nullptr : Window->Children.front()->Handle;
+    case GW_ENABLEDPOPUP:
+        return EnabledPopup(*Window);
+    default:
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return nullptr;
     }
 }
 
@@ -201,8 +213,9 @@ BOOL EnumThreadWindows(DWORD Thread, WNDENUMPROC Proc, LPARAM Param)
 
 HWND FindWindowExA(HWND ParentHandle, HWND After, LPCSTR ClassName, LPCSTR Text)
 {
-    const TWindow* const Parent =
-        ParentHandle == HWND_MESSAGE ? &MessageRoot() : ParentHandle ? WindowOf(ParentHandle) : &Desktop();
+    const TWindow* const Parent = ParentHandle == HWND_MESSAGE ? &MessageRoot()
+                                  : ParentHandle               ? WindowOf(ParentHandle)
+                                                               : &Desktop();
     if (!Parent)
         return nullptr;
     bool Passed = After == nullptr;

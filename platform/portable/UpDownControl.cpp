@@ -111,8 +111,8 @@ void TUpDown::Attach()
     MapWindowPoints(nullptr, GetParent(Window()), reinterpret_cast<POINT*>(&Buddy), 2);
     const int Width = GetSystemMetrics(SM_CXVSCROLL);
     const bool Right = (Style() & UDS_ALIGNRIGHT) != 0;
-    SetWindowPos(FBuddy, nullptr, Right ? Buddy.left : Buddy.left + Width, Buddy.top, Buddy.right - Buddy.left - Width,
-                 Buddy.bottom - Buddy.top, SWP_NOZORDER | SWP_NOACTIVATE);
+    SetWindowPos(FBuddy, nullptr, Right ? Buddy.left : Buddy.left + Width, Buddy.top,
+                 Buddy.right - Buddy.left - Width, Buddy.bottom - Buddy.top, SWP_NOZORDER | SWP_NOACTIVATE);
     SetWindowPos(Window(), nullptr, Right ? Buddy.right - Width : Buddy.left, Buddy.top, Width,
                  Buddy.bottom - Buddy.top, SWP_NOZORDER | SWP_NOACTIVATE);
 }
@@ -183,7 +183,7 @@ void TUpDown::Paint(HDC Dc)
     DrawFrameControl(Dc, &First, DFC_SCROLL, (Across ? DFCS_SCROLLLEFT : DFCS_SCROLLUP) | Dull);
     DrawFrameControl(Dc, &Second, DFC_SCROLL, (Across ? DFCS_SCROLLRIGHT : DFCS_SCROLLDOWN) | Dull);
 }
-}  // namespace
+} // namespace
 
 void RegisterUpDowns()
 {

@@ -81,7 +81,8 @@ BOOL RedrawWindow(HWND Handle, const RECT* Rect, HRGN Region, UINT Flags)
     RECT Box;
     if (Region && GetRgnBox(Region, &Box))
         Rect = &Box;
-    const bool Children = (Flags & RDW_ALLCHILDREN) || (!(Flags & RDW_NOCHILDREN) && !Window->Has(WS_CLIPCHILDREN));
+    const bool Children =
+        (Flags & RDW_ALLCHILDREN) || (!(Flags & RDW_NOCHILDREN) && !Window->Has(WS_CLIPCHILDREN));
     {
         TStateLock Lock;
         if ((Flags & RDW_INVALIDATE) && (!Window->Parent || IsWindowVisible(Handle)))

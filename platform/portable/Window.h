@@ -29,11 +29,11 @@ struct TWindowClass {
     HICON Icon = nullptr;
     HICON SmallIcon = nullptr;
     HCURSOR Cursor = nullptr;
-    HBRUSH Background = nullptr;  // a brush, or a COLOR_ number plus 1
+    HBRUSH Background = nullptr; // a brush, or a COLOR_ number plus 1
     std::string MenuName;
     std::vector<BYTE> Extra;
     bool BuiltIn = false;
-    int Windows = 0;  // how many exist
+    int Windows = 0; // how many exist
 };
 
 // A rectangle that waits for WM_PAINT, in client coordinates.
@@ -49,43 +49,43 @@ struct TScrollBar {
     int Position = 0;
     int TrackPosition = 0;
     UINT Page = 0;
-    UINT Arrows = 0;  // ESB_ flags of what is disabled
+    UINT Arrows = 0; // ESB_ flags of what is disabled
 };
 
 struct TWindow {
     HWND Handle = nullptr;
-    TWindow* Parent = nullptr;  // of a top-level window the desktop; null for the desktop
+    TWindow* Parent = nullptr; // of a top-level window the desktop; null for the desktop
     TWindow* Owner = nullptr;
-    std::vector<TWindow*> Children;  // topmost first
+    std::vector<TWindow*> Children; // topmost first
     std::shared_ptr<TWindowClass> Class;
     std::shared_ptr<TThread> Thread;
     DWORD Style = 0;
     DWORD ExStyle = 0;
-    LONG_PTR Id = 0;             // of a child
-    HMENU Menu = nullptr;        // of any other window
-    HMENU SystemMenu = nullptr;  // made when first asked for
+    LONG_PTR Id = 0;            // of a child
+    HMENU Menu = nullptr;       // of any other window
+    HMENU SystemMenu = nullptr; // made when first asked for
     HINSTANCE Instance = nullptr;
     std::string Text;
-    HFONT Font = nullptr;  // kept by the control classes that answer WM_GETFONT
-    RECT Rect{};           // both in the client area of the parent, or of the screen
+    HFONT Font = nullptr; // kept by the control classes that answer WM_GETFONT
+    RECT Rect{};          // both in the client area of the parent, or of the screen
     RECT Client{};
-    RECT Normal{};  // Rect while neither minimized nor maximized
+    RECT Normal{}; // Rect while neither minimized nor maximized
     WNDPROC Proc = nullptr;
     LONG_PTR UserData = 0;
-    std::vector<BYTE> Extra;  // cbWndExtra bytes
+    std::vector<BYTE> Extra; // cbWndExtra bytes
     std::map<std::string, HANDLE> Props;
     std::unique_ptr<TControlState> State;
-    std::array<TScrollBar, 2> Scroll;  // SB_HORZ, SB_VERT
+    std::array<TScrollBar, 2> Scroll; // SB_HORZ, SB_VERT
     TUpdate Update;
-    HWND LastActive = nullptr;  // last active popup
-    HWND SavedFocus = nullptr;  // of a dialog
+    HWND LastActive = nullptr; // last active popup
+    HWND SavedFocus = nullptr; // of a dialog
     HICON BigIcon = nullptr;
     HICON SmallIcon = nullptr;
     HRGN Region = nullptr;
-    UINT UiState = 0;  // UISF_ flags
+    UINT UiState = 0; // UISF_ flags
     bool Redraw = true;
-    bool NeedSize = false;  // an overlapped window gets WM_SIZE when first shown
-    bool RestoreToMaximized = false;  // when it is no longer minimized
+    bool NeedSize = false;           // an overlapped window gets WM_SIZE when first shown
+    bool RestoreToMaximized = false; // when it is no longer minimized
     bool IsDialog = false;
     bool IsMdiClient = false;
     bool Destroying = false;
@@ -129,7 +129,7 @@ void RegisterBuiltInClass(LPCSTR Name, UINT Style, WNDPROC Proc, int WindowExtra
 
 // The private state of a control's window, or null: before WM_NCCREATE has
 // made it, after WM_NCDESTROY, and when the window is none of that class.
-template <typename TState>
+template<typename TState>
 TState* StateOf(HWND Handle)
 {
     TWindow* const Window = WindowOf(Handle);

@@ -41,7 +41,7 @@ namespace {
 
 struct TSystemItem {
     UINT Id;
-    const char* Text;  // null: a separator
+    const char* Text; // null: a separator
     HBITMAP Bitmap;
 };
 
@@ -84,7 +84,8 @@ HMENU GetSystemMenu(HWND Handle, BOOL Revert)
         Window->SystemMenu = nullptr;
     }
     if (!IsMenu(Window->SystemMenu))
-        Window->SystemMenu = Window->Has(WS_SYSMENU) ? MakeSystemMenu((Window->ExStyle & WS_EX_MDICHILD) != 0) : nullptr;
+        Window->SystemMenu =
+            Window->Has(WS_SYSMENU) ? MakeSystemMenu((Window->ExStyle & WS_EX_MDICHILD) != 0) : nullptr;
     return Revert ? nullptr : Window->SystemMenu;
 }
 

@@ -1358,6 +1358,7 @@ struct NMLVKEYDOWN {
 using PFNLVCOMPARE = int(CALLBACK*)(LPARAM, LPARAM, LPARAM);
 
 // Tree view
+#define TV_FIRST 0x1100
 #define TVN_FIRST 0xFFFFFE70
 #define TVN_LAST 0xFFFFFE0D
 #define TVS_HASBUTTONS 1
@@ -1891,7 +1892,6 @@ struct TEXTRANGEA {
     LPSTR lpstrText;
 };
 using TEXTRANGE = TEXTRANGEA;
-
 
 struct CHARFORMATA {
     UINT cbSize;

@@ -353,7 +353,7 @@
 #define GetBValue(Color) (static_cast<BYTE>((Color) >> 16))
 
 struct LOGFONTA {
-    LONG lfHeight;  // negative: height of the characters; positive: of the line; 0: default
+    LONG lfHeight; // negative: height of the characters; positive: of the line; 0: default
     LONG lfWidth;
     LONG lfEscapement;
     LONG lfOrientation;
@@ -437,7 +437,7 @@ struct RGBQUAD {
 struct BITMAPINFOHEADER {
     DWORD biSize;
     LONG biWidth;
-    LONG biHeight;  // negative: the top row comes first
+    LONG biHeight; // negative: the top row comes first
     WORD biPlanes;
     WORD biBitCount;
     DWORD biCompression;
@@ -529,7 +529,9 @@ HBRUSH CreateBrushIndirect(const LOGBRUSH* Brush);
 HPEN CreatePen(int Style, int Width, COLORREF Color);
 HPEN CreatePenIndirect(const LOGPEN* Pen);
 
-// Text
+// Text. On Windows the byte functions take the code page of the font's character
+// set whatever the process code page is; texts that are more than ASCII go through
+// the W functions there. Here both take all of Unicode.
 COLORREF SetTextColor(HDC Dc, COLORREF Color);
 COLORREF GetTextColor(HDC Dc);
 COLORREF SetBkColor(HDC Dc, COLORREF Color);
@@ -543,6 +545,9 @@ COLORREF SetDCBrushColor(HDC Dc, COLORREF Color);
 COLORREF SetDCPenColor(HDC Dc, COLORREF Color);
 BOOL GetTextMetricsA(HDC Dc, TEXTMETRICA* Metrics);
 BOOL GetTextExtentPoint32A(HDC Dc, LPCSTR Text, int Count, SIZE* Size);
+BOOL GetTextExtentPoint32W(HDC Dc, LPCWSTR Text, int Count, SIZE* Size);
+BOOL TextOutW(HDC Dc, int X, int Y, LPCWSTR Text, int Count);
+int DrawTextW(HDC Dc, LPCWSTR Text, int Count, RECT* Rect, UINT Format);
 BOOL GetTextExtentPointA(HDC Dc, LPCSTR Text, int Count, SIZE* Size);
 // Fit receives how many bytes of Text fit into MaxExtent (whole characters);
 // Widths, one entry a byte, the width up to and including that byte's character.
@@ -550,7 +555,8 @@ BOOL GetTextExtentExPointA(HDC Dc, LPCSTR Text, int Count, int MaxExtent, int* F
 int GetTextFaceA(HDC Dc, int Count, LPSTR Name);
 int GetTextCharset(HDC Dc);
 BOOL TextOutA(HDC Dc, int X, int Y, LPCSTR Text, int Count);
-BOOL ExtTextOutA(HDC Dc, int X, int Y, UINT Options, const RECT* Rect, LPCSTR Text, UINT Count, const int* Widths);
+BOOL ExtTextOutA(HDC Dc, int X, int Y, UINT Options, const RECT* Rect, LPCSTR Text, UINT Count,
+                 const int* Widths);
 int DrawTextA(HDC Dc, LPCSTR Text, int Count, RECT* Rect, UINT Format);
 int DrawTextExA(HDC Dc, LPSTR Text, int Count, RECT* Rect, UINT Format, DRAWTEXTPARAMS* Params);
 LONG TabbedTextOutA(HDC Dc, int X, int Y, LPCSTR Text, int Count, int Tabs, const int* Positions, int Origin);
@@ -581,16 +587,19 @@ COLORREF GetPixel(HDC Dc, int X, int Y);
 // Bitmaps and icons
 HBITMAP CreateBitmap(int Width, int Height, UINT Planes, UINT BitCount, const void* Bits);
 HBITMAP CreateCompatibleBitmap(HDC Dc, int Width, int Height);
-HBITMAP CreateDIBSection(HDC Dc, const BITMAPINFO* Info, UINT Usage, void** Bits, HANDLE Section, DWORD Offset);
+HBITMAP CreateDIBSection(HDC Dc, const BITMAPINFO* Info, UINT Usage, void** Bits, HANDLE Section,
+                         DWORD Offset);
 HBITMAP CreateDIBitmap(HDC Dc, const BITMAPINFOHEADER* Header, DWORD Init, const void* Bits,
                        const BITMAPINFO* Info, UINT Usage);
 int GetDIBits(HDC Dc, HBITMAP Bitmap, UINT Start, UINT Lines, LPVOID Bits, BITMAPINFO* Info, UINT Usage);
-int SetDIBits(HDC Dc, HBITMAP Bitmap, UINT Start, UINT Lines, const void* Bits, const BITMAPINFO* Info, UINT Usage);
+int SetDIBits(HDC Dc, HBITMAP Bitmap, UINT Start, UINT Lines, const void* Bits, const BITMAPINFO* Info,
+              UINT Usage);
 int SetDIBitsToDevice(HDC Dc, int X, int Y, DWORD Width, DWORD Height, int SourceX, int SourceY, UINT Start,
                       UINT Lines, const void* Bits, const BITMAPINFO* Info, UINT Usage);
 int StretchDIBits(HDC Dc, int X, int Y, int Width, int Height, int SourceX, int SourceY, int SourceWidth,
                   int SourceHeight, const void* Bits, const BITMAPINFO* Info, UINT Usage, DWORD Operation);
-BOOL BitBlt(HDC Dc, int X, int Y, int Width, int Height, HDC Source, int SourceX, int SourceY, DWORD Operation);
+BOOL BitBlt(HDC Dc, int X, int Y, int Width, int Height, HDC Source, int SourceX, int SourceY,
+            DWORD Operation);
 BOOL StretchBlt(HDC Dc, int X, int Y, int Width, int Height, HDC Source, int SourceX, int SourceY,
                 int SourceWidth, int SourceHeight, DWORD Operation);
 int SetStretchBltMode(HDC Dc, int Mode);

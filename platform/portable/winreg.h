@@ -64,8 +64,8 @@ LSTATUS RegDeleteKeyA(HKEY Key, LPCSTR Path);
 LSTATUS RegDeleteTreeA(HKEY Key, LPCSTR Path);
 LSTATUS RegEnumKeyExA(HKEY Key, DWORD Index, LPSTR Name, LPDWORD Size, LPDWORD Reserved, LPSTR Class,
                       LPDWORD ClassSize, PFILETIME Written);
-LSTATUS RegEnumValueA(HKEY Key, DWORD Index, LPSTR Name, LPDWORD Size, LPDWORD Reserved, LPDWORD Kind, LPBYTE Data,
-                      LPDWORD DataSize);
+LSTATUS RegEnumValueA(HKEY Key, DWORD Index, LPSTR Name, LPDWORD Size, LPDWORD Reserved, LPDWORD Kind,
+                      LPBYTE Data, LPDWORD DataSize);
 LSTATUS RegQueryInfoKeyA(HKEY Key, LPSTR Class, LPDWORD ClassSize, LPDWORD Reserved, LPDWORD SubKeys,
                          LPDWORD LongestSubKey, LPDWORD LongestClass, LPDWORD Values, LPDWORD LongestName,
                          LPDWORD LongestData, LPDWORD Security, PFILETIME Written);

@@ -131,13 +131,12 @@ struct FILETIME {
 };
 using PFILETIME = FILETIME*;
 
-#define LOBYTE(Value) (static_cast<BYTE>((DWORD_PTR)(Value) & 0xff))
+#define LOBYTE(Value) (static_cast<BYTE>((DWORD_PTR)(Value)&0xff))
 #define HIBYTE(Value) (static_cast<BYTE>(((DWORD_PTR)(Value) >> 8) & 0xff))
-#define LOWORD(Value) (static_cast<WORD>((DWORD_PTR)(Value) & 0xffff))
+#define LOWORD(Value) (static_cast<WORD>((DWORD_PTR)(Value)&0xffff))
 #define HIWORD(Value) (static_cast<WORD>(((DWORD_PTR)(Value) >> 16) & 0xffff))
-#define MAKEWORD(Low, High) (static_cast<WORD>(((Low) & 0xff) | (((High) & 0xff) << 8)))
-#define MAKELONG(Low, High)                                                                                  \
-    (static_cast<LONG>(((DWORD)(Low) & 0xffff) | (((DWORD)(High) & 0xffff) << 16)))
+#define MAKEWORD(Low, High) (static_cast<WORD>(((Low)&0xff) | (((High)&0xff) << 8)))
+#define MAKELONG(Low, High) (static_cast<LONG>(((DWORD)(Low)&0xffff) | (((DWORD)(High)&0xffff) << 16)))
 #define MAKEWPARAM(Low, High) (static_cast<WPARAM>(static_cast<DWORD>(MAKELONG(Low, High))))
 #define MAKELPARAM(Low, High) (static_cast<LPARAM>(static_cast<DWORD>(MAKELONG(Low, High))))
 #define MAKELRESULT(Low, High) (static_cast<LRESULT>(static_cast<DWORD>(MAKELONG(Low, High))))

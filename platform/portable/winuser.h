@@ -284,7 +284,7 @@ struct DLGTEMPLATE {
     DWORD style;
     DWORD dwExtendedStyle;
     WORD cdit;
-    short x, y, cx, cy;  // dialog units
+    short x, y, cx, cy; // dialog units
 };
 struct DLGITEMTEMPLATE {
     DWORD style;
@@ -406,8 +406,8 @@ BOOL GetScrollRange(HWND Window, int Bar, LPINT Minimum, LPINT Maximum);
 BOOL ShowScrollBar(HWND Window, int Bar, BOOL Show);
 BOOL EnableScrollBar(HWND Window, UINT Bar, UINT Arrows);
 BOOL ScrollWindow(HWND Window, int X, int Y, const RECT* Rect, const RECT* Clip);
-int ScrollWindowEx(HWND Window, int X, int Y, const RECT* Rect, const RECT* Clip, HRGN Update, LPRECT UpdateRect,
-                   UINT Flags);
+int ScrollWindowEx(HWND Window, int X, int Y, const RECT* Rect, const RECT* Clip, HRGN Update,
+                   LPRECT UpdateRect, UINT Flags);
 
 // Activation, focus, mouse and keys
 HWND SetActiveWindow(HWND Window);
@@ -524,8 +524,8 @@ int TranslateAcceleratorA(HWND Window, HACCEL Table, LPMSG Message);
 LRESULT DefFrameProcA(HWND Frame, HWND Client, UINT Message, WPARAM WParam, LPARAM LParam);
 LRESULT DefMDIChildProcA(HWND Window, UINT Message, WPARAM WParam, LPARAM LParam);
 BOOL TranslateMDISysAccel(HWND Client, LPMSG Message);
-HWND CreateMDIWindowA(LPCSTR ClassName, LPCSTR Text, DWORD Style, int X, int Y, int Width, int Height, HWND Client,
-                      HINSTANCE Instance, LPARAM LParam);
+HWND CreateMDIWindowA(LPCSTR ClassName, LPCSTR Text, DWORD Style, int X, int Y, int Width, int Height,
+                      HWND Client, HINSTANCE Instance, LPARAM LParam);
 
 // Dialogs
 HWND CreateDialogIndirectParamA(HINSTANCE Instance, LPCDLGTEMPLATEA Template, HWND Owner, DLGPROC Proc,

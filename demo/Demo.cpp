@@ -1,0 +1,68 @@
+// The demo: a ferry company's booking desk in five languages.
+//   demo                     the booking desk
+//   demo --planning          the harbour's planning
+//   demo --tour [--out DIR]  all forms in all languages as pictures (Tour.h)
+#include <exception>
+#include <iostream>
+#include <string>
+
+#include "demo/Programs.h"
+#include "demo/Tour.h"
+#include "framework/forms/Forms.h"
+
+namespace {
+
+struct TOptions
+{
+    bool Tour = !HAS_DISPLAY;
+    bool Planning = false;
+    std::string Folder = "out";
+};
+
+// False when an argument is unknown.
+bool ReadOptions(int Count, char** Arguments, TOptions& Options)
+{
+    for (int I = 1; I < Count; ++I) {
+        const std::string Argument = Arguments[I];
+        if (Argument == "--tour")
+            Options.Tour = true;
+        else if (Argument == "--planning")
+            Options.Planning = true;
+        else if (Argument == "--out" && I + 1 < Count)
+            Options.Folder = Arguments[++I];
+        else
+            return false;
+    }
+    return true;
+}
+
+void RunProgram(bool Planning)
+{
+    TApplicationScope Scope;
+    RegisterDemoForms();
+    if (Planning)
+        CreatePlanning();
+    else
+        CreateBookingDesk();
+    Application->Run();
+}
+
+}  // namespace
+
+int main(int Count, char** Arguments)
+{
+    TOptions Options;
+    if (!ReadOptions(Count, Arguments, Options)) {
+        std::cerr << "usage: demo [--planning | --tour [--out DIR]]\n";
+        return 2;
+    }
+    try {
+        if (Options.Tour)
+            return RunTour(Options.Folder);
+        RunProgram(Options.Planning);
+        return 0;
+    } catch (const std::exception& Error) {
+        std::cerr << "demo: " << Error.what() << "\n";
+        return 1;
+    }
+}

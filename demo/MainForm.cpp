@@ -1,0 +1,275 @@
+#include "demo/MainForm.h"
+
+#include <algorithm>
+#include <cstdio>
+
+#include "demo/AboutForm.h"
+#include "demo/BookingForm.h"
+#include "demo/FormParts.h"
+#include "demo/Language.h"
+#include "demo/OptionsForm.h"
+#include "framework/forms/ComboBoxes.h"
+#include "framework/forms/Edits.h"
+#include "framework/forms/Labels.h"
+#include "framework/forms/ListBoxes.h"
+#include "framework/forms/ListViews.h"
+#include "framework/forms/Menus.h"
+#include "framework/forms/PushButtons.h"
+#include "framework/forms/StatusBars.h"
+#include "framework/forms/ToolBars.h"
+
+namespace {
+
+std::string FareText(double Fare)
+{
+    char Text[32];
+    std::snprintf(Text, sizeof Text, "%.2f", Fare);
+    return Text;
+}
+
+}  // namespace
+
+const TMetaClass& TMainForm::MetaClass()
+{
+    static const TMetaClass Class(
+        "TMainForm", &TForm::MetaClass(), CreateComponent<TMainForm>, {},
+        {Published<&TMainForm::FormCreate>("FormCreate"),
+         Published<&TMainForm::LbxRoutesClick>("LbxRoutesClick"),
+         Published<&TMainForm::LvwSailingsClick>("LvwSailingsClick"),
+         Published<&TMainForm::ActNewExecute>("ActNewExecute"),
+         Published<&TMainForm::ActEditExecute>("ActEditExecute"),
+         Published<&TMainForm::ActCancelExecute>("ActCancelExecute"),
+         Published<&TMainForm::ActOptionsExecute>("ActOptionsExecute"),
+         Published<&TMainForm::ItemExitClick>("ItemExitClick"),
+         Published<&TMainForm::ItemCutClick>("ItemCutClick"),
+         Published<&TMainForm::ItemCopyClick>("ItemCopyClick"),
+         Published<&TMainForm::ItemPasteClick>("ItemPasteClick"),
+         Published<&TMainForm::ItemSelectAllClick>("ItemSelectAllClick"),
+         Published<&TMainForm::ItemToolBarClick>("ItemToolBarClick"),
+         Published<&TMainForm::ItemStatusBarClick>("ItemStatusBarClick"),
+         Published<&TMainForm::ItemByDepartureClick>("ItemByDepartureClick"),
+         Published<&TMainForm::ItemByVesselClick>("ItemByVesselClick"),
+         Published<&TMainForm::ItemLanguageClick>("ItemLanguageClick"),
+         Published<&TMainForm::ItemRulesClick>("ItemRulesClick"),
+         Published<&TMainForm::ItemAboutClick>("ItemAboutClick")});
+    return Class;
+}
+
+void TMainForm::Loaded()
+{
+    inherited::Loaded();
+    FindPart(*this, "MnuLanguage", MnuLanguage);
+    FindPart(*this, "ItemToolBar", ItemToolBar);
+    FindPart(*this, "ItemStatusBar", ItemStatusBar);
+    FindPart(*this, "ItemByDeparture", ItemByDeparture);
+    FindPart(*this, "ItemByVessel", ItemByVessel);
+    FindPart(*this, "ToolBar1", ToolBar1);
+    FindPart(*this, "StatusBar1", StatusBar1);
+    FindPart(*this, "LbxRoutes", LbxRoutes);
+    FindPart(*this, "CbxTraffic", CbxTraffic);
+    FindPart(*this, "LvwSailings", LvwSailings);
+    FindPart(*this, "MemRules", MemRules);
+    FindPart(*this, "LblVesselValue", LblVesselValue);
+    FindPart(*this, "LblGateValue", LblGateValue);
+    FindPart(*this, "LblCheckInValue", LblCheckInValue);
+    FindPart(*this, "LblLaneValue", LblLaneValue);
+}
+
+void TMainForm::FormCreate(TObject*)
+{
+    LbxRoutes->SetItemIndex(0);
+    CbxTraffic->SetItemIndex(0);
+    MarkLanguage(*MnuLanguage);
+    ListSailings();
+}
+
+void TMainForm::ListSailings()
+{
+    const std::vector<TSailing>& Sailings = FDesk.Sailings();
+    const int Route = LbxRoutes->ItemIndex() - 1;  // the first item stands for all
+    FRows.clear();
+    for (int I = 0; I < static_cast<int>(Sailings.size()); ++I)
+        if (Route < 0 || static_cast<int>(Sailings[static_cast<size_t>(I)].Route) == Route)
+            FRows.push_back(I);
+    if (FByVessel)
+        std::stable_sort(FRows.begin(), FRows.end(), [&](int One, int Other) {
+            return Sailings[static_cast<size_t>(One)].Vessel < Sailings[static_cast<size_t>(Other)].Vessel;
+        });
+    LvwSailings->Items()->BeginUpdate();
+    LvwSailings->Items()->Clear();
+    for (const int Row : FRows) {
+        const TSailing& Sailing = Sailings[static_cast<size_t>(Row)];
+        TListItem* const Item = LvwSailings->Items()->Add();
+        Item->SetCaption(Sailing.Departure);
+        for (const std::string& Text :
+             {Sailing.From, Sailing.To, Sailing.Vessel, std::to_string(Sailing.FreePlaces), FareText(Sailing.Fare)})
+            Item->SubItems()->Add(Text);
+    }
+    LvwSailings->Items()->EndUpdate();
+    SelectRow(0);
+}
+
+void TMainForm::SelectRow(int Row)
+{
+    if (Row < LvwSailings->Items()->Count())
+        LvwSailings->SetSelected(LvwSailings->Items()->Item(Row));
+    ShowSelected();
+}
+
+int TMainForm::SelectedSailing() const
+{
+    const TListItem* const Item = LvwSailings->Selected();
+    return Item ? FRows[static_cast<size_t>(Item->Index())] : -1;
+}
+
+void TMainForm::ShowSelected()
+{
+    const int Selected = SelectedSailing();
+    const TSailing Sailing = Selected < 0 ? TSailing{} : FDesk.Sailings()[static_cast<size_t>(Selected)];
+    LblVesselValue->SetCaption(Sailing.Vessel);
+    LblGateValue->SetCaption(Sailing.Gate);
+    LblCheckInValue->SetCaption(Sailing.CheckIn);
+    LblLaneValue->SetCaption(Sailing.Lane);
+}
+
+void TMainForm::LbxRoutesClick(TObject*)
+{
+    ListSailings();
+}
+
+void TMainForm::LvwSailingsClick(TObject*)
+{
+    ShowSelected();
+}
+
+void TMainForm::Book(int Sailing, const TBooking& Booking)
+{
+    TBooking Answer = Booking;
+    if (!BookingForm->Edit(FDesk.Sailings()[static_cast<size_t>(Sailing)].Title(), Answer))
+        return;
+    if (!FDesk.Book(Sailing, Answer))
+        ::MessageBeep(MB_ICONEXCLAMATION);
+    const TListItem* const Item = LvwSailings->Selected();
+    const int Row = Item ? Item->Index() : 0;
+    ListSailings();
+    SelectRow(Row);
+}
+
+void TMainForm::ActNewExecute(TObject*)
+{
+    if (const int Sailing = SelectedSailing(); Sailing >= 0) {
+        TBooking Booking;
+        Booking.HasVehicle = CbxTraffic->ItemIndex() > 1;
+        Book(Sailing, Booking);
+    }
+}
+
+void TMainForm::ActEditExecute(TObject* Sender)
+{
+    const int Sailing = SelectedSailing();
+    const TBooking* const Booking = Sailing < 0 ? nullptr : FDesk.FindBooking(Sailing);
+    if (Booking)
+        Book(Sailing, *Booking);
+    else
+        ActNewExecute(Sender);
+}
+
+void TMainForm::ActCancelExecute(TObject*)
+{
+    if (const int Sailing = SelectedSailing(); Sailing >= 0) {
+        FDesk.Cancel(Sailing);
+        const int Row = LvwSailings->Selected()->Index();
+        ListSailings();
+        SelectRow(Row);
+    }
+}
+
+void TMainForm::ActOptionsExecute(TObject*)
+{
+    OptionsForm->CkxToolBar->SetChecked(ToolBar1->Visible());
+    OptionsForm->CkxStatusBar->SetChecked(StatusBar1->Visible());
+    OptionsForm->CkxHints->SetChecked(Application->ShowHint());
+    if (OptionsForm->ShowModal() != mrOk)
+        return;
+    ShowToolBar(OptionsForm->CkxToolBar->Checked());
+    ShowStatusBar(OptionsForm->CkxStatusBar->Checked());
+    Application->SetShowHint(OptionsForm->CkxHints->Checked());
+}
+
+void TMainForm::ItemExitClick(TObject*)
+{
+    Close();
+}
+
+void TMainForm::ItemCutClick(TObject*)
+{
+    MemRules->CutToClipboard();
+}
+
+void TMainForm::ItemCopyClick(TObject*)
+{
+    MemRules->CopyToClipboard();
+}
+
+void TMainForm::ItemPasteClick(TObject*)
+{
+    MemRules->PasteFromClipboard();
+}
+
+void TMainForm::ItemSelectAllClick(TObject*)
+{
+    MemRules->SetFocus();
+    MemRules->SelectAll();
+}
+
+void TMainForm::ShowToolBar(bool Value)
+{
+    ToolBar1->SetVisible(Value);
+    ItemToolBar->SetChecked(Value);
+}
+
+void TMainForm::ShowStatusBar(bool Value)
+{
+    StatusBar1->SetVisible(Value);
+    ItemStatusBar->SetChecked(Value);
+}
+
+void TMainForm::ItemToolBarClick(TObject*)
+{
+    ShowToolBar(!ToolBar1->Visible());
+}
+
+void TMainForm::ItemStatusBarClick(TObject*)
+{
+    ShowStatusBar(!StatusBar1->Visible());
+}
+
+void TMainForm::ItemByDepartureClick(TObject*)
+{
+    FByVessel = false;
+    ItemByDeparture->SetChecked(true);
+    ListSailings();
+}
+
+void TMainForm::ItemByVesselClick(TObject*)
+{
+    FByVessel = true;
+    ItemByVessel->SetChecked(true);
+    ListSailings();
+}
+
+void TMainForm::ItemLanguageClick(TObject* Sender)
+{
+    SwitchLanguage(static_cast<TMenuItem*>(Sender)->Tag());
+    MarkLanguage(*MnuLanguage);
+}
+
+void TMainForm::ItemRulesClick(TObject*)
+{
+    MemRules->SetFocus();
+}
+
+void TMainForm::ItemAboutClick(TObject*)
+{
+    AboutForm->ShowModal();
+}

@@ -1,0 +1,68 @@
+#include "demo/PlanningForm.h"
+
+#include "demo/BerthsForm.h"
+#include "demo/CrewForm.h"
+#include "demo/FormParts.h"
+#include "demo/Language.h"
+#include "framework/forms/Menus.h"
+
+const TMetaClass& TPlanningForm::MetaClass()
+{
+    static const TMetaClass Class("TPlanningForm", &TForm::MetaClass(), CreateComponent<TPlanningForm>, {},
+                                  {Published<&TPlanningForm::FormCreate>("FormCreate"),
+                                   Published<&TPlanningForm::ItemBerthsClick>("ItemBerthsClick"),
+                                   Published<&TPlanningForm::ItemCrewClick>("ItemCrewClick"),
+                                   Published<&TPlanningForm::ItemExitClick>("ItemExitClick"),
+                                   Published<&TPlanningForm::ItemLanguageClick>("ItemLanguageClick"),
+                                   Published<&TPlanningForm::ItemCascadeClick>("ItemCascadeClick"),
+                                   Published<&TPlanningForm::ItemTileClick>("ItemTileClick"),
+                                   Published<&TPlanningForm::ItemArrangeClick>("ItemArrangeClick")});
+    return Class;
+}
+
+void TPlanningForm::Loaded()
+{
+    inherited::Loaded();
+    FindPart(*this, "MnuLanguage", MnuLanguage);
+}
+
+void TPlanningForm::FormCreate(TObject*)
+{
+    MarkLanguage(*MnuLanguage);
+}
+
+void TPlanningForm::ItemBerthsClick(TObject*)
+{
+    BerthsForm->Show();
+}
+
+void TPlanningForm::ItemCrewClick(TObject*)
+{
+    CrewForm->Show();
+}
+
+void TPlanningForm::ItemExitClick(TObject*)
+{
+    Close();
+}
+
+void TPlanningForm::ItemLanguageClick(TObject* Sender)
+{
+    SwitchLanguage(static_cast<TMenuItem*>(Sender)->Tag());
+    MarkLanguage(*MnuLanguage);
+}
+
+void TPlanningForm::ItemCascadeClick(TObject*)
+{
+    Cascade();
+}
+
+void TPlanningForm::ItemTileClick(TObject*)
+{
+    Tile();
+}
+
+void TPlanningForm::ItemArrangeClick(TObject*)
+{
+    ArrangeIcons();
+}

@@ -1,0 +1,57 @@
+#include "demo/Programs.h"
+
+#include "Qft/Qft.h"
+#include "demo/AboutForm.h"
+#include "demo/BerthsForm.h"
+#include "demo/BookingForm.h"
+#include "demo/CrewForm.h"
+#include "demo/Language.h"
+#include "demo/MainForm.h"
+#include "demo/OptionsForm.h"
+#include "demo/PlanningForm.h"
+#include "framework/forms/Actions.h"
+#include "framework/forms/ExtCtrls.h"
+#include "framework/forms/ListViews.h"
+#include "framework/forms/Menus.h"
+#include "framework/forms/PageControls.h"
+#include "framework/forms/StatusBars.h"
+#include "framework/forms/StdCtrls.h"
+#include "framework/forms/ToolBars.h"
+#include "orbilex_demo_forms.h"
+
+void RegisterDemoForms()
+{
+    RegisterStdCtrls();
+    RegisterExtCtrls();
+    RegisterListViews();
+    RegisterPageControls();
+    RegisterStatusBars();
+    RegisterToolBars();
+    RegisterMenus();
+    RegisterActions();
+    RegisterClass(TFormTranslator::MetaClass());
+    RegisterOrbilexDemoForms();
+}
+
+std::vector<TForm*> CreateBookingDesk()
+{
+    SwitchLanguage(0);
+    Application->SetTitle("Booking Desk");
+    TMainForm* MainForm = nullptr;
+    Application->CreateForm(MainForm);
+    Application->CreateForm(BookingForm);
+    Application->CreateForm(OptionsForm);
+    Application->CreateForm(AboutForm);
+    return {MainForm, BookingForm, OptionsForm, AboutForm};
+}
+
+std::vector<TForm*> CreatePlanning()
+{
+    SwitchLanguage(0);
+    Application->SetTitle("Harbour Planning");
+    TPlanningForm* Frame = nullptr;
+    Application->CreateForm(Frame);
+    Application->CreateForm(BerthsForm);
+    Application->CreateForm(CrewForm);
+    return {Frame, BerthsForm, CrewForm};
+}

@@ -1,0 +1,13 @@
+// The two programs: the booking desk, and the harbour's planning.
+#pragma once
+
+#include <vector>
+
+class TForm;
+
+// Registers the form files and classes. After StartApplication.
+void RegisterDemoForms();
+
+// Make the forms; Application owns them, and the first one is the main form.
+std::vector<TForm*> CreateBookingDesk();
+std::vector<TForm*> CreatePlanning();

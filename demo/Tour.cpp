@@ -1,0 +1,189 @@
+#include "demo/Tour.h"
+
+#include <cctype>
+#include <filesystem>
+#include <functional>
+#include <iostream>
+#include <vector>
+
+#include "demo/BookingForm.h"
+#include "demo/FormTexts.h"
+#include "demo/Language.h"
+#include "demo/OptionsForm.h"
+#include "demo/Programs.h"
+#include "framework/forms/PageControls.h"
+#include "framework/rtl/Files.h"
+#include "platform/Picture.h"
+
+namespace {
+
+constexpr size_t ShownChanges = 3;  // a form and language
+
+struct TFormState
+{
+    TForm* Form;
+    std::vector<TFormLine> Lines;
+    std::string File;
+};
+
+class TTour
+{
+public:
+    explicit TTour(std::string Folder) : FFolder(std::move(Folder)) {}
+
+    // Takes the forms that Create makes through all languages.
+    void Visit(const std::function<std::vector<TForm*>()>& Create);
+    int Pictures() const { return FPictures; }
+    bool Failed() const { return FFailed; }
+
+private:
+    void ShowLanguage(const TLanguage& Language);
+    void PrintChanges(const TFormState& State) const;
+    void TakePictures(TForm& Form, const TLanguage& Language);
+    void TakePicture(TForm& Form, const std::string& Name);
+    void CheckRestored(const std::string& Translations);
+    void Fail(const std::string& Text);
+
+    std::string FFolder;
+    std::vector<TFormState> FStates;
+    int FPictures = 0;
+    bool FFailed = false;
+};
+
+std::string TranslationsFile()
+{
+    return (std::filesystem::path(Application->ExeName()).parent_path() / "demo.lng").string();
+}
+
+// TMainForm -> main, TOptionsForm -> options
+std::string PictureName(const TForm& Form)
+{
+    std::string Result = Form.ClassName().substr(1, Form.ClassName().size() - 5);
+    for (char& Letter : Result)
+        Letter = static_cast<char>(std::tolower(static_cast<unsigned char>(Letter)));
+    return Result;
+}
+
+void FillSample()
+{
+    TBooking Booking;
+    Booking.Name = "Åsa Lindqvist";
+    Booking.Phone = "+46 8 555 01 23";
+    Booking.Mail = "asa@example.se";
+    Booking.Places = 2;
+    Booking.HasVehicle = true;
+    BookingForm->Fill("09:15  Nyholm - Stora Rev", Booking);
+}
+
+void TTour::Visit(const std::function<std::vector<TForm*>()>& Create)
+{
+    TApplicationScope Scope;
+    RegisterDemoForms();
+    FStates.clear();
+    // Windows come first: what only a window can tell belongs to the state that
+    // is to be restored.
+    for (TForm* const Form : Create()) {
+        Form->Show();
+        FStates.push_back({Form, {}, ""});
+    }
+    Application->ProcessMessages();
+    const std::string Translations = ReadWholeFile(TranslationsFile());
+    for (TFormState& State : FStates) {
+        State.Lines = ReadFormLines(*State.Form);
+        State.File = FormAsText(*State.Form);
+    }
+    for (const TLanguage& Language : Languages())
+        ShowLanguage(Language);
+    SwitchLanguage(0);
+    Application->ProcessMessages();
+    CheckRestored(Translations);
+}
+
+void TTour::ShowLanguage(const TLanguage& Language)
+{
+    SwitchLanguage(Language.Locale);
+    Application->ProcessMessages();
+    std::cout << Language.Name << "\n";
+    for (const TFormState& State : FStates)
+        PrintChanges(State);
+    for (const TFormState& State : FStates)
+        TakePictures(*State.Form, Language);
+}
+
+void TTour::PrintChanges(const TFormState& State) const
+{
+    const std::vector<TFormChange> Changes = ChangesBetween(State.Lines, ReadFormLines(*State.Form));
+    std::cout << "  " << State.Form->Name() << ": " << Changes.size() << " of " << State.Lines.size()
+              << " properties differ from the form file\n";
+    for (size_t I = 0; I < Changes.size() && I < ShownChanges; ++I)
+        std::cout << "    " << Changes[I].Key << ": " << Changes[I].Before << " -> " << Changes[I].After << "\n";
+}
+
+void TTour::TakePictures(TForm& Form, const TLanguage& Language)
+{
+    const std::string Name = PictureName(Form);
+    const auto* const Options = dynamic_cast<const TOptionsForm*>(&Form);
+    if (!Options) {
+        TakePicture(Form, Name + "-" + Language.Code);
+        return;
+    }
+    TPageControl& Pages = *Options->PageControl1;
+    for (int I = 0; I < Pages.PageCount(); ++I) {
+        Pages.SetActivePage(Pages.Pages(I));
+        TakePicture(Form, Name + std::to_string(I + 1) + "-" + Language.Code);
+    }
+    Pages.SetActivePage(Pages.Pages(0));
+}
+
+void TTour::TakePicture(TForm& Form, const std::string& Name)
+{
+    Form.BringToFront();
+    Application->ProcessMessages();
+    const std::string File = FFolder + "/" + Name + ".png";
+    if (SaveWindowPicture(Form.Handle(), File))
+        ++FPictures;
+    else
+        Fail("cannot write " + File);
+}
+
+void TTour::CheckRestored(const std::string& Translations)
+{
+    for (const TFormState& State : FStates) {
+        const std::string& Name = State.Form->Name();
+        const std::vector<TFormLine> Lines = ReadFormLines(*State.Form);
+        const std::vector<TFormChange> Changes = ChangesBetween(State.Lines, Lines);
+        for (const TFormChange& Change : Changes)
+            Fail(Name + "." + Change.Key + " was " + Change.Before + " and is " + Change.After);
+        if (Changes.empty() && Lines != State.Lines)
+            Fail(Name + " lost properties");
+        if (FormAsText(*State.Form) != State.File)
+            Fail(Name + " is written differently");
+        std::cout << "  " << Name << ": all " << Lines.size() << " properties compared, form file of "
+                  << State.File.size() << " bytes compared\n";
+    }
+    if (ReadWholeFile(TranslationsFile()) != Translations)
+        Fail("writing the forms changed the translations file");
+}
+
+void TTour::Fail(const std::string& Text)
+{
+    std::cout << "FAILED: " << Text << "\n";
+    FFailed = true;
+}
+
+}  // namespace
+
+int RunTour(const std::string& Folder)
+{
+    std::filesystem::create_directories(Folder);
+    TTour Tour(Folder);
+    Tour.Visit([] {
+        std::vector<TForm*> Forms = CreateBookingDesk();
+        FillSample();
+        return Forms;
+    });
+    Tour.Visit(CreatePlanning);
+    std::cout << (Tour.Failed() ? "Restoring FAILED" : "Restored exactly") << "; " << Tour.Pictures()
+              << " pictures in " << Folder << "\n";
+    return Tour.Failed() ? 1 : 0;
+}

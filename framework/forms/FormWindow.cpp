@@ -1,0 +1,308 @@
+// The windows of forms: style, place, showing and hiding.
+#include <algorithm>
+
+#include "framework/forms/Application.h"
+#include "framework/forms/Menus.h"
+#include "framework/rtl/SysUtils.h"
+
+namespace {
+
+constexpr int ShowCommands[] = {SW_SHOWNORMAL, SW_SHOWMINNOACTIVE, SW_SHOWMAXIMIZED};
+
+// The window that becomes active when Hidden goes: the next visible, enabled one
+// of the program.
+HWND NextTopWindow(HWND Hidden)
+{
+    for (int Index = 0; Index < Screen->CustomFormCount(); ++Index) {
+        const HWND Window = Screen->CustomForms(Index)->WindowHandle();
+        if (Window && Window != Hidden && IsWindowVisible(Window) && IsWindowEnabled(Window) &&
+            !(GetWindowLongPtrA(Window, GWL_STYLE) & WS_CHILD))
+            return Window;
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+void TCustomForm::WindowStyle(TCreateParams& Params) const
+{
+    struct TBorder
+    {
+        DWORD Style;
+        DWORD ExStyle;
+    };
+    static constexpr TBorder Borders[] = {
+        {WS_POPUP, 0},
+        {WS_CAPTION | WS_BORDER, 0},
+        {WS_CAPTION | WS_THICKFRAME, 0},
+        {WS_POPUP | WS_CAPTION, WS_EX_DLGMODALFRAME | WS_EX_WINDOWEDGE},
+        {WS_CAPTION | WS_BORDER, WS_EX_TOOLWINDOW},
+        {WS_CAPTION | WS_THICKFRAME, WS_EX_TOOLWINDOW},
+    };
+    const TFormBorderStyle Border =
+        FFormStyle == fsMDIChild && (FBorderStyle == bsNone || FBorderStyle == bsDialog) ? bsSizeable : FBorderStyle;
+    Params.Style |= Borders[Border].Style;
+    Params.ExStyle |= Borders[Border].ExStyle;
+    if (Border == bsNone)
+        return;
+    TBorderIcons Icons = FBorderIcons;
+    if (Border == bsDialog || Border == bsToolWindow || Border == bsSizeToolWin) {
+        Icons.Exclude(biMinimize);
+        Icons.Exclude(biMaximize);
+    }
+    if (Icons.Contains(biSystemMenu))
+        Params.Style |= WS_SYSMENU;
+    if (Icons.Contains(biMinimize))
+        Params.Style |= WS_MINIMIZEBOX;
+    if (Icons.Contains(biMaximize))
+        Params.Style |= WS_MAXIMIZEBOX;
+    if (Icons.Contains(biHelp))
+        Params.ExStyle |= WS_EX_CONTEXTHELP;
+}
+
+void TCustomForm::MDIStyle(TCreateParams& Params) const
+{
+    Params.WindowClass.lpfnWndProc = DefMDIChildProcA;
+    Params.Style |= WS_CHILD;
+    Params.WndParent = Application && Application->MainForm() ? Application->MainForm()->ClientHandle() : nullptr;
+}
+
+void TCustomForm::CreateParams(TCreateParams& Params)
+{
+    inherited::CreateParams(Params);
+    if (IsEmbedded())
+        return;
+    Params.Style &= ~static_cast<DWORD>(WS_CHILD | WS_GROUP | WS_TABSTOP);
+    Params.ExStyle |= WS_EX_CONTROLPARENT;
+    Params.WindowClass.style = CS_DBLCLKS;
+    Params.WndParent = Application ? Application->Handle() : nullptr;
+    WindowStyle(Params);
+    if (FFormStyle == fsMDIChild)
+        MDIStyle(Params);
+    if (FFormStyle == fsStayOnTop)
+        Params.ExStyle |= WS_EX_TOPMOST;
+    if (FPosition == poDefault || FPosition == poDefaultPosOnly)
+        Params.X = Params.Y = CW_USEDEFAULT;
+    if (FPosition == poDefault || FPosition == poDefaultSizeOnly)
+        Params.Width = Params.Height = CW_USEDEFAULT;
+}
+
+TSize TCustomForm::FrameSize() const
+{
+    TCreateParams Params;
+    const_cast<TCustomForm*>(this)->CreateParams(Params);
+    TRect Frame{};
+    const bool HasMenu = FMenu && FFormStyle != fsMDIChild && !IsEmbedded();
+    AdjustWindowRectEx(&Frame, Params.Style, HasMenu, Params.ExStyle);
+    return {RectWidth(Frame) + 2 * BorderWidth(), RectHeight(Frame) + 2 * BorderWidth()};
+}
+
+void TCustomForm::CreateWindowHandle(const TCreateParams& Params)
+{
+    if (FFormStyle == fsMDIChild && !IsEmbedded()) {
+        CreateMDIChild(Params);
+    } else {
+        inherited::CreateWindowHandle(Params);
+        if (FFormStyle == fsMDIForm)
+            CreateMDIClient();
+    }
+}
+
+void TCustomForm::CreateWnd()
+{
+    // A form made for another resolution grows before anybody sees it.
+    if (Scaled() && FPixelsPerInchRead && FPixelsPerInch > 0 && FPixelsPerInch != ScreenPixelsPerInch() &&
+        !HasState(csDesigning)) {
+        const int From = FPixelsPerInch;
+        FPixelsPerInch = ScreenPixelsPerInch();
+        ScaleForm(FPixelsPerInch, From);
+    }
+    const int WantedWidth = ClientWidth();
+    const int WantedHeight = ClientHeight();
+    inherited::CreateWnd();
+    if (FSizeKind == SizeOfClient && FPosition != poDefault && FPosition != poDefaultSizeOnly) {
+        TControl::SetClientWidth(WantedWidth);
+        TControl::SetClientHeight(WantedHeight);
+    }
+    if (IsEmbedded())
+        return;
+    if (FIcon->Handle())
+        SendMessageA(WindowHandle(), WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(FIcon->Handle()));
+    // The system menu of a form that cannot be minimized offers only what works.
+    if (FBorderStyle == bsDialog) {
+        const HMENU Menu = GetSystemMenu(WindowHandle(), FALSE);
+        for (const UINT Command : {SC_TASKLIST, SC_RESTORE, SC_SIZE, SC_MINIMIZE, SC_MAXIMIZE})
+            DeleteMenu(Menu, Command, MF_BYCOMMAND);
+    }
+    RefreshMenu();
+}
+
+void TCustomForm::DestroyHandle()
+{
+    if (FMenu)
+        FMenu->SetWindowHandle(nullptr);
+    inherited::DestroyHandle();
+}
+
+void TCustomForm::DestroyWindowHandle()
+{
+    if (HandleAllocated() && GetMenu(WindowHandle()))
+        ::SetMenu(WindowHandle(), nullptr);  // the menu belongs to the component
+    if (FFormState.Contains(fsCreatedMDIChild)) {
+        FControlState.Include(csDestroyingHandle);
+        SendMessageA(::GetParent(WindowHandle()), WM_MDIDESTROY, reinterpret_cast<WPARAM>(WindowHandle()), 0);
+        FFormState.Exclude(fsCreatedMDIChild);
+        FControlState.Exclude(csDestroyingHandle);
+    }
+    inherited::DestroyWindowHandle();
+    FClientHandle = nullptr;
+}
+
+void TCustomForm::RefreshMenu()
+{
+    if (HasState(csLoading) || !HandleAllocated() || FFormStyle == fsMDIChild || IsEmbedded() ||
+        HasState(csDestroying))
+        return;
+    const HMENU Bar = FMenu && FMenu->Items()->Count() > 0 && !HasState(csDesigning) ? FMenu->Handle() : nullptr;
+    if (FClientHandle) {
+        const HMENU Window = FWindowMenu ? FWindowMenu->Handle() : nullptr;
+        SendMessageA(FClientHandle, WM_MDISETMENU, reinterpret_cast<WPARAM>(Bar), reinterpret_cast<LPARAM>(Window));
+    }
+    if (GetMenu(WindowHandle()) != Bar)
+        ::SetMenu(WindowHandle(), Bar);
+    if (FMenu)
+        FMenu->SetWindowHandle(WindowHandle());
+    DrawMenuBar(WindowHandle());
+}
+
+// The place that Position asks for; taken once, when the form is first shown.
+void TCustomForm::ApplyPosition()
+{
+    if (IsEmbedded() || FWindowState == wsMaximized)
+        return;
+    const TCustomForm* Center = nullptr;
+    if (FPosition == poMainFormCenter)
+        Center = Application->MainForm();
+    else if (FPosition == poOwnerFormCenter)
+        Center = dynamic_cast<TCustomForm*>(Owner());
+    TRect Area = Screen->WorkAreaRect();
+    if (Center && Center != this && FFormStyle != fsMDIChild)
+        Area = Center->BoundsRect();
+    else if (FPosition != poScreenCenter && FPosition != poDesktopCenter && FPosition != poMainFormCenter &&
+             FPosition != poOwnerFormCenter)
+        return;
+    FPosition = poDesigned;
+    const TRect Work = Screen->WorkAreaRect();
+    const int X = static_cast<int>(Area.left) + (RectWidth(Area) - Width()) / 2;
+    const int Y = static_cast<int>(Area.top) + (RectHeight(Area) - Height()) / 2;
+    SetBounds(std::max(X, static_cast<int>(Work.left)), std::max(Y, static_cast<int>(Work.top)), Width(), Height());
+}
+
+void TCustomForm::MakeFullyVisible()
+{
+    const TRect Work = Screen->WorkAreaRect();
+    const auto Inside = [](int Place, int Size, LONG From, LONG To) {
+        return std::max(std::min(Place, static_cast<int>(To) - Size), static_cast<int>(From));
+    };
+    SetBounds(Inside(Left(), Width(), Work.left, Work.right), Inside(Top(), Height(), Work.top, Work.bottom), Width(),
+              Height());
+}
+
+void TCustomForm::ShowingChanged()
+{
+    if (FFormState.Contains(fsShowing))
+        throw EInvalidOperation(SVisibleChanged);
+    FFormState.Include(fsShowing);
+    try {
+        if (FShowing)
+            ShowWindowNow();
+        else
+            HideWindowNow();
+    } catch (...) {
+        FFormState.Exclude(fsShowing);
+        throw;
+    }
+    FFormState.Exclude(fsShowing);
+}
+
+void TCustomForm::ShowWindowNow()
+{
+    try {
+        DoShow();
+    } catch (...) {
+        Application->HandleException(this);
+    }
+    ApplyPosition();
+    if (IsEmbedded()) {
+        ShowWindow(WindowHandle(), SW_SHOWNA);
+        return;
+    }
+    ShowWindow(WindowHandle(), ShowCommands[FWindowState]);
+    if (FFormStyle == fsMDIChild)
+        ShowMDIChild();
+}
+
+void TCustomForm::HideWindowNow()
+{
+    try {
+        DoHide();
+    } catch (...) {
+        Application->HandleException(this);
+    }
+    if (FFormStyle == fsMDIChild && !IsEmbedded()) {
+        DestroyHandle();
+        return;
+    }
+    constexpr UINT Flags = SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE;
+    const HWND Next = GetActiveWindow() == WindowHandle() && !IsModal() ? NextTopWindow(WindowHandle()) : nullptr;
+    if (IsModal() || Next) {
+        SetWindowPos(WindowHandle(), nullptr, 0, 0, 0, 0, Flags);
+        if (Next)
+            SetActiveWindow(Next);
+    } else {
+        ShowWindow(WindowHandle(), SW_HIDE);
+    }
+}
+
+void TCustomForm::DoShow()
+{
+    if (OnShow)
+        OnShow(this);
+}
+
+void TCustomForm::DoHide()
+{
+    if (OnHide)
+        OnHide(this);
+}
+
+void TCustomForm::Resizing(TWindowState State)
+{
+    if (FShowing && !HasState(csDesigning) && !IsEmbedded())
+        FWindowState = State;
+}
+
+void TCustomForm::PaintWindow(HDC Dc)
+{
+    FCanvas->FreeHandle();
+    FCanvas->SetHandle(Dc);
+    try {
+        Paint();
+    } catch (...) {
+        FCanvas->SetHandle(nullptr);
+        throw;
+    }
+    FCanvas->SetHandle(nullptr);
+}
+
+void TCustomForm::Paint()
+{
+    if (OnPaint)
+        OnPaint(this);
+}
+
+void TCustomForm::IconChanged(TObject*)
+{
+    if (HandleAllocated() && !IsEmbedded() && !HasState(csDestroying))
+        SendMessageA(WindowHandle(), WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(FIcon->Handle()));
+}

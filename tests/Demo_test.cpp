@@ -1,0 +1,252 @@
+// The demo's translations: nothing that is seen lacks one, no two commands of a
+// menu or form share a mnemonic, and demo.lng is what the translators write.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <functional>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "Qft/Qft.h"
+#include "core/KeyLines.h"
+#include "core/LineSplitter.h"
+#include "core/Literals.h"
+#include "core/TranslationsFile.h"
+#include "core/VisibleTexts.h"
+#include "demo/FormTexts.h"
+#include "demo/Language.h"
+#include "demo/Programs.h"
+#include "demo/Tour.h"
+#include "framework/forms/ComboBoxes.h"
+#include "framework/forms/Edits.h"
+#include "framework/forms/Forms.h"
+#include "framework/forms/Menus.h"
+#include "framework/forms/PageControls.h"
+#include "framework/rtl/Files.h"
+#include "framework/rtl/Texts.h"
+#include "framework/streaming/FormFile.h"
+#include "framework/streaming/FormText.h"
+
+namespace {
+
+using TCreate = std::vector<TForm*> (*)();
+constexpr TCreate Programs[] = {CreateBookingDesk, CreatePlanning};
+
+void ForEachForm(const std::function<void(TForm&)>& Visit)
+{
+    for (const TCreate Create : Programs) {
+        TApplicationScope Scope;
+        RegisterDemoForms();
+        for (TForm* const Form : Create()) {
+            SCOPED_TRACE(Form->Name());
+            Visit(*Form);
+        }
+    }
+}
+
+using TLines = std::map<std::string, std::string>;
+
+TLines LinesOf(TForm& Form)
+{
+    TLines Result;
+    for (const TFormLine& Line : ReadFormLines(Form))
+        Result.emplace(Line.Key, Line.Value);
+    return Result;
+}
+
+std::vector<TFormTranslator*> TranslatorsOf(const TForm& Form)
+{
+    std::vector<TFormTranslator*> Result;
+    for (int I = 0; I < Form.ComponentCount(); ++I)
+        if (auto* const Translator = dynamic_cast<TFormTranslator*>(Form.Components(I)))
+            Result.push_back(Translator);
+    return Result;
+}
+
+const TComponent* OwnerOf(const TForm& Form, const std::string& Key)
+{
+    return Form.FindComponent(Key.substr(0, Key.find('.')));
+}
+
+// A text that comes from another place: the action of a button or menu item, the
+// chosen item of a list, or data. Languages are named in themselves.
+bool ComesFromElsewhere(const TForm& Form, const TLines& Lines, const std::string& Key, std::string& Source)
+{
+    const TComponent* const Component = OwnerOf(Form, Key);
+    if (!Component || Component->Name().ends_with("Value"))
+        return Component != nullptr;
+    if (const auto* const Item = dynamic_cast<const TMenuItem*>(Component);
+        Item && Item->Parent() && Item->Parent()->Name() == "MnuLanguage")
+        return true;
+    if (const auto* const Combo = dynamic_cast<const TComboBox*>(Component); Combo && Key.ends_with(".Text"))
+        return Combo->Style() == csDropDownList;
+    const TPropInfo* const Prop = Component->ClassType().FindProperty("Action");
+    const TObject* const Action = Prop ? GetObjectProp(*Component, *Prop) : nullptr;
+    if (!Action)
+        return false;
+    Source = static_cast<const TComponent*>(Action)->Name() + Key.substr(Key.find('.'));
+    const auto Found = Lines.find(Source);
+    return Found != Lines.end() && Found->second == Lines.at(Key);
+}
+
+bool IsCovered(const TFormTranslator& Translator, const std::string& Key)
+{
+    int Index = 0;
+    return FindKeyLine(*Translator.Translations(), Key, Index);
+}
+
+// A form that shows a word of English among Arabic ones is found by no user who
+// tests in English.
+TEST(Demo, EveryVisibleTextHasATranslation)
+{
+    int Checked = 0;
+    ForEachForm([&](TForm& Form) {
+        const TLines Lines = LinesOf(Form);
+        const std::vector<TFormTranslator*> Translators = TranslatorsOf(Form);
+        ASSERT_EQ(Translators.size(), Languages().size() - 1);
+        for (const auto& [Key, Value] : Lines) {
+            std::string Source;
+            if (!IsVisibleText(Key, Value))
+                continue;
+            const bool Elsewhere = ComesFromElsewhere(Form, Lines, Key, Source);
+            for (const TFormTranslator* const Translator : Translators) {
+                EXPECT_EQ(IsCovered(*Translator, Key), !Elsewhere) << Key << " in " << Translator->Name();
+                EXPECT_TRUE(Source.empty() || !Elsewhere || IsCovered(*Translator, Source)) << Source;
+                ++Checked;
+            }
+        }
+    });
+    EXPECT_GT(Checked, 500);
+}
+
+std::string MnemonicOf(const std::string& Caption)
+{
+    for (size_t I = 0; I + 1 < Caption.size(); ++I) {
+        if (Caption[I] != '&')
+            continue;
+        if (Caption[I + 1] == '&') {
+            ++I;
+            continue;
+        }
+        size_t Length = 1;
+        while (I + 1 + Length < Caption.size() && (static_cast<unsigned char>(Caption[I + 1 + Length]) & 0xC0) == 0x80)
+            ++Length;
+        return AnsiUpperCase(Caption.substr(I + 1, Length));
+    }
+    return "";
+}
+
+void Take(std::set<std::string>& Taken, const std::string& Caption)
+{
+    if (const std::string Mnemonic = MnemonicOf(Caption); !Mnemonic.empty())
+        EXPECT_TRUE(Taken.insert(Mnemonic).second) << "'" << Mnemonic << "' twice: " << Caption;
+}
+
+void TakeItems(std::set<std::string>& Taken, const TMenuItem& Menu)
+{
+    for (int I = 0; I < Menu.Count(); ++I) {
+        const TMenuItem& Item = *Menu.Items(I);
+        if (Item.Caption() != "-")
+            EXPECT_NE(MnemonicOf(Item.Caption()), "") << Item.Caption();
+        Take(Taken, Item.Caption());
+        std::set<std::string> Below;
+        TakeItems(Below, Item);
+    }
+}
+
+bool ShowsCaption(const TControl& Control)
+{
+    return !dynamic_cast<const TCustomEdit*>(&Control) && !dynamic_cast<const TCustomComboBox*>(&Control);
+}
+
+// Pages of a page control are never seen together.
+void TakeControls(std::set<std::string>& Taken, const TWinControl& Parent)
+{
+    const bool Alone = dynamic_cast<const TPageControl*>(&Parent) != nullptr;
+    for (int I = 0; I < Parent.ControlCount(); ++I) {
+        const TControl& Control = *Parent.Controls(I);
+        if (ShowsCaption(Control) && !Alone)
+            Take(Taken, Control.Caption());
+        if (const auto* const Container = dynamic_cast<const TWinControl*>(&Control)) {
+            std::set<std::string> OnPage = Taken;
+            TakeControls(Alone ? OnPage : Taken, *Container);
+        }
+    }
+}
+
+TEST(Demo, MnemonicsDoNotClash)
+{
+    for (const TLanguage& Language : Languages()) {
+        SCOPED_TRACE(Language.Name);
+        ForEachForm([&](TForm& Form) {
+            SwitchLanguage(Language.Locale);
+            std::set<std::string> Taken;
+            if (Form.Menu())
+                TakeItems(Taken, *Form.Menu()->Items());
+            TakeControls(Taken, Form);
+            if (auto* const Popup = dynamic_cast<TPopupMenu*>(Form.FindComponent("PopupMenu1"))) {
+                std::set<std::string> OnPopup;
+                TakeItems(OnPopup, *Popup->Items());
+            }
+        });
+    }
+}
+
+// A line for a component that was renamed translates nothing, silently.
+TEST(Demo, EveryLineOfTheTranslationsFileIsUsed)
+{
+    std::map<std::string, TLines> Forms;
+    ForEachForm([&](TForm& Form) { Forms.emplace(Form.Name(), LinesOf(Form)); });
+    const std::string File = ReadWholeFile(DEMO_TRANSLATIONS);
+    std::vector<std::string> Lines;
+    std::string_view Line;
+    for (TLineSplitter Splitter(File); Splitter.Next(Line);) {
+        Lines.emplace_back(Line);
+        EXPECT_TRUE(Forms.contains(Lines.back().substr(0, Line.find('.')))) << Line;
+    }
+    EXPECT_TRUE(std::is_sorted(Lines.begin(), Lines.end()));
+    EXPECT_EQ(std::adjacent_find(Lines.begin(), Lines.end()), Lines.end());
+    for (const auto& [Name, Properties] : Forms) {
+        ForEachTranslation(DEMO_TRANSLATIONS, Name, [&](const TTranslation& Translation) {
+            SCOPED_TRACE(Name + "." + std::string(Translation.Key));
+            const auto Property = Properties.find(std::string(Translation.Key));
+            ASSERT_NE(Property, Properties.end());
+            if (Translation.Locale == DefaultsLocale) {
+                EXPECT_EQ(Translation.Value, Property->second);
+            } else if (Property->second.starts_with('\'')) {
+                EXPECT_EQ(ToLiterals(FromLiterals(Translation.Value)), Translation.Value);
+                EXPECT_EQ(IsVisibleText(Translation.Key, Translation.Value), true);
+            }
+        });
+    }
+}
+
+// Form files that are not written as the framework writes them change as a whole
+// when the designer saves them for the first time.
+TEST(Demo, FormFilesAreCanonical)
+{
+    int Count = 0;
+    for (const auto& Entry : std::filesystem::directory_iterator(DEMO_FORMS)) {
+        const std::string Name = Entry.path().string();
+        TFormDocument Document = ReadFormFile(Name);
+        Document.Source = nullptr;
+        EXPECT_EQ(WriteFormText(Document, TFormTextProfile{}), ReadWholeFile(Name)) << Name;
+        ++Count;
+    }
+    EXPECT_EQ(Count, 7);
+}
+
+// Every language shown, every form restored and every file left as it was.
+TEST(Demo, TourSucceeds)
+{
+    const std::string Folder = (std::filesystem::temp_directory_path() / "orbilex-demo-tour").string();
+    std::filesystem::remove_all(Folder);
+    EXPECT_EQ(RunTour(Folder), 0);
+    EXPECT_GT(std::filesystem::file_size(Folder + "/main-ar.png"), 1000u);
+    std::filesystem::remove_all(Folder);
+}
+
+}  // namespace
