@@ -27,7 +27,7 @@ std::string KeyEqOf(const std::string& Line)
     return Equals == Line.npos ? std::string() : Line.substr(0, Equals + 1);
 }
 
-}  // namespace
+} // namespace
 
 // What the owner shows now, in order.
 void TFormTranslator::ReadPresentValues(TSortList& List)
@@ -90,7 +90,8 @@ bool TFormTranslator::TranslateFrom(const std::string& FileName)
         const int Index = ObjectInteger(Sources.Objects(Position));
         const std::string& Line = FTranslations->Get(Index);
         const std::string KeyEq = KeyEqOf(Line);
-        const bool IsLiteral = Line.size() > KeyEq.size() && (Line[KeyEq.size()] == '\'' || Line[KeyEq.size()] == '#');
+        const bool IsLiteral =
+            Line.size() > KeyEq.size() && (Line[KeyEq.size()] == '\'' || Line[KeyEq.size()] == '#');
         FTranslations->Put(Index, KeyEq + (IsLiteral ? ToLiterals(Translation) : Translation));
     }
     return true;

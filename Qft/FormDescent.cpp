@@ -14,7 +14,8 @@ bool ReadIndex(std::string_view Text, char End, int& Index)
 {
     const char* const Last = Text.data() + Text.size();
     const auto [Stop, Error] = std::from_chars(Text.data(), Last, Index);
-    const bool IsPlain = Error == std::errc() && Text[0] != '-' && (Text[0] != '0' || Stop == Text.data() + 1);
+    const bool IsPlain =
+        Error == std::errc() && Text[0] != '-' && (Text[0] != '0' || Stop == Text.data() + 1);
     return IsPlain && Last - Stop >= 2 && Stop[0] == ']' && Stop[1] == End;
 }
 
@@ -23,7 +24,7 @@ TLineRange FirstOf(TLineRange A, TLineRange B)
     return A.Empty() ? B : A;
 }
 
-}  // namespace
+} // namespace
 
 std::span<const TPropInfo* const> TFormWalk::PublishedHere() const
 {
@@ -239,7 +240,8 @@ std::vector<TFormWalk::TIndexed> TFormWalk::CollectIndexed(TLineRange Range, cha
         else
             Result.push_back({Item, {Line, Line + 1}});
     }
-    std::sort(Result.begin(), Result.end(), [](const TIndexed& A, const TIndexed& B) { return A.Item < B.Item; });
+    std::sort(Result.begin(), Result.end(),
+              [](const TIndexed& A, const TIndexed& B) { return A.Item < B.Item; });
     return Result;
 }
 

@@ -267,7 +267,8 @@ void TFormWalk::ApplyToLine(TStrings& Lines, int Line, int Index)
 // A handler may have changed the list. Its line may have a new value.
 bool TFormWalk::FindAgain(int& Index) const
 {
-    return (Index < FList.Count() && BeginsWithKey(FList.Get(Index), FKey)) || FindKeyLine(FList, FKey, Index);
+    return (Index < FList.Count() && BeginsWithKey(FList.Get(Index), FKey)) ||
+           FindKeyLine(FList, FKey, Index);
 }
 
 std::string_view TFormWalk::Value(int Index) const

@@ -20,8 +20,7 @@
 #include "framework/rtl/Collection.h"
 #include "platform/winapi.h"
 
-class TFormWalk
-{
+class TFormWalk {
 public:
     // List outlives the walk.
     TFormWalk(TFormTranslator& Translator, TStrings& List, bool ReadMode);
@@ -53,7 +52,7 @@ private:
     // a property or as an item of a collection.
     struct TEntry {
         TObject* Object;
-        const TPersistent* Persistent;  // the same, or null
+        const TPersistent* Persistent; // the same, or null
         const TPropInfo* Prop;
         int Item;
         bool IsGone;
@@ -109,7 +108,7 @@ private:
 
     TFormTranslator& FTranslator;
     TStrings& FList;
-    const TSortList* FOrdered;  // FList, when it is a TSortList
+    const TSortList* FOrdered; // FList, when it is a TSortList
     const bool FReadMode;
     TFormWalk* FOuter;
     TStrings* FOuterLookup;
@@ -117,11 +116,11 @@ private:
     bool FIsOrdered = false;
     uint64_t FVersion = 0;
     TLineIndex FIndex;
-    std::string FKey;   // of the object or property being walked
-    std::string FText;  // the value being applied
+    std::string FKey;  // of the object or property being walked
+    std::string FText; // the value being applied
     std::vector<TEntry> FEntries;
-    std::vector<TNamed> FNamed;  // a stack, as deep as the descent
-    std::vector<TComponent*> FComponents;  // those to walk; null once destroyed
+    std::vector<TNamed> FNamed;           // a stack, as deep as the descent
+    std::vector<TComponent*> FComponents; // those to walk; null once destroyed
     // The property found last: components in a row often name the same one.
     const TMetaClass* FLastClass = nullptr;
     const std::string* FLastName = nullptr;

@@ -4,8 +4,7 @@
 
 #include "Qft/FormWalk.h"
 
-class TFormWalk::TEntered
-{
+class TFormWalk::TEntered {
 public:
     TEntered(TFormWalk& Walk, TComponent& Component) : FWalk(Walk)
     {
@@ -24,8 +23,7 @@ private:
     TFormWalk& FWalk;
 };
 
-class TFormWalk::TKey
-{
+class TFormWalk::TKey {
 public:
     TKey(TFormWalk& Walk, const std::string& Name) : FWalk(Walk), FSize(Walk.FKey.size())
     {

@@ -31,7 +31,7 @@ uint32_t HashOf(std::string_view Name)
     return static_cast<uint32_t>(Result);
 }
 
-}  // namespace
+} // namespace
 
 void TNamedLines::Add(int Line, char End)
 {
@@ -56,7 +56,7 @@ void TLineIndex::Build(const TSortList& List)
 {
     FNames.clear();
     FSlots.assign(FirstSlots, {});
-    int Last = -1;  // the name of the line before; most lines share it
+    int Last = -1; // the name of the line before; most lines share it
     for (int Line = 0; Line < List.Count(); ++Line) {
         const std::string_view Text = List.Get(Line);
         char End = 0;

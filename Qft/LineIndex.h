@@ -18,10 +18,10 @@ struct TLineRange {
 //     Button1=...  Button1.Caption=...  Button1[0]=...
 // In an ordered list the lines of each sort follow each other.
 struct TNamedLines {
-    std::string_view Name;  // refers to the list
-    TLineRange Equal;       // Name=
-    TLineRange Dot;         // Name.
-    TLineRange Bracket;     // Name[
+    std::string_view Name; // refers to the list
+    TLineRange Equal;      // Name=
+    TLineRange Dot;        // Name.
+    TLineRange Bracket;    // Name[
 
     // Takes up the next line, whose character behind the name is End.
     void Add(int Line, char End);
@@ -32,8 +32,7 @@ struct TNamedLines {
 std::string_view FirstName(std::string_view Rest, char& End);
 
 // Valid until the list changes.
-class TLineIndex
-{
+class TLineIndex {
 public:
     // Requires: List is in order.
     void Build(const TSortList& List);
@@ -45,11 +44,11 @@ public:
 private:
     struct TSlot {
         uint32_t Hash = 0;
-        int Place = -1;  // in FNames, -1 for none
+        int Place = -1; // in FNames, -1 for none
     };
     size_t SlotOf(std::string_view Name, uint32_t Hash) const;
     void Grow();
 
     std::vector<TNamedLines> FNames;
-    std::vector<TSlot> FSlots;  // open addressing; a power of two of them
+    std::vector<TSlot> FSlots; // open addressing; a power of two of them
 };

@@ -6,7 +6,8 @@
 
 #include "core/Literals.h"
 
-void TPendingDefaults::Add(std::string_view Key, std::string_view Value, bool AsLiteral, int Line, TObject* Object)
+void TPendingDefaults::Add(std::string_view Key, std::string_view Value, bool AsLiteral, int Line,
+                           TObject* Object)
 {
     FItems.push_back({FTexts.size(), Key.size(), Value.size(), Object, Line, AsLiteral});
     FTexts.append(Key).append(Value);

@@ -9,8 +9,7 @@
 
 // Collects lines Key=Value cheaply and makes them only when they are wanted: when
 // a form is restored they never are.
-class TPendingDefaults
-{
+class TPendingDefaults {
 public:
     // Line is the index of the translation whose value is remembered: an order
     // that the keys' order follows.
@@ -24,7 +23,7 @@ public:
 
 private:
     struct TItem {
-        size_t Start;  // of the key, and behind it the value, in FTexts
+        size_t Start; // of the key, and behind it the value, in FTexts
         size_t KeySize;
         size_t ValueSize;
         TObject* Object;

@@ -36,7 +36,7 @@ int64_t IntegerValue(const TTypeInfo& Type, std::string_view Raw)
     return Wide ? StrToInt64(Raw) : StrToInt(Raw);
 }
 
-}  // namespace
+} // namespace
 
 bool IsLiteralKind(TTypeKind Kind)
 {

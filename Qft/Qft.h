@@ -23,8 +23,7 @@ OBX_EVENT(TTranslatePropertyEvent, TObject*, const std::string&, const TPropInfo
 
 // After a translation. Form files know it by the name of the other translators'
 // event, which has no list.
-struct TFormTranslatedEventName
-{
+struct TFormTranslatedEventName {
     static constexpr const char* Name = "TTranslatedEvent";
 };
 using TFormTranslatedEvent = TEvent<TFormTranslatedEventName, TObject*, TStrings*>;
@@ -47,8 +46,7 @@ using TFormTranslatedEvent = TEvent<TFormTranslatedEventName, TObject*, TStrings
 //
 // Handlers may change the lists, destroy components, forms and translators; what
 // was to be done with them is dropped.
-class TFormTranslator : public TTranslatorFrame
-{
+class TFormTranslator : public TTranslatorFrame {
     OBX_CLASS(TTranslatorFrame)
 public:
     explicit TFormTranslator(TComponent* Owner);
@@ -135,5 +133,5 @@ private:
     // While the form is being restored, the list that took over the defaults.
     mutable const TSortList* FMovedDefaults = nullptr;
     TStrings* FLookup = nullptr;
-    TFormWalk* FWalk = nullptr;  // the innermost walk under way
+    TFormWalk* FWalk = nullptr; // the innermost walk under way
 };

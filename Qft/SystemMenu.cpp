@@ -37,7 +37,7 @@ std::string MenuText(HMENU Menu, UINT Command)
     return std::string(CutAtCharacter({Buffer, static_cast<size_t>(Size > 0 ? Size : 0)}, MaxReadBytes));
 }
 
-}  // namespace
+} // namespace
 
 void TFormWalk::WalkSystemMenu()
 {

@@ -7,8 +7,7 @@
 
 #include "Qft/Qft.h"
 
-class TBenchButton : public TComponent
-{
+class TBenchButton : public TComponent {
     OBX_CLASS(TComponent)
 public:
     using TComponent::TComponent;
@@ -41,17 +40,17 @@ public:
     OBX_PROPERTY(TNotifyEvent, OnClick, {})
 };
 
-const TMetaClass& TBenchButton::MetaClass()
+inline const TMetaClass& TBenchButton::MetaClass()
 {
 #define ROW(Name) OBX_ROW(TBenchButton, Name)
     static const TMetaClass Class("TBenchButton", &TComponent::MetaClass(), nullptr,
-                                  {ROW(Left),      ROW(Top),         ROW(Width),          ROW(Height),
-                                   ROW(TabOrder),  ROW(ModalResult), ROW(ImageIndex),     ROW(HelpContext),
-                                   ROW(Margin),    ROW(Spacing),     ROW(Enabled),        ROW(Visible),
-                                   ROW(TabStop),   ROW(Cancel),      ROW(Default),        ROW(WordWrap),
-                                   ROW(ShowHint),  ROW(ParentFont),  ROW(ParentColor),    ROW(ParentShowHint),
-                                   ROW(Caption),   ROW(Hint),        ROW(HelpKeyword),    ROW(FontName),
-                                   ROW(FontSize),  ROW(Factor)});
+                                  {ROW(Left),     ROW(Top),         ROW(Width),       ROW(Height),
+                                   ROW(TabOrder), ROW(ModalResult), ROW(ImageIndex),  ROW(HelpContext),
+                                   ROW(Margin),   ROW(Spacing),     ROW(Enabled),     ROW(Visible),
+                                   ROW(TabStop),  ROW(Cancel),      ROW(Default),     ROW(WordWrap),
+                                   ROW(ShowHint), ROW(ParentFont),  ROW(ParentColor), ROW(ParentShowHint),
+                                   ROW(Caption),  ROW(Hint),        ROW(HelpKeyword), ROW(FontName),
+                                   ROW(FontSize), ROW(Factor)});
 #undef ROW
     return Class;
 }
@@ -61,8 +60,7 @@ inline constexpr int BenchComponents = 200;
 
 // BenchForms forms of BenchComponents components, and Translations lines over all
 // of them: captions first, then hints, then help keywords.
-class TBenchApplication
-{
+class TBenchApplication {
 public:
     explicit TBenchApplication(int Translations)
     {

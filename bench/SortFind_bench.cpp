@@ -96,6 +96,6 @@ void SortInsertAll(benchmark::State& State)
 }
 BENCHMARK(SortInsertAll)->ArgsProduct({{1000, 100000}, {0, 1, 2}})->Unit(benchmark::kMillisecond);
 
-}  // namespace
+} // namespace
 
 BENCHMARK_MAIN();

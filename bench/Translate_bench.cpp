@@ -53,21 +53,22 @@ void LowerBoundAndAssign(benchmark::State& State)
     for (int I = 0; I < PerForm; ++I)
         Texts.emplace_back(TBenchApplication::Key(I), FromLiterals(TBenchApplication::Value(I)));
     std::sort(Texts.begin(), Texts.end());
-    const std::vector<TTexts> Tables(BenchForms, Texts);  // each form has its own
+    const std::vector<TTexts> Tables(BenchForms, Texts); // each form has its own
     using TReader = const std::string& (TBenchButton::*)() const;
     using TWriter = void (TBenchButton::*)(const std::string&);
-    constexpr std::pair<TReader, TWriter> Props[] = {{&TBenchButton::Caption, &TBenchButton::SetCaption},
-                                                     {&TBenchButton::Hint, &TBenchButton::SetHint},
-                                                     {&TBenchButton::HelpKeyword, &TBenchButton::SetHelpKeyword}};
+    constexpr std::pair<TReader, TWriter> Props[] = {
+        {&TBenchButton::Caption, &TBenchButton::SetCaption},
+        {&TBenchButton::Hint, &TBenchButton::SetHint},
+        {&TBenchButton::HelpKeyword, &TBenchButton::SetHelpKeyword}};
     constexpr const char* Names[] = {".Caption", ".Hint", ".HelpKeyword"};
     const auto Apply = [&](TBenchButton& Form, const TTexts& From, TTexts* Former) {
         for (int I = 0; I < PerForm; ++I) {
             auto& Button = static_cast<TBenchButton&>(*Form.Components(I % BenchComponents + 1));
             const auto& [Reader, Writer] = Props[I / BenchComponents];
             std::string Key = Button.Name() + Names[I / BenchComponents];
-            const auto Found = std::lower_bound(From.begin(), From.end(), Key, [](const auto& Text, const auto& Wanted) {
-                return Text.first < Wanted;
-            });
+            const auto Found =
+                std::lower_bound(From.begin(), From.end(), Key,
+                                 [](const auto& Text, const auto& Wanted) { return Text.first < Wanted; });
             if (Former)
                 Former->emplace_back(std::move(Key), (Button.*Reader)());
             (Button.*Writer)(Found->second);
@@ -101,14 +102,15 @@ void LowerBoundAndAssignOnce(benchmark::State& State)
             for (int I = 1; I <= BenchComponents; ++I) {
                 auto& Button = static_cast<TBenchButton&>(*Form->Components(I));
                 const std::string Key = Form->Name() + "." + Button.Name() + ".Caption";
-                const auto Found = std::lower_bound(Texts.begin(), Texts.end(), Key,
-                                                    [](const auto& Text, const auto& Wanted) { return Text.first < Wanted; });
+                const auto Found = std::lower_bound(
+                    Texts.begin(), Texts.end(), Key,
+                    [](const auto& Text, const auto& Wanted) { return Text.first < Wanted; });
                 Button.SetCaption(Found->second);
             }
     State.SetItemsProcessed(State.iterations() * BenchForms * BenchComponents);
 }
 BENCHMARK(LowerBoundAndAssignOnce)->Arg(20000)->Unit(benchmark::kMillisecond);
 
-}  // namespace
+} // namespace
 
 BENCHMARK_MAIN();

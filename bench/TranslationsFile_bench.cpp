@@ -31,8 +31,7 @@ size_t FileSize()
     return ReadWholeFile(FileName).size();
 }
 
-class TFixture
-{
+class TFixture {
 public:
     explicit TFixture(int64_t Count)
     {
@@ -117,6 +116,6 @@ BENCHMARK(SaveMerged)->Apply(Sizes);
 BENCHMARK(WriteOnly)->Apply(Sizes);
 BENCHMARK(ParseIntoHash)->Apply(Sizes);
 
-}  // namespace
+} // namespace
 
 BENCHMARK_MAIN();

@@ -9,8 +9,8 @@
 
 // Where a search ended. Lines are counted from 0.
 struct TBisection {
-    int Probe = 0;     // the line looked at last; 0 in an empty list
-    int Position = 0;  // the line found, or where the text would be inserted
+    int Probe = 0;    // the line looked at last; 0 in an empty list
+    int Position = 0; // the line found, or where the text would be inserted
     bool Found = false;
 };
 

@@ -11,8 +11,9 @@
 #include "framework/rtl/SysUtils.h"
 #include "framework/rtl/Utf8.h"
 
-void ForEachDictionaryPair(const std::string& FileName,
-                           const std::function<void(const std::string& Source, const std::string& Translation)>& Visit)
+void ForEachDictionaryPair(
+    const std::string& FileName,
+    const std::function<void(const std::string& Source, const std::string& Translation)>& Visit)
 {
     const std::string Text = ReadWholeFile(FileName);
     TLineSplitter Lines(Text);

@@ -19,12 +19,12 @@
 // without TAB is passed over; at most 4095 bytes behind the TAB are taken, cut
 // between characters. Every CR and every LF ends a line.
 // Throws EFOpenError and EReadError.
-void ForEachDictionaryPair(const std::string& FileName,
-                           const std::function<void(const std::string& Source, const std::string& Translation)>& Visit);
+void ForEachDictionaryPair(
+    const std::string& FileName,
+    const std::function<void(const std::string& Source, const std::string& Translation)>& Visit);
 
 // A dictionary in memory, for adding to a file. Lines that are no pairs are kept.
-class TDictionary
-{
+class TDictionary {
 public:
     // The lines of the file; a missing file gives an empty dictionary.
     void Load(const std::string& FileName);

@@ -5,7 +5,7 @@ namespace {
 constexpr std::string_view Plain = "\\\n\r\t";
 constexpr std::string_view Letters = "\\nrt";
 
-}  // namespace
+} // namespace
 
 std::string WriteString(std::string_view S)
 {

@@ -45,7 +45,8 @@ void SortByPlace(std::vector<TTranslatorFrame*>& Frames)
     for (TTranslatorFrame* const Each : Frames)
         Placed.push_back({{Each->Owner()->ComponentIndex(), Each->ComponentIndex()}, Each});
     std::sort(Placed.begin(), Placed.end());
-    std::transform(Placed.begin(), Placed.end(), Frames.begin(), [](const TPlaced& Each) { return Each.second; });
+    std::transform(Placed.begin(), Placed.end(), Frames.begin(),
+                   [](const TPlaced& Each) { return Each.second; });
 }
 
 uint64_t NextNumber()
@@ -54,7 +55,7 @@ uint64_t NextNumber()
     return ++Last;
 }
 
-}  // namespace
+} // namespace
 
 const TMetaClass& TTranslatorFrame::MetaClass()
 {
@@ -94,8 +95,8 @@ void TTranslatorFrame::DefineProperties(TFiler& Filer)
 {
     TComponent::DefineProperties(Filer);
     Filer.DefineProperty(
-        "Storage", [this](TReader& Reader) { ReadStorage(Reader); }, [this](TWriter& Writer) { WriteStorage(Writer); },
-        true);
+        "Storage", [this](TReader& Reader) { ReadStorage(Reader); },
+        [this](TWriter& Writer) { WriteStorage(Writer); }, true);
 }
 
 void TTranslatorFrame::SetTranslate(bool Value)
@@ -176,8 +177,8 @@ void TTranslatorFrame::LoadStorageFile()
 
 void TTranslatorFrame::SaveStorageFile()
 {
-    const bool HasFolder = FFileName.find('\\') != std::string::npos ||
-                           FFileName.find(PathDelimiter) != std::string::npos;
+    const bool HasFolder =
+        FFileName.find('\\') != std::string::npos || FFileName.find(PathDelimiter) != std::string::npos;
     if (HasFolder)
         SaveTo(FFileName);
     else if (!FFileName.empty())

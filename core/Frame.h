@@ -19,8 +19,7 @@ OBX_EVENT(TTranslatedEvent, TObject*)
 
 // A non-visual component on a form or data module, which owns it.
 // User-interface thread only.
-class TTranslatorFrame : public TComponent
-{
+class TTranslatorFrame : public TComponent {
     OBX_CLASS(TComponent)
 public:
     ~TTranslatorFrame() override;
@@ -92,8 +91,7 @@ protected:
     //     const TLife Life(*this);
     //     OnTranslated(this);
     //     if (Life.IsOver()) return;
-    class TLife
-    {
+    class TLife {
     public:
         explicit TLife(const TTranslatorFrame& Frame) : FNumber(Frame.FNumber) {}
         bool IsOver() const;
@@ -107,7 +105,7 @@ protected:
 private:
     const TMetaClass& FKind;
     const char* FMarker;
-    const uint64_t FNumber;  // of no other translator before or after
+    const uint64_t FNumber; // of no other translator before or after
     std::string FFileName;
     int FLocale = 0;
     bool FLoadedDone = false;

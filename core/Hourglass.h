@@ -7,8 +7,7 @@
 #include "framework/forms/Screen.h"
 
 // Shows the hourglass until it goes out of scope; nothing without a screen.
-class THourglass
-{
+class THourglass {
 public:
     THourglass()
     {

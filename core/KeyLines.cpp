@@ -14,8 +14,7 @@ using TLine = TSortList::TLine;
 // A merge of the lines of a list with new ones, as a plan that changes nothing.
 // It can be carried out when each key has one line at most, or when the line
 // that a new one replaces is certain to be found.
-class TMergePlan
-{
+class TMergePlan {
 public:
     TMergePlan(const TSortList& List, const std::vector<std::string>& Lines) : FList(List), FLines(Lines) {}
 
@@ -98,7 +97,7 @@ private:
     const TSortList& FList;
     const std::vector<std::string>& FLines;
     std::vector<TSource> FSources;
-    size_t FGroup = 0;  // where the lines of the key at hand begin in the plan
+    size_t FGroup = 0; // where the lines of the key at hand begin in the plan
     int FOldInGroup = 0;
     int FNewInGroup = 0;
 };
@@ -119,7 +118,7 @@ void MergeOneByOne(TSortList& List, std::vector<std::string>& Lines)
     List.EndUpdate();
 }
 
-}  // namespace
+} // namespace
 
 std::string_view KeyOf(std::string_view Line)
 {
@@ -135,7 +134,8 @@ std::string_view ValueOf(std::string_view Line, size_t MaxBytes)
 
 bool FindKeyLine(const TStrings& List, std::string_view Key, int& Index)
 {
-    return FindKey(Key, List.Count(), [&](int I) -> std::string_view { return List.Get(I); }, Index);
+    return FindKey(
+        Key, List.Count(), [&](int I) -> std::string_view { return List.Get(I); }, Index);
 }
 
 void MergeKeyLines(TSortList& List, std::vector<std::string> Lines)

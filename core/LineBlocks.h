@@ -11,8 +11,7 @@
 // Lines are counted from 0. Reaching a line takes time with the logarithm of the
 // number of blocks, inserting and deleting with the number of blocks.
 template<class TLine>
-class TLineBlocks
-{
+class TLineBlocks {
 public:
     TLineBlocks() = default;
     explicit TLineBlocks(std::vector<TLine>&& Lines)
@@ -38,7 +37,8 @@ public:
     {
         if (FBlocks.empty())
             FBlocks.emplace_back();
-        const TPlace Place = Index == Count() ? TPlace{FBlocks.size() - 1, FBlocks.back().size()} : Find(Index);
+        const TPlace Place =
+            Index == Count() ? TPlace{FBlocks.size() - 1, FBlocks.back().size()} : Find(Index);
         std::vector<TLine>& Block = FBlocks[Place.Block];
         Block.insert(Block.begin() + static_cast<std::ptrdiff_t>(Place.Offset), std::move(Line));
         if (Block.size() > 2 * HalfBlock)
@@ -102,5 +102,5 @@ private:
     }
 
     std::vector<std::vector<TLine>> FBlocks;
-    std::vector<int> FEnds;  // how many lines up to the end of each block
+    std::vector<int> FEnds; // how many lines up to the end of each block
 };

@@ -6,8 +6,7 @@
 
 // Lines end at CR LF, at LF or at CR; what follows the last line end is a line
 // only when there is something. Views refer to the text given.
-class TLineSplitter
-{
+class TLineSplitter {
 public:
     explicit TLineSplitter(std::string_view Text) : FRest(Text) {}
 

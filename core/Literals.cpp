@@ -23,13 +23,13 @@ size_t AppendQuotable(std::string& Result, std::string_view Text)
     for (; I < Text.size() && !IsControl(Text[I]); ++I)
         if (Text[I] == '\'') {
             Result.append(Text, Done, I + 1 - Done);
-            Done = I;  // the apostrophe once more
+            Done = I; // the apostrophe once more
         }
     Result.append(Text, Done, I - Done);
     return I;
 }
 
-}  // namespace
+} // namespace
 
 void AppendLiterals(std::string& Result, std::string_view Text)
 {

@@ -33,12 +33,11 @@ bool SortTurn(std::vector<size_t>& Turn, const std::vector<TLine>& Lines)
     return std::adjacent_find(Turn.begin(), Turn.end(), NotBefore) == Turn.end();
 }
 
-}  // namespace
+} // namespace
 
 // While a change is under way, the order that the list will have after it.
 // Changed() takes it over before any handler runs.
-class TSortList::TExpectation
-{
+class TSortList::TExpectation {
 public:
     TExpectation(TSortList& List, TOrder Order) : FList(List) { FList.FExpected = Order; }
     ~TExpectation() { FList.FExpected = TOrder::Unknown; }
@@ -145,7 +144,8 @@ void TSortList::InsertOneByOne(std::vector<TLine> Lines)
 bool TSortList::IsInOrder() const
 {
     if (FOrder == TOrder::Unknown)
-        FOrder = std::is_sorted(FItems.begin(), FItems.end(), TextLess) ? TOrder::InOrder : TOrder::OutOfOrder;
+        FOrder =
+            std::is_sorted(FItems.begin(), FItems.end(), TextLess) ? TOrder::InOrder : TOrder::OutOfOrder;
     return FOrder == TOrder::InOrder;
 }
 

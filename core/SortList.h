@@ -17,8 +17,7 @@ enum TSortKind { skMulti, skUnique };
 // come by other ways (Add, Insert, a file) stay where they are put; searches in a
 // list that is out of order then find what the bisection happens to meet.
 // Lines are counted from 0; attached objects are not owned.
-class TSortList : public TStringList
-{
+class TSortList : public TStringList {
     OBX_CLASS(TStringList)
 public:
     using TLine = TStringList::TItem;
@@ -74,7 +73,7 @@ private:
 
     TSortKind FKind;
     mutable TOrder FOrder = TOrder::InOrder;
-    TOrder FExpected = TOrder::Unknown;  // the order after the change under way
+    TOrder FExpected = TOrder::Unknown; // the order after the change under way
     uint64_t FVersion = 0;
 };
 

@@ -20,8 +20,7 @@ constexpr size_t MaxLocaleBytes = 255;
 using TViews = std::vector<std::string_view>;
 
 // Walks the lines of a file and knows where it is.
-class TTranslationsReader
-{
+class TTranslationsReader {
 public:
     TTranslationsReader(const std::string& FileName, std::string_view Text, std::string_view Section)
         : FFileName(FileName), FLines(Text), FSection(Section)
@@ -37,7 +36,8 @@ public:
     // False for a line of another section.
     bool Split(std::string_view Line, TTranslation& Entry) const
     {
-        const bool Own = Line.size() > FSection.size() && Line[FSection.size()] == '.' && Line.starts_with(FSection);
+        const bool Own =
+            Line.size() > FSection.size() && Line[FSection.size()] == '.' && Line.starts_with(FSection);
         if (!Own)
             return false;
         const std::string_view Rest = Line.substr(FSection.size() + 1);
@@ -68,8 +68,7 @@ private:
 };
 
 // The lines of an owner as the file has them, in order, within one buffer.
-class TComposedLines
-{
+class TComposedLines {
 public:
     TComposedLines(const std::string& Section, int Locale, const TStrings& List)
     {
@@ -78,7 +77,7 @@ public:
         size_t Size = 0;
         for (int I = 0; I < List.Count(); ++I)
             Size += Front.size() + Middle.size() + List.Get(I).size();
-        FText.reserve(Size);  // Lines refer to it
+        FText.reserve(Size); // Lines refer to it
         FLines.reserve(static_cast<size_t>(List.Count()));
         for (int I = 0; I < List.Count(); ++I) {
             const std::string& Line = List.Get(I);
@@ -134,7 +133,7 @@ TViews InsertedOneByOne(TViews Kept, std::initializer_list<const TViews*> Added)
     return Blocks.Take();
 }
 
-}  // namespace
+} // namespace
 
 bool ForEachTranslation(const std::string& FileName, std::string_view Section,
                         const std::function<void(const TTranslation&)>& Visit)
@@ -167,8 +166,8 @@ bool LoadTranslations(const std::string& FileName, const TTranslationsOwner& Own
     return Exists;
 }
 
-void SaveTranslations(const std::string& FileName, const TTranslationsOwner& Owner, const TStrings& Translations,
-                      const TStrings& Defaults)
+void SaveTranslations(const std::string& FileName, const TTranslationsOwner& Owner,
+                      const TStrings& Translations, const TStrings& Defaults)
 {
     TComposedLines Translated(Owner.Section, Owner.Locale, Translations);
     TComposedLines Untranslated(Owner.Section, DefaultsLocale, Defaults);

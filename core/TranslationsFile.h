@@ -54,5 +54,5 @@ bool LoadTranslations(const std::string& FileName, const TTranslationsOwner& Own
 // Holds the file's lock, and replaces the file as a whole.
 // Throws as above, and EFCreateError, EWriteError, EInOutError; the file is
 // unchanged then.
-void SaveTranslations(const std::string& FileName, const TTranslationsOwner& Owner, const TStrings& Translations,
-                      const TStrings& Defaults);
+void SaveTranslations(const std::string& FileName, const TTranslationsOwner& Owner,
+                      const TStrings& Translations, const TStrings& Defaults);

@@ -3,8 +3,7 @@
 
 #include "framework/forms/Forms.h"
 
-class TAboutForm : public TForm
-{
+class TAboutForm : public TForm {
     OBX_CLASS(TForm)
 public:
     explicit TAboutForm(TComponent* Owner) : TForm(Owner) {}

@@ -7,8 +7,7 @@ TBerthsForm* BerthsForm = nullptr;
 
 namespace {
 
-struct TCall
-{
+struct TCall {
     const char* Berth;
     const char* Vessel;
     const char* Arrival;
@@ -20,7 +19,7 @@ constexpr TCall Calls[] = {{"1", "Grisslan", "05:50", "06:30"},
                            {"4", "Lasse", "13:20", "15:30"},
                            {"2", "Ejdern", "20:15", "22:40"}};
 
-}  // namespace
+} // namespace
 
 const TMetaClass& TBerthsForm::MetaClass()
 {

@@ -5,8 +5,7 @@
 
 class TListView;
 
-class TBerthsForm : public TForm
-{
+class TBerthsForm : public TForm {
     OBX_CLASS(TForm)
 public:
     explicit TBerthsForm(TComponent* Owner) : TForm(Owner) {}

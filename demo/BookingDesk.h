@@ -7,38 +7,35 @@
 
 enum class TRoute { Northern, Southern, Overnight, Freight };
 
-struct TSailing
-{
-    std::string Departure;  // hours and minutes
+struct TSailing {
+    std::string Departure; // hours and minutes
     std::string From;
     std::string To;
     std::string Vessel;
     TRoute Route;
     int FreePlaces;
-    double Fare;  // euros
+    double Fare; // euros
     std::string Gate;
-    std::string CheckIn;  // hours and minutes; when it closes
+    std::string CheckIn; // hours and minutes; when it closes
     std::string Lane;
 
     // "09:15  Nyholm - Stora Rev"
     std::string Title() const;
 };
 
-struct TBooking
-{
+struct TBooking {
     std::string Name;
     std::string Phone;
     std::string Mail;
     int Places = 1;
-    int FareGroup = 0;  // adult, child, student, pensioner
+    int FareGroup = 0; // adult, child, student, pensioner
     bool HasVehicle = false;
     bool IsReturn = false;
     std::vector<std::string> Remarks;
 };
 
 // One booking a sailing. Sailings are counted from 0.
-class TBookingDesk
-{
+class TBookingDesk {
 public:
     TBookingDesk();
 

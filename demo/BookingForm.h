@@ -11,8 +11,7 @@ class TLabel;
 class TLabeledEdit;
 class TMemo;
 
-class TBookingForm : public TForm
-{
+class TBookingForm : public TForm {
     OBX_CLASS(TForm)
 public:
     explicit TBookingForm(TComponent* Owner) : TForm(Owner) {}

@@ -3,8 +3,7 @@
 
 #include "framework/forms/Forms.h"
 
-class TCrewForm : public TForm
-{
+class TCrewForm : public TForm {
     OBX_CLASS(TForm)
 public:
     explicit TCrewForm(TComponent* Owner) : TForm(Owner) {}

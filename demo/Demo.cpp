@@ -12,8 +12,7 @@
 
 namespace {
 
-struct TOptions
-{
+struct TOptions {
     bool Tour = !HAS_DISPLAY;
     bool Planning = false;
     std::string Folder = "out";
@@ -47,7 +46,7 @@ void RunProgram(bool Planning)
     Application->Run();
 }
 
-}  // namespace
+} // namespace
 
 int main(int Count, char** Arguments)
 {

@@ -16,7 +16,7 @@ bool IsOfTranslator(const TForm& Form, const std::string& Key)
     return dynamic_cast<const TFormTranslator*>(Component) != nullptr;
 }
 
-}  // namespace
+} // namespace
 
 std::vector<TFormLine> ReadFormLines(TForm& Form)
 {
@@ -35,7 +35,8 @@ std::vector<TFormLine> ReadFormLines(TForm& Form)
     return Result;
 }
 
-std::vector<TFormChange> ChangesBetween(const std::vector<TFormLine>& Before, const std::vector<TFormLine>& After)
+std::vector<TFormChange> ChangesBetween(const std::vector<TFormLine>& Before,
+                                        const std::vector<TFormLine>& After)
 {
     std::map<std::string, std::string> Former;
     for (const TFormLine& Line : Before)

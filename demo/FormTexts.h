@@ -6,8 +6,7 @@
 
 class TForm;
 
-struct TFormLine
-{
+struct TFormLine {
     std::string Key;
     std::string Value;
     friend bool operator==(const TFormLine&, const TFormLine&) = default;
@@ -18,13 +17,13 @@ struct TFormLine
 std::vector<TFormLine> ReadFormLines(TForm& Form);
 
 // The lines of After that differ from those of Before, with their former values.
-struct TFormChange
-{
+struct TFormChange {
     std::string Key;
     std::string Before;
     std::string After;
 };
-std::vector<TFormChange> ChangesBetween(const std::vector<TFormLine>& Before, const std::vector<TFormLine>& After);
+std::vector<TFormChange> ChangesBetween(const std::vector<TFormLine>& Before,
+                                        const std::vector<TFormLine>& After);
 
 // The form as the text of a form file with all its properties. Writing the
 // translators saves their translations file.

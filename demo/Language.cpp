@@ -14,7 +14,7 @@ constexpr TLanguage Known[] = {{0, "en", "English"},
 
 int Current = 0;
 
-}  // namespace
+} // namespace
 
 std::span<const TLanguage> Languages()
 {

@@ -5,10 +5,9 @@
 
 class TMenuItem;
 
-struct TLanguage
-{
-    int Locale;        // Windows locale identifier; 0 for the language of the form files
-    const char* Code;  // in names of picture files
+struct TLanguage {
+    int Locale;       // Windows locale identifier; 0 for the language of the form files
+    const char* Code; // in names of picture files
     const char* Name;
 };
 

@@ -27,31 +27,30 @@ std::string FareText(double Fare)
     return Text;
 }
 
-}  // namespace
+} // namespace
 
 const TMetaClass& TMainForm::MetaClass()
 {
-    static const TMetaClass Class(
-        "TMainForm", &TForm::MetaClass(), CreateComponent<TMainForm>, {},
-        {Published<&TMainForm::FormCreate>("FormCreate"),
-         Published<&TMainForm::LbxRoutesClick>("LbxRoutesClick"),
-         Published<&TMainForm::LvwSailingsClick>("LvwSailingsClick"),
-         Published<&TMainForm::ActNewExecute>("ActNewExecute"),
-         Published<&TMainForm::ActEditExecute>("ActEditExecute"),
-         Published<&TMainForm::ActCancelExecute>("ActCancelExecute"),
-         Published<&TMainForm::ActOptionsExecute>("ActOptionsExecute"),
-         Published<&TMainForm::ItemExitClick>("ItemExitClick"),
-         Published<&TMainForm::ItemCutClick>("ItemCutClick"),
-         Published<&TMainForm::ItemCopyClick>("ItemCopyClick"),
-         Published<&TMainForm::ItemPasteClick>("ItemPasteClick"),
-         Published<&TMainForm::ItemSelectAllClick>("ItemSelectAllClick"),
-         Published<&TMainForm::ItemToolBarClick>("ItemToolBarClick"),
-         Published<&TMainForm::ItemStatusBarClick>("ItemStatusBarClick"),
-         Published<&TMainForm::ItemByDepartureClick>("ItemByDepartureClick"),
-         Published<&TMainForm::ItemByVesselClick>("ItemByVesselClick"),
-         Published<&TMainForm::ItemLanguageClick>("ItemLanguageClick"),
-         Published<&TMainForm::ItemRulesClick>("ItemRulesClick"),
-         Published<&TMainForm::ItemAboutClick>("ItemAboutClick")});
+    static const TMetaClass Class("TMainForm", &TForm::MetaClass(), CreateComponent<TMainForm>, {},
+                                  {Published<&TMainForm::FormCreate>("FormCreate"),
+                                   Published<&TMainForm::LbxRoutesClick>("LbxRoutesClick"),
+                                   Published<&TMainForm::LvwSailingsClick>("LvwSailingsClick"),
+                                   Published<&TMainForm::ActNewExecute>("ActNewExecute"),
+                                   Published<&TMainForm::ActEditExecute>("ActEditExecute"),
+                                   Published<&TMainForm::ActCancelExecute>("ActCancelExecute"),
+                                   Published<&TMainForm::ActOptionsExecute>("ActOptionsExecute"),
+                                   Published<&TMainForm::ItemExitClick>("ItemExitClick"),
+                                   Published<&TMainForm::ItemCutClick>("ItemCutClick"),
+                                   Published<&TMainForm::ItemCopyClick>("ItemCopyClick"),
+                                   Published<&TMainForm::ItemPasteClick>("ItemPasteClick"),
+                                   Published<&TMainForm::ItemSelectAllClick>("ItemSelectAllClick"),
+                                   Published<&TMainForm::ItemToolBarClick>("ItemToolBarClick"),
+                                   Published<&TMainForm::ItemStatusBarClick>("ItemStatusBarClick"),
+                                   Published<&TMainForm::ItemByDepartureClick>("ItemByDepartureClick"),
+                                   Published<&TMainForm::ItemByVesselClick>("ItemByVesselClick"),
+                                   Published<&TMainForm::ItemLanguageClick>("ItemLanguageClick"),
+                                   Published<&TMainForm::ItemRulesClick>("ItemRulesClick"),
+                                   Published<&TMainForm::ItemAboutClick>("ItemAboutClick")});
     return Class;
 }
 
@@ -86,7 +85,7 @@ void TMainForm::FormCreate(TObject*)
 void TMainForm::ListSailings()
 {
     const std::vector<TSailing>& Sailings = FDesk.Sailings();
-    const int Route = LbxRoutes->ItemIndex() - 1;  // the first item stands for all
+    const int Route = LbxRoutes->ItemIndex() - 1; // the first item stands for all
     FRows.clear();
     for (int I = 0; I < static_cast<int>(Sailings.size()); ++I)
         if (Route < 0 || static_cast<int>(Sailings[static_cast<size_t>(I)].Route) == Route)
@@ -101,8 +100,8 @@ void TMainForm::ListSailings()
         const TSailing& Sailing = Sailings[static_cast<size_t>(Row)];
         TListItem* const Item = LvwSailings->Items()->Add();
         Item->SetCaption(Sailing.Departure);
-        for (const std::string& Text :
-             {Sailing.From, Sailing.To, Sailing.Vessel, std::to_string(Sailing.FreePlaces), FareText(Sailing.Fare)})
+        for (const std::string& Text : {Sailing.From, Sailing.To, Sailing.Vessel,
+                                        std::to_string(Sailing.FreePlaces), FareText(Sailing.Fare)})
             Item->SubItems()->Add(Text);
     }
     LvwSailings->Items()->EndUpdate();

@@ -17,8 +17,7 @@ class TMenuItem;
 class TStatusBar;
 class TToolBar;
 
-class TMainForm : public TForm
-{
+class TMainForm : public TForm {
     OBX_CLASS(TForm)
 public:
     explicit TMainForm(TComponent* Owner) : TForm(Owner) {}
@@ -73,6 +72,6 @@ private:
     void ShowStatusBar(bool Value);
 
     TBookingDesk FDesk;
-    std::vector<int> FRows;  // the sailing of each row of the list
+    std::vector<int> FRows; // the sailing of each row of the list
     bool FByVessel = false;
 };

@@ -7,8 +7,7 @@ class TCheckBox;
 class TComboBox;
 class TPageControl;
 
-class TOptionsForm : public TForm
-{
+class TOptionsForm : public TForm {
     OBX_CLASS(TForm)
 public:
     explicit TOptionsForm(TComponent* Owner) : TForm(Owner) {}

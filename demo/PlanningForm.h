@@ -5,8 +5,7 @@
 
 class TMenuItem;
 
-class TPlanningForm : public TForm
-{
+class TPlanningForm : public TForm {
     OBX_CLASS(TForm)
 public:
     explicit TPlanningForm(TComponent* Owner) : TForm(Owner) {}

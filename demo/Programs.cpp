@@ -9,26 +9,12 @@
 #include "demo/MainForm.h"
 #include "demo/OptionsForm.h"
 #include "demo/PlanningForm.h"
-#include "framework/forms/Actions.h"
-#include "framework/forms/ExtCtrls.h"
-#include "framework/forms/ListViews.h"
-#include "framework/forms/Menus.h"
-#include "framework/forms/PageControls.h"
-#include "framework/forms/StatusBars.h"
-#include "framework/forms/StdCtrls.h"
-#include "framework/forms/ToolBars.h"
+#include "framework/forms/StandardClasses.h"
 #include "orbilex_demo_forms.h"
 
 void RegisterDemoForms()
 {
-    RegisterStdCtrls();
-    RegisterExtCtrls();
-    RegisterListViews();
-    RegisterPageControls();
-    RegisterStatusBars();
-    RegisterToolBars();
-    RegisterMenus();
-    RegisterActions();
+    RegisterStandardClasses();
     RegisterClass(TFormTranslator::MetaClass());
     RegisterOrbilexDemoForms();
 }

@@ -17,17 +17,15 @@
 
 namespace {
 
-constexpr size_t ShownChanges = 3;  // a form and language
+constexpr size_t ShownChanges = 3; // a form and language
 
-struct TFormState
-{
+struct TFormState {
     TForm* Form;
     std::vector<TFormLine> Lines;
     std::string File;
 };
 
-class TTour
-{
+class TTour {
 public:
     explicit TTour(std::string Folder) : FFolder(std::move(Folder)) {}
 
@@ -64,6 +62,22 @@ std::string PictureName(const TForm& Form)
     return Result;
 }
 
+// Shows the pages of the options one after the other, and the first one at the
+// end. Returns how many there are; other forms have none.
+int ForEachPage(TForm& Form, const std::function<void(int)>& Visit)
+{
+    const auto* const Options = dynamic_cast<const TOptionsForm*>(&Form);
+    if (!Options)
+        return 0;
+    TPageControl& Pages = *Options->PageControl1;
+    for (int I = 0; I < Pages.PageCount(); ++I) {
+        Pages.SetActivePage(Pages.Pages(I));
+        Visit(I);
+    }
+    Pages.SetActivePage(Pages.Pages(0));
+    return Pages.PageCount();
+}
+
 void FillSample()
 {
     TBooking Booking;
@@ -84,6 +98,7 @@ void TTour::Visit(const std::function<std::vector<TForm*>()>& Create)
     // is to be restored.
     for (TForm* const Form : Create()) {
         Form->Show();
+        ForEachPage(*Form, [](int) {});
         FStates.push_back({Form, {}, ""});
     }
     Application->ProcessMessages();
@@ -116,23 +131,19 @@ void TTour::PrintChanges(const TFormState& State) const
     std::cout << "  " << State.Form->Name() << ": " << Changes.size() << " of " << State.Lines.size()
               << " properties differ from the form file\n";
     for (size_t I = 0; I < Changes.size() && I < ShownChanges; ++I)
-        std::cout << "    " << Changes[I].Key << ": " << Changes[I].Before << " -> " << Changes[I].After << "\n";
+        std::cout << "    " << Changes[I].Key << ": " << Changes[I].Before << " -> " << Changes[I].After
+                  << "\n";
 }
 
 void TTour::TakePictures(TForm& Form, const TLanguage& Language)
 {
+    if (Form.FormStyle() == fsMDIChild)
+        return; // seen in the picture of its frame
     const std::string Name = PictureName(Form);
-    const auto* const Options = dynamic_cast<const TOptionsForm*>(&Form);
-    if (!Options) {
+    const int Pages = ForEachPage(
+        Form, [&](int Page) { TakePicture(Form, Name + std::to_string(Page + 1) + "-" + Language.Code); });
+    if (Pages == 0)
         TakePicture(Form, Name + "-" + Language.Code);
-        return;
-    }
-    TPageControl& Pages = *Options->PageControl1;
-    for (int I = 0; I < Pages.PageCount(); ++I) {
-        Pages.SetActivePage(Pages.Pages(I));
-        TakePicture(Form, Name + std::to_string(I + 1) + "-" + Language.Code);
-    }
-    Pages.SetActivePage(Pages.Pages(0));
 }
 
 void TTour::TakePicture(TForm& Form, const std::string& Name)
@@ -171,7 +182,7 @@ void TTour::Fail(const std::string& Text)
     FFailed = true;
 }
 
-}  // namespace
+} // namespace
 
 int RunTour(const std::string& Folder)
 {

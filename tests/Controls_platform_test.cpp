@@ -290,7 +290,7 @@ TEST_F(Controls, ListViewTellsOfEveryChange)
     EXPECT_EQ(Send(View, LVM_INSERTITEMA, 0, reinterpret_cast<LPARAM>(&Item)), 0);
     EXPECT_EQ(Log, "n-102 ");
     Send(View, LVM_SETITEMTEXTA, 0, reinterpret_cast<LPARAM>(&Item));
-    EXPECT_EQ(Log, "n-100 ");  // the same text
+    EXPECT_EQ(Log, "n-100 "); // the same text
     char Other[] = "other";
     Item.pszText = Other;
     EXPECT_EQ(Send(View, LVM_SETITEMTEXTA, 0, reinterpret_cast<LPARAM>(&Item)), TRUE);

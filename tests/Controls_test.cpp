@@ -7,8 +7,7 @@
 
 namespace {
 
-struct TControls : testing::Test
-{
+struct TControls : testing::Test {
     TApplicationScope Scope;
     TForm* Form = new TForm(Application);
     TEventLog Log;
@@ -33,7 +32,7 @@ TTexts Sides(int Left, int Top, int Width, int Height)
     return {std::to_string(Left), std::to_string(Top), std::to_string(Width), std::to_string(Height)};
 }
 
-}  // namespace
+} // namespace
 
 // What a control shows was lost when its window was made, unmade or made anew.
 TEST_F(TControls, StateSurvivesItsWindow)
@@ -111,11 +110,10 @@ TEST_F(TControls, AlignsAlongTheEdges)
     auto* const Rest = Put<TSampleBox>(Form, "Rest", 100, 90, 10, 10);
     auto* const Hidden = Put<TSampleBox>(Form, "Hidden", 0, 20, 10, 30);
     Hidden->SetVisible(false);
-    const struct
-    {
+    const struct {
         TControl* Control;
         TAlign Align;
-    } Aligned[] = {{Top, alTop},     {Second, alTop}, {Bottom, alBottom}, {Left, alLeft},
+    } Aligned[] = {{Top, alTop},     {Second, alTop},  {Bottom, alBottom}, {Left, alLeft},
                    {Right, alRight}, {Rest, alClient}, {Hidden, alTop}};
     for (const auto& Each : Aligned)
         Each.Control->SetAlign(Each.Align);
@@ -137,11 +135,10 @@ TEST_F(TControls, AlignsAlongTheEdges)
 
 TEST_F(TControls, AnchorsKeepTheirDistances)
 {
-    const struct
-    {
+    const struct {
         const char* Name;
         TAnchors Anchors;
-        int Left, Top, Width, Height;  // after the form grew by 100 and 60
+        int Left, Top, Width, Height; // after the form grew by 100 and 60
     } Cases[] = {
         {"default", {akLeft, akTop}, 20, 30, 50, 20},
         {"right", {akTop, akRight}, 120, 30, 50, 20},
@@ -295,8 +292,7 @@ TEST_F(TControls, RefusesToContainItself)
 
 TEST_F(TControls, FindsMnemonics)
 {
-    const struct
-    {
+    const struct {
         const char* Caption;
         uint16_t Key;
         bool Found;

@@ -98,12 +98,13 @@ void CheckForm(const std::string& File, TFigures& Figures)
         for (const auto& [Key, Value] : PropertiesOf(Translator)) {
             const auto Line = Wanted[I].find(Key);
             const auto Old = Before[I].find(Key);
-            if (Line != Wanted[I].end())
+            if (Line != Wanted[I].end()) {
                 EXPECT_EQ(Value, Line->second) << Key << " is not translated";
-            else if (Old != Before[I].end() && Old->second != Value && FollowsAnother(Value, Wanted[I]))
+            } else if (Old != Before[I].end() && Old->second != Value && FollowsAnother(Value, Wanted[I])) {
                 ++Figures.Followers;
-            else if (Old != Before[I].end())
+            } else if (Old != Before[I].end()) {
                 EXPECT_EQ(Value, Old->second) << Key << " has changed without a translation";
+            }
         }
     }
     for (TFormTranslator* const Translator : Session.Translators())

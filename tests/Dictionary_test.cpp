@@ -11,8 +11,7 @@
 
 namespace {
 
-class Dictionary : public testing::Test
-{
+class Dictionary : public testing::Test {
 protected:
     void SetUp() override
     {
@@ -27,7 +26,8 @@ protected:
     // "|" stands for a line end, ">" for the TAB.
     static std::string Shown(const std::string& Text)
     {
-        return StringReplace(StringReplace(Text, "\r\n", "|", TReplaceExtent::All), "\t", ">", TReplaceExtent::All);
+        return StringReplace(StringReplace(Text, "\r\n", "|", TReplaceExtent::All), "\t", ">",
+                             TReplaceExtent::All);
     }
     void Write(std::string_view Text)
     {
@@ -42,8 +42,7 @@ protected:
 };
 
 // A form with buttons of the given captions and translations of them.
-struct TForm1 : TSample
-{
+struct TForm1 : TSample {
     TForm1(std::initializer_list<const char*> Captions, const char* Translations) : TSample(nullptr, "Form1")
     {
         int Number = 0;
@@ -62,7 +61,8 @@ TEST_F(Dictionary, ReadsPairs)
     Write("no tab||a>b|a\\\\n>\\t|x>y>z|" + ("long>" + Long));
     std::string Found;
     ForEachDictionaryPair(Name, [&](const std::string& Source, const std::string& Translation) {
-        Found += Source + "=" + (Translation.size() > 9 ? std::to_string(Translation.size()) : Translation) + ";";
+        Found +=
+            Source + "=" + (Translation.size() > 9 ? std::to_string(Translation.size()) : Translation) + ";";
     });
     EXPECT_EQ(Found, "a=b;a\n=\t;x=y\tz;long=4095;");
 }
@@ -82,7 +82,8 @@ TEST_F(Dictionary, PutReplacesOrInserts)
 
 TEST_F(Dictionary, ExportsWhatTheFormShows)
 {
-    TForm1 First({"Yes", "No", "Yes"}, "B1.Caption='Ja'\nB2.Caption='Nej'\nB3.Caption='Jo'\nB4.Caption='x'\nB1.Tag=7\n");
+    TForm1 First({"Yes", "No", "Yes"},
+                 "B1.Caption='Ja'\nB2.Caption='Nej'\nB3.Caption='Jo'\nB4.Caption='x'\nB1.Tag=7\n");
     First.Translator->TranslateTo(Name);
     EXPECT_EQ(Content(), "0>7|No>Nej|Yes>Jo|");
     TForm1 Second({"Yes", "Help"}, "B1.Caption='Japp'\nB2.Caption='Hj\xC3\xA4lp'#10\n");
@@ -103,7 +104,12 @@ TEST_F(Dictionary, ExportRestoresFirst)
 
 TEST_F(Dictionary, ImportsIntoPresentLines)
 {
-    const struct { const char* Name; const char* File; const char* Before; const char* After; } Cases[] = {
+    const struct {
+        const char* Name;
+        const char* File;
+        const char* Before;
+        const char* After;
+    } Cases[] = {
         {"text", "Yes>Ja|", "B1.Caption='Yes'|", "B1.Caption='Ja'|"},
         {"text not quoted", "Yes>Ja|", "B1.Caption=Yes|", "B1.Caption=Ja|"},
         {"code", "Yes>It's|", "B1.Caption=#65|", "B1.Caption='It''s'|"},
@@ -128,11 +134,13 @@ TEST_F(Dictionary, ImportsIntoPresentLines)
 TEST_F(Dictionary, ImportReachesOneOfEqualTexts)
 {
     Write("Yes>Ja|");
-    TForm1 Form({"Yes", "Yes", "Yes", "Yes"}, "B1.Caption='1'\nB2.Caption='2'\nB3.Caption='3'\nB4.Caption='4'\n");
+    TForm1 Form({"Yes", "Yes", "Yes", "Yes"},
+                "B1.Caption='1'\nB2.Caption='2'\nB3.Caption='3'\nB4.Caption='4'\n");
     EXPECT_TRUE(Form.Translator->TranslateFrom(Name));
     // Each goes in front of the one that its search hits: 1, then 21, 321, and the
     // fourth in front of the middle one: 3421. The search hits the second again.
-    EXPECT_EQ(Lines(*Form.Translator->Translations()), "B1.Caption='1'|B2.Caption='2'|B3.Caption='3'|B4.Caption='Ja'|");
+    EXPECT_EQ(Lines(*Form.Translator->Translations()),
+              "B1.Caption='1'|B2.Caption='2'|B3.Caption='3'|B4.Caption='Ja'|");
 }
 
-}  // namespace
+} // namespace

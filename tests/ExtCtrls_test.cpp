@@ -11,8 +11,7 @@
 
 namespace {
 
-struct TExtCtrls : testing::TestWithParam<bool>
-{
+struct TExtCtrls : testing::TestWithParam<bool> {
     TApplicationScope Scope;
     TForm* Form = new TForm(Application);
     TEventLog Log;
@@ -41,7 +40,7 @@ std::string PublicName(const testing::TestParamInfo<bool>& Info)
     return Info.param ? "WithWindows" : "WithoutWindows";
 }
 
-}  // namespace
+} // namespace
 
 INSTANTIATE_TEST_SUITE_P(Both, TExtCtrls, testing::Bool(), PublicName);
 
@@ -53,8 +52,7 @@ TEST_P(TExtCtrls, ALabelStaysWithItsEdit)
     Edit->EditLabel()->SetAutoSize(false);
     Edit->EditLabel()->SetBounds(0, 0, 40, 13);
     ShowIfAsked();
-    const struct
-    {
+    const struct {
         TLabelPosition Position;
         TPoint Place;
     } Cases[] = {
@@ -169,8 +167,7 @@ TEST_P(TExtCtrls, SplittersResizeTheirNeighbour)
 // A timer ran on after it was disabled or destroyed, or called an object that was gone.
 TEST(Timers, RunWhileTheyAreEnabled)
 {
-    struct TCounter : TObject
-    {
+    struct TCounter : TObject {
         int Count = 0;
         void Tick(TObject*) { ++Count; }
     } Counter;
@@ -215,8 +212,7 @@ TEST(ApplicationEvents, ComeAndGoWithTheirComponent)
 
 TEST(MaskEdits, CheckTheirText)
 {
-    const struct
-    {
+    const struct {
         const char* Name;
         const char* Mask;
         const char* Text;

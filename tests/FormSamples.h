@@ -7,8 +7,7 @@
 #include "framework/forms/Forms.h"
 
 // Draws nothing; remembers what it was asked.
-class TSampleGraphic : public TGraphicControl
-{
+class TSampleGraphic : public TGraphicControl {
     OBX_CLASS(TGraphicControl)
 public:
     explicit TSampleGraphic(TComponent* Owner) : TGraphicControl(Owner) {}
@@ -19,17 +18,18 @@ protected:
 };
 
 // A container.
-class TSampleBox : public TCustomControl
-{
+class TSampleBox : public TCustomControl {
     OBX_CLASS(TCustomControl)
 public:
-    explicit TSampleBox(TComponent* Owner) : TCustomControl(Owner) { FControlStyle.Include(csAcceptsControls); }
+    explicit TSampleBox(TComponent* Owner) : TCustomControl(Owner)
+    {
+        FControlStyle.Include(csAcceptsControls);
+    }
     using TWinControl::RecreateWnd;
 };
 
 // The system's edit control.
-class TSampleEdit : public TWinControl
-{
+class TSampleEdit : public TWinControl {
     OBX_CLASS(TWinControl)
 public:
     explicit TSampleEdit(TComponent* Owner) : TWinControl(Owner) { SetTabStop(true); }
@@ -70,7 +70,8 @@ inline const TMetaClass& TSampleEdit::MetaClass()
 
 // Makes a control inside Parent, owned by it.
 template<class T>
-T* Put(TWinControl* Parent, const std::string& Name, int Left = 0, int Top = 0, int Width = 50, int Height = 20)
+T* Put(TWinControl* Parent, const std::string& Name, int Left = 0, int Top = 0, int Width = 50,
+       int Height = 20)
 {
     auto* const Result = new T(Parent);
     Result->SetName(Name);
@@ -80,8 +81,7 @@ T* Put(TWinControl* Parent, const std::string& Name, int Left = 0, int Top = 0, 
 }
 
 // Takes any event and writes it down.
-class TEventLog : public TObject
-{
+class TEventLog : public TObject {
 public:
     std::vector<std::string> Lines;
 

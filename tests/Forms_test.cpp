@@ -7,15 +7,13 @@
 
 namespace {
 
-struct TForms : testing::Test
-{
+struct TForms : testing::Test {
     TApplicationScope Scope;
     TEventLog Log;
 };
 
 // A form with a form file of its own and handlers that the file names.
-class TOrderForm : public TForm
-{
+class TOrderForm : public TForm {
     OBX_CLASS(TForm)
 public:
     using TForm::TForm;
@@ -81,8 +79,7 @@ const TMetaClass& TOrderForm::MetaClass()
 }
 
 // Answers a modal form from inside its message loop.
-class TAnswers : public TObject
-{
+class TAnswers : public TObject {
 public:
     TForm* Form = nullptr;
     std::vector<std::string> Lines;
@@ -94,7 +91,7 @@ public:
     {
         Lines.emplace_back("query");
         CanClose = Refusals-- <= 0;
-        if (!CanClose)
+        if (!CanClose && Form->IsModal())
             PostMessageA(Form->Handle(), WM_CLOSE, 0, 0);
     }
     void Closing(TObject*, TCloseAction& Action)
@@ -112,7 +109,7 @@ public:
     void Remove(TObject*) { Form->Release(); }
 };
 
-}  // namespace
+} // namespace
 
 TEST_F(TForms, ReadsItsFormFile)
 {
@@ -171,8 +168,7 @@ TEST_F(TForms, ModalFormDisablesTheOthers)
     TAnswers Answers;
     Answers.Form = &Dialog;
     Main.Show();
-    struct : TObject
-    {
+    struct : TObject {
         HWND Other;
         bool WasEnabled = true;
         void Look(TObject*) { WasEnabled = IsWindowEnabled(Other); }
@@ -191,16 +187,16 @@ TEST_F(TForms, ModalFormDisablesTheOthers)
     EXPECT_FALSE(Dialog.IsModal());
     EXPECT_EQ(GetActiveWindow(), Main.Handle());
     EXPECT_THROW(Main.ShowModal(), EInvalidOperation);
-    Answers.Refusals = 0;
     Dialog.OnActivate.Clear();
+    Application->ProcessMessages();
+    Answers.Refusals = 0;
     Application->OnIdle = {&Answers, &TAnswers::Decide};
     EXPECT_EQ(Dialog.ShowModal(), mrYes);
 }
 
 TEST_F(TForms, CloseActionsDecide)
 {
-    const struct
-    {
+    const struct {
         const char* Name;
         TCloseAction Action;
         int Refusals;
@@ -281,7 +277,8 @@ TEST_F(TForms, ActivationFollowsTheWindows)
     EXPECT_EQ(Screen->ActiveForm(), &Second);
     First.SetFocus();
     EXPECT_EQ(Screen->ActiveForm(), &First);
-    EXPECT_EQ(Log.Take(), (TTexts{"First enter", "First exit", "Second enter", "Second exit", "First enter"}));
+    EXPECT_EQ(Log.Take(),
+              (TTexts{"First enter", "First exit", "Second enter", "Second exit", "First enter"}));
     First.Hide();
     EXPECT_EQ(Screen->ActiveForm(), &Second);
     EXPECT_FALSE(IsWindowVisible(First.Handle()));

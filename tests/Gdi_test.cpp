@@ -124,8 +124,9 @@ TEST(Fonts, WidthsFollowTextSizeAndWeight)
     EXPECT_EQ(Extent(Dc, ""), 0);
     EXPECT_EQ(Extent(Dc, "Translation"), Plain);
     EXPECT_GT(Width(Dc, "Translation "), Plain);
-    // Three full-width characters are about three times the height, not nine bytes wide.
-    EXPECT_GE(Wide, 3 * 9);
+    // Counted as three characters, not as nine bytes; how wide one is depends on
+    // the typefaces that are there.
+    EXPECT_GT(Wide, 0);
     EXPECT_LE(Wide, 3 * 14);
     {
         const TFont Bold(Dc, "Arial", -11, FW_BOLD);
@@ -324,7 +325,10 @@ TEST(Objects, AreCountedAndFreed)
     {
         const TMemoryDc Dc(2, 2);
         const TFont Font(Dc, "Arial", -11);
-        EXPECT_GT(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS), Before);
+        const DWORD During = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+        if (During == 0)
+            GTEST_SKIP() << "this system does not count drawing objects";
+        EXPECT_EQ(During, Before + 3);
     }
     EXPECT_EQ(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS), Before);
     EXPECT_FALSE(DeleteObject(nullptr));
@@ -337,7 +341,10 @@ TEST(ImageLists, CutBitmapsAndHideTheMaskedColour)
 {
     const HIMAGELIST List = ImageList_Create(2, 2, ILC_COLOR24 | ILC_MASK, 1, 1);
     const TMemoryDc Source(4, 2);
-    const RECT Left = {0, 0, 2, 2};
+    const RECT Left = {0, 0, 2, 2}, Right = {2, 0, 4, 2};
+    const HBRUSH Magenta = CreateSolidBrush(RGB(255, 0, 255));
+    FillRect(Source, &Right, Magenta);
+    DeleteObject(Magenta);
     FillRect(Source, &Left, static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
     const HBITMAP Strip = CreateCompatibleBitmap(Source, 4, 2);
     const HDC Copy = CreateCompatibleDC(Source);
@@ -345,7 +352,7 @@ TEST(ImageLists, CutBitmapsAndHideTheMaskedColour)
     BitBlt(Copy, 0, 0, 4, 2, Source, 0, 0, SRCCOPY);
     SelectObject(Copy, Old);
     DeleteDC(Copy);
-    EXPECT_EQ(ImageList_AddMasked(List, Strip, RGB(255, 255, 255)), 0);
+    EXPECT_EQ(ImageList_AddMasked(List, Strip, RGB(255, 0, 255)), 0);
     DeleteObject(Strip);
     EXPECT_EQ(ImageList_GetImageCount(List), 2);
     const TMemoryDc Target(4, 2);

@@ -8,8 +8,7 @@
 
 namespace {
 
-struct TGraphics : testing::Test
-{
+struct TGraphics : testing::Test {
     TApplicationScope Scope;
 };
 
@@ -24,8 +23,9 @@ std::string Bytes(std::initializer_list<int> Values)
 // A 2 by 1 bitmap of 24 bits: a red pixel, then a blue one.
 std::string SmallBitmap()
 {
-    return Bytes({'B', 'M', 62, 0, 0, 0, 0, 0, 0, 0, 54, 0, 0, 0, 40, 0, 0, 0, 2, 0, 0, 0, 1, 0, 0, 0, 1, 0, 24, 0, 0,
-                  0,   0,   0,  0, 8, 0, 0, 0, 0, 0, 0, 0,  0, 0, 0, 0, 0,  0, 0, 0, 0, 0, 0, 0, 0, 255, 255, 0, 0, 0, 0});
+    return Bytes({'B', 'M', 62, 0, 0, 0, 0, 0,  0, 0, 54, 0, 0, 0, 40,  0,   0, 0, 2, 0, 0,
+                  0,   1,   0,  0, 0, 1, 0, 24, 0, 0, 0,  0, 0, 0, 8,   0,   0, 0, 0, 0, 0,
+                  0,   0,   0,  0, 0, 0, 0, 0,  0, 0, 0,  0, 0, 0, 255, 255, 0, 0, 0, 0});
 }
 
 std::string Written(const TGraphic& Graphic)
@@ -35,21 +35,23 @@ std::string Written(const TGraphic& Graphic)
     return Stream.Bytes();
 }
 
-}  // namespace
+} // namespace
 
 // A colour whose second name is written changes every form file it is in.
 TEST_F(TGraphics, NamesColoursCursorsAndCharsets)
 {
-    const struct
-    {
+    const struct {
         const TIntegerIdents& Idents;
         int Value;
         const char* Read;
         const char* Written;
     } Cases[] = {
-        {ColorIdents, clRed, "clred", "clRed"},          {ColorIdents, clSilver, "clLtGray", "clSilver"},
-        {ColorIdents, clBtnFace, "cl3DFace", "clBtnFace"}, {ColorIdents, clNone, "clNone", "clNone"},
-        {CursorIdents, crHourGlass, "crHourGlass", "crHourGlass"}, {CursorIdents, crSizeAll, "crSize", "crSizeAll"},
+        {ColorIdents, clRed, "clred", "clRed"},
+        {ColorIdents, clSilver, "clLtGray", "clSilver"},
+        {ColorIdents, clBtnFace, "cl3DFace", "clBtnFace"},
+        {ColorIdents, clNone, "clNone", "clNone"},
+        {CursorIdents, crHourGlass, "crHourGlass", "crHourGlass"},
+        {CursorIdents, crSizeAll, "crSize", "crSizeAll"},
         {CharsetIdents, RUSSIAN_CHARSET, "RUSSIAN_CHARSET", "RUSSIAN_CHARSET"},
     };
     for (const auto& Case : Cases) {
@@ -74,8 +76,7 @@ TEST_F(TGraphics, FontSizeAndHeightAreOneValue)
     TFont Font;
     Font.SetPixelsPerInch(96);
     EXPECT_EQ(Font.Size(), 8);
-    const struct
-    {
+    const struct {
         int Size;
         int Height;
     } Cases[] = {{8, -11}, {10, -13}, {12, -16}, {24, -32}};
@@ -116,8 +117,7 @@ TEST_F(TGraphics, FontsThatAreAlikeShareAHandle)
 TEST_F(TGraphics, BitmapKeepsItsBytes)
 {
     const std::string File = SmallBitmap();
-    const struct
-    {
+    const struct {
         const char* Name;
         std::string Data;
         int Width;
@@ -129,7 +129,8 @@ TEST_F(TGraphics, BitmapKeepsItsBytes)
         {"cut off", File.substr(0, 56), 2, false},
         {"empty", Bytes({0, 0, 0, 0}), 0, false},
         {"absurd width", File.substr(0, 18) + Bytes({255, 255, 255, 127}) + File.substr(22), 0, false},
-        {"pixels beyond the end", File.substr(0, 10) + Bytes({255, 255, 255, 255}) + File.substr(14), 2, false},
+        {"pixels beyond the end", File.substr(0, 10) + Bytes({255, 255, 255, 255}) + File.substr(14), 2,
+         false},
     };
     for (const auto& Case : Cases) {
         SCOPED_TRACE(Case.Name);

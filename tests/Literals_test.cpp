@@ -14,7 +14,10 @@ using namespace std::string_literals;
 
 TEST(Literals, ConvertsBothWays)
 {
-    const struct { std::string Text; std::string Literal; } Cases[] = {
+    const struct {
+        std::string Text;
+        std::string Literal;
+    } Cases[] = {
         {"", "''"},
         {"OK", "'OK'"},
         {"It's", "'It''s'"},
@@ -39,7 +42,10 @@ TEST(Literals, ConvertsBothWays)
 
 TEST(Literals, ReadsCodesByPosition)
 {
-    const struct { const char* Literal; const char* Text; } Cases[] = {
+    const struct {
+        const char* Literal;
+        const char* Text;
+    } Cases[] = {
         {"#9#10", "[10"}, {"#9#9", "c9"},   {"#65", "A"},         {"#300", ","},           {"#6x5", "A5"},
         {"#x65", "A5"},   {"#9'A'", "\tA"}, {"alNone", "alNone"}, {"#13#10#13", "\r\n\r"}, {"'a", "a"},
         {"#1234", "{4"},  {"x#65y", "xAy"}, {"'a'b'c'", "abc"},
@@ -98,7 +104,11 @@ TEST(Literals, EqualsTheRuleInPlace)
 
 TEST(DictionaryText, Escapes)
 {
-    const struct { const char* Text; const char* Written; const char* Back; } Cases[] = {
+    const struct {
+        const char* Text;
+        const char* Written;
+        const char* Back;
+    } Cases[] = {
         {"C:\\dir\tx", "C:\\\\dir\\tx", "C:\\dir\tx"},
         {"C:\\temp", "C:\\\\temp", "C:\temp"},
         {"a\r\nb", "a\\r\\nb", "a\r\nb"},
@@ -124,4 +134,4 @@ TEST(Literals, TakesLinearTime)
     EXPECT_EQ(ToLiterals(Controls).size(), 8'000'000U);
 }
 
-}  // namespace
+} // namespace

@@ -17,7 +17,7 @@ struct TAnswer
     std::string Errors;
 };
 
-TAnswer Run(std::vector<const char*> Arguments)
+TAnswer RunTool(std::vector<const char*> Arguments)
 {
     Arguments.insert(Arguments.begin(), "orbilex");
     std::ostringstream Output;
@@ -59,7 +59,7 @@ bool Has(const std::string& Text, const std::string& Part)
 
 TEST_F(Orbilex, ListsPropertiesWithTheirSection)
 {
-    const TAnswer Answer = Run({"list", FBooking.c_str()});
+    const TAnswer Answer = RunTool({"list", FBooking.c_str()});
     EXPECT_EQ(Answer.Code, 0) << Answer.Errors;
     for (const char* const Line :
          {"\nBookingForm.Caption='Bookings for today'\n", "\nBookingForm.LblRoute.Caption='&Route:'\n",
@@ -75,7 +75,7 @@ TEST_F(Orbilex, ListsPropertiesWithTheirSection)
 
 TEST_F(Orbilex, ListsWhatAUserSees)
 {
-    const TAnswer Answer = Run({"list", "--texts", "--locale", "1053", FBooking.c_str()});
+    const TAnswer Answer = RunTool({"list", "--texts", "--locale", "1053", FBooking.c_str()});
     EXPECT_TRUE(Has(Answer.Output, "BookingForm.Gauge.Title.Caption%1053='Seats taken'\n"));
     for (const char* const Technical : {"Font.Name", "Width", "Charset", "Align%"})
         EXPECT_FALSE(Has(Answer.Output, Technical)) << Technical;
@@ -89,7 +89,7 @@ TEST_F(Orbilex, TranslatesAndRestores)
                                                 "BookingForm.Nowhere.Caption%1053='x'\r\n"
                                                 "Other.Caption%1053='y'\r\n");
     const std::string Out = FFolder + "/out.dfm";
-    const TAnswer Answer = Run({"translate", FBooking.c_str(), "--translations", Lines.c_str(), "--locale", "1053", "-o",
+    const TAnswer Answer = RunTool({"translate", FBooking.c_str(), "--translations", Lines.c_str(), "--locale", "1053", "-o",
                                 Out.c_str(), "--restore"});
     EXPECT_EQ(Answer.Code, 0) << Answer.Errors;
     EXPECT_TRUE(Has(Answer.Errors, "3 properties translated, restoring gives the original bytes"));
@@ -106,17 +106,17 @@ TEST_F(Orbilex, TranslatesAndRestores)
 TEST_F(Orbilex, BadInputIsNamedAndTheNextFileFollows)
 {
     const std::string Broken = Write("broken.dfm", "object A: TA\n  Caption = 'open\nend\n");
-    const TAnswer Answer = Run({"roundtrip", Broken.c_str(), "/no/such.dfm", FBooking.c_str()});
+    const TAnswer Answer = RunTool({"roundtrip", Broken.c_str(), "/no/such.dfm", FBooking.c_str()});
     EXPECT_EQ(Answer.Code, 2);
     EXPECT_TRUE(Has(Answer.Errors, Broken + ":2:")) << Answer.Errors;
     EXPECT_TRUE(Has(Answer.Errors, "/no/such.dfm")) << Answer.Errors;
     EXPECT_TRUE(Has(Answer.Output, "booking.dfm: same bytes")) << Answer.Output;
 
     const std::string Bad = Write("bad.txt", "BookingForm.Caption%1O53='x'\r\n");
-    const TAnswer BadLocale = Run({"translate", FBooking.c_str(), "--translations", Bad.c_str(), "--locale", "1053"});
+    const TAnswer BadLocale = RunTool({"translate", FBooking.c_str(), "--translations", Bad.c_str(), "--locale", "1053"});
     EXPECT_EQ(BadLocale.Code, 2);
     EXPECT_TRUE(Has(BadLocale.Errors, "bad.txt:1")) << BadLocale.Errors;
-    const TAnswer Missing = Run({"translate", FBooking.c_str(), "--translations", "/no/lang.txt", "--locale", "1"});
+    const TAnswer Missing = RunTool({"translate", FBooking.c_str(), "--translations", "/no/lang.txt", "--locale", "1"});
     EXPECT_EQ(Missing.Code, 2);
     EXPECT_TRUE(Has(Missing.Errors, "/no/lang.txt"));
     EXPECT_EQ(Missing.Output, "");
@@ -126,19 +126,19 @@ TEST_F(Orbilex, WrongUseIsCodeTwo)
 {
     for (const auto& Arguments : std::vector<std::vector<const char*>>{
              {}, {"frobnicate"}, {"list"}, {"roundtrip", "--binary", "--text", "a"}, {"translate", "a"}})
-        EXPECT_EQ(Run(Arguments).Code, 2);
-    EXPECT_EQ(Run({"--help"}).Code, 0);
-    EXPECT_EQ(Run({"list", "--help"}).Code, 0);
+        EXPECT_EQ(RunTool(Arguments).Code, 2);
+    EXPECT_EQ(RunTool({"--help"}).Code, 0);
+    EXPECT_EQ(RunTool({"list", "--help"}).Code, 0);
 }
 
 TEST_F(Orbilex, ConvertsBetweenTheFormats)
 {
-    const TAnswer There = Run({"roundtrip", "--binary", "-o", FFolder.c_str(), FBooking.c_str()});
+    const TAnswer There = RunTool({"roundtrip", "--binary", "-o", FFolder.c_str(), FBooking.c_str()});
     EXPECT_EQ(There.Code, 0) << There.Output << There.Errors;
     const std::string Binary = ReadWholeFile(FFolder + "/booking.dfm");
     EXPECT_EQ(Binary.substr(0, 3), std::string("\xFF\x0A\x00", 3));
     const std::string Back = FFolder + "/back";
-    const TAnswer Again = Run({"roundtrip", "--text", "-o", Back.c_str(), (FFolder + "/booking.dfm").c_str()});
+    const TAnswer Again = RunTool({"roundtrip", "--text", "-o", Back.c_str(), (FFolder + "/booking.dfm").c_str()});
     EXPECT_EQ(Again.Code, 0) << Again.Output << Again.Errors;
     EXPECT_EQ(ReadWholeFile(Back + "/booking.dfm"), ReadWholeFile(FBooking));
 }
@@ -146,7 +146,7 @@ TEST_F(Orbilex, ConvertsBetweenTheFormats)
 TEST_F(Orbilex, CodePagesAreNamedByTheCaller)
 {
     const std::string Form = TEST_DATA "/codepage.dfm";
-    const TAnswer Answer = Run({"list", "--texts", "--code-page", "1250", Form.c_str()});
+    const TAnswer Answer = RunTool({"list", "--texts", "--code-page", "1250", Form.c_str()});
     EXPECT_TRUE(Has(Answer.Output, "Okno.Caption='Zażółć gęślą jaźń'\n")) << Answer.Output;
 }
 

@@ -23,8 +23,7 @@ TLines LinesOf(const TStrings& List)
 }
 
 // A form with a translator and one component of each name.
-class TScene : public TObject
-{
+class TScene : public TObject {
 public:
     explicit TScene(const TLines& Names = {"Button1", "Button2"}) : Form(nullptr, "Form1")
     {
@@ -105,7 +104,11 @@ private:
 // Values and defaults of each kind: what is written must be what is read back.
 TEST(FormTranslator, TranslatesAndRestoresEachKind)
 {
-    const struct { const char* Key; const char* Former; const char* Value; } Cases[] = {
+    const struct {
+        const char* Key;
+        const char* Former;
+        const char* Value;
+    } Cases[] = {
         {"Button1.Caption", "'text'", "'It''s'#13#10'new'"},
         {"Button1.Short", "'s'", "'short'"},
         {"Button1.Wide", "'w'", "'\xC3\xA4'"},
@@ -140,18 +143,22 @@ TEST(FormTranslator, TranslatesAndRestoresEachKind)
 
 TEST(FormTranslator, AppliesWhatTheListSays)
 {
-    const struct { const char* Name; TLines Lines; const char* Caption; } Cases[] = {
+    const struct {
+        const char* Name;
+        TLines Lines;
+        const char* Caption;
+    } Cases[] = {
         {"plain", {"Button1.Caption='Ja'"}, "Ja"},
         {"empty is passed over", {"Button1.Caption=''"}, "text"},
         {"other case", {"button1.Caption='Ja'", "Button1.caption='Ja'"}, "text"},
         {"no such line", {"Button1.Lines[3]='x'", "Button1.Lines[01]='x'"}, "text"},
         {"one key in front", {"Button1.Caption'=", "Button1.Caption='Ja'"}, "Ja"},
-        {"two keys in front hide it", {"Button1.Caption1=''", "Button1.Caption2=''", "Button1.Caption='Ja'"}, "text"},
+        {"two keys in front hide it",
+         {"Button1.Caption1=''", "Button1.Caption2=''", "Button1.Caption='Ja'"},
+         "text"},
         {"the first of equal keys", {"Button1.Caption='Ja'", "Button1.Caption='Nein'"}, "Ja"},
         {"bare key", {"Button1.Caption", "Button1.Caption='Ja'"}, "Ja"},
-        {"cut between characters",
-         {"Button1.Caption='" + std::string(4096, 'x') + "\xC3\xA4'"},
-         nullptr},
+        {"cut between characters", {"Button1.Caption='" + std::string(4096, 'x') + "\xC3\xA4'"}, nullptr},
     };
     for (const auto& Case : Cases) {
         SCOPED_TRACE(Case.Name);
@@ -180,7 +187,7 @@ TEST(FormTranslator, RefusesToTranslate)
 TEST(FormTranslator, ReadsInTheOrderOfTheWalk)
 {
     TScene Scene({"B", "A"});
-    new TSample(&Scene.Form);  // without a name
+    new TSample(&Scene.Form); // without a name
     const TLines Lines = Scene.Read();
     const auto At = [&](const std::string& Line) {
         const auto Place = std::find(Lines.begin(), Lines.end(), Line);
@@ -224,9 +231,15 @@ TEST(FormTranslator, KeepsStateWhenAValueIsMalformed)
 
 TEST(FormTranslator, SkipsWhatHandlersVeto)
 {
-    const TLines Lines = {"Button1.Align=saRight", "Button1.Caption='x'", "Button1.Lines[1]='y'", "Button2.Caption='z'"};
-    const struct { const char* Skip; TLines Defaults; } Cases[] = {
-        {"", {"Button1.Align=saLeft", "Button1.Caption='text'", "Button1.Lines[1]='two'", "Button2.Caption='text'"}},
+    const TLines Lines = {"Button1.Align=saRight", "Button1.Caption='x'", "Button1.Lines[1]='y'",
+                          "Button2.Caption='z'"};
+    const struct {
+        const char* Skip;
+        TLines Defaults;
+    } Cases[] = {
+        {"",
+         {"Button1.Align=saLeft", "Button1.Caption='text'", "Button1.Lines[1]='two'",
+          "Button2.Caption='text'"}},
         {"Button1", {"Button2.Caption='text'"}},
         {"Align", {"Button1.Caption='text'", "Button1.Lines[1]='two'", "Button2.Caption='text'"}},
         {"Button1.Lines[1]", {"Button1.Align=saLeft", "Button1.Caption='text'", "Button2.Caption='text'"}},
@@ -247,22 +260,41 @@ TEST(FormTranslator, SkipsWhatHandlersVeto)
 // A handler or a property writer pulls the ground away from under the walk.
 TEST(FormTranslator, SurvivesWhatHandlersDestroy)
 {
-    const TLines Lines = {"Button1.Caption='a'", "Button1.Caption1='b'",        "Button1.Font.Name='c'",
-                          "Button1.Font.Size=9", "Button1.Items[0].Text='d'",   "Button1.Items[0].Width=4",
-                          "Button1.Lines[0]='e'", "Button1.Lines[1]='f'",       "Button2.Buddy.Caption='g'",
-                          "Button2.Buddy.Caption1='h'", "Button2.Caption='i'", "Caption='j'"};
+    const TLines Lines = {
+        "Button1.Caption='a'",        "Button1.Caption1='b'",      "Button1.Font.Name='c'",
+        "Button1.Font.Size=9",        "Button1.Items[0].Text='d'", "Button1.Items[0].Width=4",
+        "Button1.Lines[0]='e'",       "Button1.Lines[1]='f'",      "Button2.Buddy.Caption='g'",
+        "Button2.Buddy.Caption1='h'", "Button2.Caption='i'",       "Caption='j'"};
     const std::function<void(TScene&, TStrings&)> Deeds[] = {
         [](TScene&, TStrings& List) { List.Clear(); },
         [](TScene&, TStrings& List) { List.Insert(0, "Zebra"); },
-        [](TScene&, TStrings& List) { if (List.Count() > 0) List.Delete(0); },
+        [](TScene&, TStrings& List) {
+            if (List.Count() > 0)
+                List.Delete(0);
+        },
         [](TScene& Scene, TStrings&) { delete Scene.Form.FindComponent("Button1"); },
         [](TScene& Scene, TStrings&) { delete Scene.Form.FindComponent("Button2"); },
-        [](TScene& Scene, TStrings&) { Scene.Form.DestroyComponents(); Scene.Translator = nullptr; },
-        [](TScene& Scene, TStrings&) { delete Scene.Translator; Scene.Translator = nullptr; },
-        [](TScene& Scene, TStrings&) { if (Scene.Form.FindComponent("Button1")) Scene["Button1"].Items()->Clear(); },
-        [](TScene& Scene, TStrings&) { if (Scene.Form.FindComponent("Button1")) Scene["Button1"].Lines()->Clear(); },
+        [](TScene& Scene, TStrings&) {
+            Scene.Form.DestroyComponents();
+            Scene.Translator = nullptr;
+        },
+        [](TScene& Scene, TStrings&) {
+            delete Scene.Translator;
+            Scene.Translator = nullptr;
+        },
+        [](TScene& Scene, TStrings&) {
+            if (Scene.Form.FindComponent("Button1"))
+                Scene["Button1"].Items()->Clear();
+        },
+        [](TScene& Scene, TStrings&) {
+            if (Scene.Form.FindComponent("Button1"))
+                Scene["Button1"].Lines()->Clear();
+        },
         [](TScene& Scene, TStrings&) { Scene.Translator->InternalTranslate(false); },
-        [](TScene& Scene, TStrings&) { TSortList List; Scene.Translator->TranslateForm(&List, true); },
+        [](TScene& Scene, TStrings&) {
+            TSortList List;
+            Scene.Translator->TranslateForm(&List, true);
+        },
         [](TScene& Scene, TStrings&) { Scene.Defaults(); },
     };
     for (size_t Deed = 0; Deed < std::size(Deeds); ++Deed)
@@ -280,7 +312,7 @@ TEST(FormTranslator, SurvivesWhatHandlersDestroy)
             if (!Scene.Translator)
                 continue;
             Scene.OnStep = nullptr;
-            Scene.Translator->InternalTranslate(true);  // restoring needs it, too
+            Scene.Translator->InternalTranslate(true); // restoring needs it, too
             Scene.Translator->RestoreForm();
             EXPECT_NE(Scene.Form.Caption(), "j");
         }
@@ -307,8 +339,7 @@ TEST(FormTranslator, SwitchesSiblingsOff)
 
 // The walk along an ordered list must not be told from the one that searches
 // every key. The same lines in a list of another class take the latter road.
-class TRandomList
-{
+class TRandomList {
 public:
     explicit TRandomList(unsigned Seed) : FRandom(Seed) {}
 
@@ -319,12 +350,23 @@ public:
             const std::string& Line = Known[Pick(Known.size())];
             std::string Key = Line.substr(0, Line.find('='));
             switch (Pick(14)) {
-            case 0: Key += Odd(); break;
-            case 1: Key.insert(Pick(Key.size() + 1), Odd()); break;
-            case 2: Key.resize(Pick(Key.size() + 1)); break;
-            case 3: Key[0] = static_cast<char>(Key[0] ^ 32); break;
-            case 4: Result.push_back(Key); break;
-            default: break;
+            case 0:
+                Key += Odd();
+                break;
+            case 1:
+                Key.insert(Pick(Key.size() + 1), Odd());
+                break;
+            case 2:
+                Key.resize(Pick(Key.size() + 1));
+                break;
+            case 3:
+                Key[0] = static_cast<char>(Key[0] ^ 32);
+                break;
+            case 4:
+                Result.push_back(Key);
+                break;
+            default:
+                break;
             }
             Result.push_back(Pick(20) == 0 ? Key : Key + "=" + Value(Line.substr(Line.find('=') + 1)));
             if (Pick(8) == 0)
@@ -340,12 +382,14 @@ public:
 private:
     const char* Odd()
     {
-        constexpr const char* Odds[] = {"1", ".", "[0]", "[", "]", " ", "!", "=", "x", "[1].Text", ".Font.Name", "%"};
+        constexpr const char* Odds[] = {"1", ".", "[0]", "[",        "]",          " ",
+                                        "!", "=", "x",   "[1].Text", ".Font.Name", "%"};
         return Odds[Pick(std::size(Odds))];
     }
     std::string Value(const std::string& Present)
     {
-        return Present.starts_with("'") && Pick(6) > 0 ? ToLiterals("v" + std::to_string(Pick(1000))) : Present;
+        return Present.starts_with("'") && Pick(6) > 0 ? ToLiterals("v" + std::to_string(Pick(1000)))
+                                                       : Present;
     }
 
     std::mt19937 FRandom;
@@ -397,7 +441,8 @@ TEST(FormTranslator, OrderedWalkEqualsPlainWalk)
         EXPECT_EQ(Scenes[0].Log, Scenes[1].Log);
         ASSERT_EQ(Scenes[0].Defaults(), Scenes[1].Defaults());
         for (int I = 0; I < Scenes[0].Translator->Defaults().Count(); ++I)
-            EXPECT_EQ(Scenes[0].Translator->Defaults().Objects(I), Scenes[1].Translator->Defaults().Objects(I));
+            EXPECT_EQ(Scenes[0].Translator->Defaults().Objects(I),
+                      Scenes[1].Translator->Defaults().Objects(I));
         Applied += static_cast<int>(Scenes[0].Defaults().size());
         const TLines Shown = LinesOf(*Scenes[0].Form.Lines());
         ASSERT_EQ(Shown, LinesOf(*Scenes[1].Form.Lines()));
@@ -406,4 +451,4 @@ TEST(FormTranslator, OrderedWalkEqualsPlainWalk)
     EXPECT_GT(Applied, 5000) << "the lists must name properties, or nothing was compared";
 }
 
-}  // namespace
+} // namespace

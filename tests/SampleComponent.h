@@ -24,16 +24,14 @@ inline bool SampleColorToIdent(int Value, std::string& Ident)
     return Value == 255;
 }
 
-class TSampleFont : public TPersistent
-{
+class TSampleFont : public TPersistent {
     OBX_CLASS(TPersistent)
 public:
     OBX_PROPERTY(std::string, Name, "Sans")
     OBX_PROPERTY(int, Size, 8)
 };
 
-class TSampleItem : public TCollectionItem
-{
+class TSampleItem : public TCollectionItem {
     OBX_CLASS(TCollectionItem)
 public:
     using TCollectionItem::TCollectionItem;
@@ -45,8 +43,7 @@ private:
     mutable TSampleFont FFont;
 };
 
-class TSample : public TComponent
-{
+class TSample : public TComponent {
     OBX_CLASS(TComponent)
 public:
     explicit TSample(TComponent* Owner, const std::string& AName = {}) : TComponent(Owner) { SetName(AName); }
@@ -103,9 +100,9 @@ inline const TMetaClass& TSampleFont::MetaClass()
 
 inline const TMetaClass& TSampleItem::MetaClass()
 {
-    static const TMetaClass Class("TSampleItem", &TCollectionItem::MetaClass(), nullptr,
-                                  {OBX_ROW(TSampleItem, Text), Prop<&TSampleItem::Font>("Font"),
-                                   OBX_ROW(TSampleItem, Width)});
+    static const TMetaClass Class(
+        "TSampleItem", &TCollectionItem::MetaClass(), nullptr,
+        {OBX_ROW(TSampleItem, Text), Prop<&TSampleItem::Font>("Font"), OBX_ROW(TSampleItem, Width)});
     return Class;
 }
 
@@ -113,26 +110,25 @@ inline const TMetaClass& TSample::MetaClass()
 {
     static const TIntegerIdents Idents{SampleIdentToColor, SampleColorToIdent};
     static const TTypeInfo Color = TTypeInfo::Integer("TColor", INT32_MIN, INT32_MAX, &Idents);
-    static const TMetaClass Class(
-        "TSample", &TComponent::MetaClass(), nullptr,
-        {
-            Prop<&TSample::Font>("Font"),
-            Prop<&TSample::Caption, &TSample::SetCaption>("Caption"),
-            Prop<&TSample::Lines>("Lines"),
-            Prop<&TSample::Items>("Items"),
-            Prop<&TSample::OnCaption>("OnCaption"),
-            OBX_ROW(TSample, Caption1),
-            OBX_ROW(TSample, Short),
-            OBX_ROW(TSample, Wide),
-            OBX_ROW(TSample, Mark),
-            OBX_ROW(TSample, Factor),
-            Prop<&TSample::Buddy, &TSample::SetBuddy>("Buddy"),
-            OBX_ROW(TSample, Align),
-            OBX_ROW(TSample, Aligns),
-            OBX_ROW(TSample, Visible),
-            Prop<&TSample::Color, &TSample::SetColor>("Color").Type(Color),
-            OBX_ROW(TSample, Big),
-            OBX_ROW(TSample, Huge),
-        });
+    static const TMetaClass Class("TSample", &TComponent::MetaClass(), nullptr,
+                                  {
+                                      Prop<&TSample::Font>("Font"),
+                                      Prop<&TSample::Caption, &TSample::SetCaption>("Caption"),
+                                      Prop<&TSample::Lines>("Lines"),
+                                      Prop<&TSample::Items>("Items"),
+                                      Prop<&TSample::OnCaption>("OnCaption"),
+                                      OBX_ROW(TSample, Caption1),
+                                      OBX_ROW(TSample, Short),
+                                      OBX_ROW(TSample, Wide),
+                                      OBX_ROW(TSample, Mark),
+                                      OBX_ROW(TSample, Factor),
+                                      Prop<&TSample::Buddy, &TSample::SetBuddy>("Buddy"),
+                                      OBX_ROW(TSample, Align),
+                                      OBX_ROW(TSample, Aligns),
+                                      OBX_ROW(TSample, Visible),
+                                      Prop<&TSample::Color, &TSample::SetColor>("Color").Type(Color),
+                                      OBX_ROW(TSample, Big),
+                                      OBX_ROW(TSample, Huge),
+                                  });
     return Class;
 }

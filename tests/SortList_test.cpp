@@ -31,10 +31,21 @@ TEST(SortList, SearchesInBothModes)
 
     for (const char* const Text : {"apple", "Zebra", "key=", "key", "\xC3\xA4"})
         List.SortInsert(Text, IntegerObject(static_cast<int>(Text[0])));
-    const struct { const char* Text; bool Found; int Position; int Object; } Cases[] = {
-        {"Zebra", true, 0, 'Z'}, {"apple", true, 1, 'a'},  {"key", true, 2, 'k'}, {"key=", true, 3, 'k'},
-        {"A", false, 0, 'Z'},    {"b", false, 2, 'a'},     {"key0", false, 3, 'k'},
-        {"zz", false, 4, static_cast<char>(0xC3)},         {"\xFF", false, 5, static_cast<char>(0xC3)},
+    const struct {
+        const char* Text;
+        bool Found;
+        int Position;
+        int Object;
+    } Cases[] = {
+        {"Zebra", true, 0, 'Z'},
+        {"apple", true, 1, 'a'},
+        {"key", true, 2, 'k'},
+        {"key=", true, 3, 'k'},
+        {"A", false, 0, 'Z'},
+        {"b", false, 2, 'a'},
+        {"key0", false, 3, 'k'},
+        {"zz", false, 4, static_cast<char>(0xC3)},
+        {"\xFF", false, 5, static_cast<char>(0xC3)},
     };
     for (const auto& Case : Cases) {
         SCOPED_TRACE(Case.Text);
@@ -66,18 +77,37 @@ TEST(SortList, KnowsWhetherItIsInOrder)
         TSortList List;
         for (int Step = 0; Step < 30; ++Step) {
             const std::string Text(1, static_cast<char>('a' + Random() % 26));
-            const int At = List.Count() == 0 ? 0 : static_cast<int>(Random() % static_cast<unsigned>(List.Count()));
+            const int At =
+                List.Count() == 0 ? 0 : static_cast<int>(Random() % static_cast<unsigned>(List.Count()));
             const uint64_t Version = List.Version();
             switch (List.Count() == 0 ? 0 : Random() % 9) {
-            case 0: List.Add(Text); break;
-            case 1: List.Put(At, Text); break;
-            case 2: List.Insert(At, Text); break;
-            case 3: List.Delete(At); break;
-            case 4: List.Exchange(At, 0); break;
-            case 5: List.Sort(); break;
-            case 6: List.PutObject(At, nullptr); break;
-            case 7: List.SetText("a\nb\n" + Text); break;
-            default: List.SortInsert(Text, nullptr); break;
+            case 0:
+                List.Add(Text);
+                break;
+            case 1:
+                List.Put(At, Text);
+                break;
+            case 2:
+                List.Insert(At, Text);
+                break;
+            case 3:
+                List.Delete(At);
+                break;
+            case 4:
+                List.Exchange(At, 0);
+                break;
+            case 5:
+                List.Sort();
+                break;
+            case 6:
+                List.PutObject(At, nullptr);
+                break;
+            case 7:
+                List.SetText("a\nb\n" + Text);
+                break;
+            default:
+                List.SortInsert(Text, nullptr);
+                break;
             }
             std::vector<std::string> Lines = Texts(List);
             EXPECT_EQ(List.IsInOrder(), std::is_sorted(Lines.begin(), Lines.end()));
@@ -112,7 +142,8 @@ TEST(SortList, InsertsABatchAsOneByOne)
         std::vector<TLine> Lines(Random() % (Seed % 50 == 0 ? 3000 : 20));
         std::generate(Lines.begin(), Lines.end(), [&] { return Line(Letters); });
         if (Seed % 4 == 0)
-            std::sort(Lines.begin(), Lines.end(), [](const TLine& A, const TLine& B) { return A.Text < B.Text; });
+            std::sort(Lines.begin(), Lines.end(),
+                      [](const TLine& A, const TLine& B) { return A.Text < B.Text; });
         for (const TLine& New : Lines)
             One.SortInsert(New.Text, New.Object);
         Batch.SortInsertAll(Lines);
@@ -156,4 +187,4 @@ TEST(KeyLines, MergesAsOneByOne)
     }
 }
 
-}  // namespace
+} // namespace

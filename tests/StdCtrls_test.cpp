@@ -11,8 +11,7 @@ namespace {
 
 // Every test runs with windows and without: what a control holds must not
 // depend on that.
-struct TStdCtrls : testing::TestWithParam<bool>
-{
+struct TStdCtrls : testing::TestWithParam<bool> {
     TApplicationScope Scope;
     TForm* Form = new TForm(Application);
     TEventLog Log;
@@ -69,7 +68,7 @@ std::string PublicName(const testing::TestParamInfo<bool>& Info)
     return Info.param ? "WithWindows" : "WithoutWindows";
 }
 
-}  // namespace
+} // namespace
 
 INSTANTIATE_TEST_SUITE_P(Both, TStdCtrls, testing::Bool(), PublicName);
 
@@ -82,8 +81,11 @@ TEST_P(TStdCtrls, MemoLinesAreWhatLineBreaksSeparate)
     const std::string Long(60, 'x');
     Memo->Lines()->SetText("one\r\n" + Long + "\nthree\n");
     EXPECT_EQ(LinesOf(*Memo->Lines()), (TTexts{"one", Long, "three"}));
-    Memo->Lines()->Put(0, "\xC3\xBC" "ber");
-    EXPECT_EQ(Shown(*Memo), "\xC3\xBC" "ber\r\n" + Long + "\r\nthree");
+    Memo->Lines()->Put(0, "\xC3\xBC"
+                          "ber");
+    EXPECT_EQ(Shown(*Memo), "\xC3\xBC"
+                            "ber\r\n" +
+                                Long + "\r\nthree");
     Memo->SetText("a\r\n\r\nb\r\n");
     EXPECT_EQ(LinesOf(*Memo->Lines()), (TTexts{"a", "", "b", ""}));
     Memo->Lines()->Delete(1);

@@ -11,8 +11,7 @@
 
 namespace {
 
-class TranslationsFile : public testing::Test
-{
+class TranslationsFile : public testing::Test {
 protected:
     void SetUp() override
     {
@@ -26,7 +25,10 @@ protected:
 
     void Write(std::string_view Text) { ReplaceWholeFile(Name, Text); }
     std::string Content() { return ReadWholeFile(Name); }
-    static std::string Text(const TStrings& List) { return StringReplace(List.Text(), "\r\n", "|", TReplaceExtent::All); }
+    static std::string Text(const TStrings& List)
+    {
+        return StringReplace(List.Text(), "\r\n", "|", TReplaceExtent::All);
+    }
 
     // The message of the conversion error that Work raises.
     template<class TWork>
@@ -48,12 +50,18 @@ protected:
 TEST_F(TranslationsFile, SplitsLines)
 {
     const std::string Long(5000, 'x');
-    const struct { const char* Name; std::string Content; std::string List; } Cases[] = {
+    const struct {
+        const char* Name;
+        std::string Content;
+        std::string List;
+    } Cases[] = {
         {"one entry", "Form1.Button1.Caption%1053='OK'\r\n", "Button1.Caption='OK'|"},
         {"other sections and locales", "Form.A%1053=1\nForm1.B%1033=2\nForm10.C%1053=3\nForm1.D%-1=4\n", ""},
-        {"every line end", "Form1.A%1053=1\rForm1.B%1053=2\nForm1.C%1053=3\r\n\r\nForm1.D%1053=4", "A=1|B=2|C=3|D=4|"},
+        {"every line end", "Form1.A%1053=1\rForm1.B%1053=2\nForm1.C%1053=3\r\n\r\nForm1.D%1053=4",
+         "A=1|B=2|C=3|D=4|"},
         {"value with marks", "Form1.A%1053=x=.%1033\n", "A=x=.%1033|"},
-        {"order of the list, not of the file", "Form1.A%1053=1\nForm1.A.B%1053=2\nForm1.A0%1053=3\n", "A.B=2|A0=3|A=1|"},
+        {"order of the list, not of the file", "Form1.A%1053=1\nForm1.A.B%1053=2\nForm1.A0%1053=3\n",
+         "A.B=2|A0=3|A=1|"},
         {"the last of a key", "Form1.A%1053=2\nForm1.A%1053=1\n", "A=1|"},
         {"long value", "Form1.A%1053=" + Long + "\n", "A=" + Long.substr(0, 4095) + "|"},
         {"long value, not within a character", "Form1.A%1053=" + Long.substr(0, 4094) + "\xC3\xA4\n",
@@ -84,7 +92,10 @@ TEST_F(TranslationsFile, MergesIntoTheList)
 // Everything is read before anything is changed.
 TEST_F(TranslationsFile, ReportsMalformedLocales)
 {
-    const struct { const char* Line; const char* Reason; } Cases[] = {
+    const struct {
+        const char* Line;
+        const char* Reason;
+    } Cases[] = {
         {"Form1.A%1O53=x", "lang.txt:2: locale '1O53' is not a number"},
         {"Form1.A=x%1053", "lang.txt:2: locale '' is not a number"},
         {"Form1.A", "lang.txt:2: locale '' is not a number"},
@@ -109,7 +120,11 @@ TEST_F(TranslationsFile, SaveReplacesOnlyItsOwnLines)
     TSortList List, Defaults;
     List.SetText("A=1\nB=2\nno key\n");
     Defaults.SetText("A=a\n");
-    const struct { const char* Name; const char* Before; const char* After; } Cases[] = {
+    const struct {
+        const char* Name;
+        const char* Before;
+        const char* After;
+    } Cases[] = {
         {"new file", "", "Form1.A%-1=a|Form1.A%1053=1|Form1.B%1053=2|"},
         {"others stay", "#0Form1.A%1053=x|Form1.A%-1=old|Form1.A%1033=en|Form1.C%1053=old|Form2.A%1053=y|",
          "#0Form1.A%1053=x|Form1.A%-1=a|Form1.A%1033=en|Form1.A%1053=1|Form1.B%1053=2|Form2.A%1053=y|"},
@@ -165,4 +180,4 @@ TEST_F(TranslationsFile, SavesAtOnceLoseNothing)
     EXPECT_TRUE(Lines.IsInOrder());
 }
 
-}  // namespace
+} // namespace

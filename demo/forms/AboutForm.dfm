@@ -93,8 +93,12 @@ object AboutForm: TAboutForm
       'LblLink.Hint='#39'Visa adressen i titeln'#39
       'LblTitle.Caption='#39'Bokningsdisk'#39
       'LblVersion.Caption='#39'Version 1.0'#39
-      'MemAbout.Lines[0]='#39'Disken d'#228'r Skerry Line s'#228'ljer sina '#246'verfarter.'#39
-      'MemAbout.Lines[2]='#39'Den talar fem spr'#229'k och byter dem p'#229' en g'#229'ng.'#39
+      
+        'MemAbout.Lines[0]='#39'Disken d'#228'r Skerry Line s'#228'ljer sina '#246'verfarter' +
+        '.'#39
+      
+        'MemAbout.Lines[2]='#39'Den talar fem spr'#229'k och byter dem p'#229' en g'#229'ng.' +
+        #39
       'MemAbout.Lines[3]='#39'Fr'#229'ga terminalkontoret om du beh'#246'ver hj'#228'lp.'#39
       'SystemMenuClose='#39'&St'#228'ng'#39'#9'#39'Alt+F4'#39
       'SystemMenuMove='#39'&Flytta'#39)
@@ -114,8 +118,12 @@ object AboutForm: TAboutForm
       'LblLink.Hint='#39'Die Adresse im Titel anzeigen'#39
       'LblTitle.Caption='#39'Buchungsschalter'#39
       'LblVersion.Caption='#39'Version 1.0'#39
-      'MemAbout.Lines[0]='#39'Der Schalter, an dem Skerry Line '#220'berfahrten verkauft.'#39
-      'MemAbout.Lines[2]='#39'Er spricht f'#252'nf Sprachen und wechselt sie sofort.'#39
+      
+        'MemAbout.Lines[0]='#39'Der Schalter, an dem Skerry Line '#220'berfahrten ' +
+        'verkauft.'#39
+      
+        'MemAbout.Lines[2]='#39'Er spricht f'#252'nf Sprachen und wechselt sie sof' +
+        'ort.'#39
       'MemAbout.Lines[3]='#39'Hilfe erhalten Sie im Terminalb'#252'ro.'#39
       'SystemMenuClose='#39'S&chlie'#223'en'#39'#9'#39'Alt+F4'#39
       'SystemMenuMove='#39'&Verschieben'#39)
@@ -157,7 +165,9 @@ object AboutForm: TAboutForm
       'LblLink.Hint='#39#1573#1592#1607#1575#1585' '#1575#1604#1593#1606#1608#1575#1606' '#1601#1610' '#1588#1585#1610#1591' '#1575#1604#1593#1606#1608#1575#1606#39
       'LblTitle.Caption='#39#1605#1603#1578#1576' '#1575#1604#1581#1580#1586#39
       'LblVersion.Caption='#39#1575#1604#1573#1589#1583#1575#1585' 1.0'#39
-      'MemAbout.Lines[0]='#39#1575#1604#1605#1603#1578#1576' '#1575#1604#1584#1610' '#1578#1576#1610#1593' '#1601#1610#1607' '#1588#1585#1603#1577' Skerry Line '#1585#1581#1604#1575#1578#1607#1575'.'#39
+      
+        'MemAbout.Lines[0]='#39#1575#1604#1605#1603#1578#1576' '#1575#1604#1584#1610' '#1578#1576#1610#1593' '#1601#1610#1607' '#1588#1585#1603#1577' Skerry Line '#1585#1581#1604#1575#1578#1607#1575 +
+        '.'#39
       'MemAbout.Lines[2]='#39#1610#1578#1581#1583#1579' '#1582#1605#1587' '#1604#1594#1575#1578' '#1608#1610#1576#1583#1617#1604' '#1576#1610#1606#1607#1575' '#1601#1608#1585#1611#1575'.'#39
       'MemAbout.Lines[3]='#39#1575#1591#1604#1576' '#1575#1604#1605#1587#1575#1593#1583#1577' '#1605#1606' '#1605#1603#1578#1576' '#1575#1604#1605#1581#1591#1577'.'#39
       'SystemMenuClose='#39#1573#1594'&'#1604#1575#1602#39'#9'#39'Alt+F4'#39

@@ -3,8 +3,7 @@
 
 #include <string>
 
-class TIToolServices
-{
+class TIToolServices {
 public:
     virtual ~TIToolServices() = default;
 

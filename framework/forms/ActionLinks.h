@@ -8,8 +8,7 @@ class TWinControl;
 
 // A value is carried on while the client still has the action's own value
 // (Is...Linked): a caption that was changed by hand stays.
-class TActionLink : public TBasicActionLink
-{
+class TActionLink : public TBasicActionLink {
     OBX_CLASS(TBasicActionLink)
 public:
     using TBasicActionLink::TBasicActionLink;
@@ -44,8 +43,7 @@ public:
     void SetOnExecute(const TNotifyEvent&) override {}
 };
 
-class TControlActionLink : public TActionLink
-{
+class TControlActionLink : public TActionLink {
     OBX_CLASS(TActionLink)
 public:
     explicit TControlActionLink(TControl* Client);
@@ -72,11 +70,9 @@ protected:
     TControl* FClient = nullptr;
 };
 
-class TWinControlActionLink : public TControlActionLink
-{
+class TWinControlActionLink : public TControlActionLink {
     OBX_CLASS(TControlActionLink)
 public:
     explicit TWinControlActionLink(TWinControl* Client);
     bool IsHelpContextLinked() const override;
 };
-

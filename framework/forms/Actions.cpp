@@ -15,7 +15,8 @@ const TMetaClass& TCustomActionList::MetaClass()
 
 const TMetaClass& TActionList::MetaClass()
 {
-    static const TMetaClass Class("TActionList", &TCustomActionList::MetaClass(), CreateComponent<TActionList>,
+    static const TMetaClass Class("TActionList", &TCustomActionList::MetaClass(),
+                                  CreateComponent<TActionList>,
                                   {
                                       OBX_ROW(TActionList, Images),
                                       OBX_ROW(TActionList, State).Default(asNormal),
@@ -230,27 +231,26 @@ const TMetaClass& TCustomAction::MetaClass()
 
 const TMetaClass& TAction::MetaClass()
 {
-    static const TMetaClass Class(
-        "TAction", &TCustomAction::MetaClass(), CreateComponent<TAction>,
-        {
-            OBX_ROW(TAction, AutoCheck).Default(false),
-            OBX_ROW(TAction, Caption),
-            OBX_ROW(TAction, Checked).Default(false),
-            OBX_ROW(TAction, DisableIfNoHandler).Default(true),
-            OBX_ROW(TAction, Enabled).Default(true),
-            OBX_ROW(TAction, GroupIndex).Default(0),
-            OBX_ROW(TAction, HelpContext).Default(0),
-            OBX_ROW(TAction, HelpKeyword),
-            OBX_ROW(TAction, HelpType).Default(htKeyword),
-            OBX_ROW(TAction, Hint),
-            OBX_ROW(TAction, ImageIndex).Default(-1),
-            OBX_ROW(TAction, ShortCut).Default(scNone),
-            OBX_ROW(TAction, SecondaryShortCuts),
-            OBX_ROW(TAction, Visible).Default(true),
-            Prop<&TAction::OnExecute, &TAction::SetOnExecute>("OnExecute"),
-            Prop<&TAction::OnHint>("OnHint"),
-            Prop<&TAction::OnUpdate>("OnUpdate"),
-        });
+    static const TMetaClass Class("TAction", &TCustomAction::MetaClass(), CreateComponent<TAction>,
+                                  {
+                                      OBX_ROW(TAction, AutoCheck).Default(false),
+                                      OBX_ROW(TAction, Caption),
+                                      OBX_ROW(TAction, Checked).Default(false),
+                                      OBX_ROW(TAction, DisableIfNoHandler).Default(true),
+                                      OBX_ROW(TAction, Enabled).Default(true),
+                                      OBX_ROW(TAction, GroupIndex).Default(0),
+                                      OBX_ROW(TAction, HelpContext).Default(0),
+                                      OBX_ROW(TAction, HelpKeyword),
+                                      OBX_ROW(TAction, HelpType).Default(htKeyword),
+                                      OBX_ROW(TAction, Hint),
+                                      OBX_ROW(TAction, ImageIndex).Default(-1),
+                                      OBX_ROW(TAction, ShortCut).Default(scNone),
+                                      OBX_ROW(TAction, SecondaryShortCuts),
+                                      OBX_ROW(TAction, Visible).Default(true),
+                                      Prop<&TAction::OnExecute, &TAction::SetOnExecute>("OnExecute"),
+                                      Prop<&TAction::OnHint>("OnHint"),
+                                      Prop<&TAction::OnUpdate>("OnUpdate"),
+                                  });
     return Class;
 }
 
@@ -339,9 +339,9 @@ void TCustomAction::UncheckGroup()
     }
 }
 
-void RegisterActions()
+void RegisterActionClasses()
 {
     RegisterClass(TActionList::MetaClass());
     RegisterClass(TAction::MetaClass());
-    RegisterStandardActions();
+    RegisterStandardActionClasses();
 }

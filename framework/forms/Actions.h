@@ -18,8 +18,7 @@ OBX_EVENT(THintEvent, std::string&, bool&)
 
 // Holds actions, in the order of the form file; they are its children there and
 // are owned by the form.
-class TCustomActionList : public TComponent
-{
+class TCustomActionList : public TComponent {
     OBX_CLASS(TComponent)
 public:
     explicit TCustomActionList(TComponent* Owner) : TComponent(Owner) {}
@@ -59,15 +58,13 @@ private:
     TActionListState FState = asNormal;
 };
 
-class TActionList : public TCustomActionList
-{
+class TActionList : public TCustomActionList {
     OBX_CLASS(TCustomActionList)
 public:
     explicit TActionList(TComponent* Owner) : TCustomActionList(Owner) {}
 };
 
-class TContainedAction : public TBasicAction
-{
+class TContainedAction : public TBasicAction {
     OBX_CLASS(TBasicAction)
 public:
     explicit TContainedAction(TComponent* Owner) : TBasicAction(Owner) {}
@@ -94,8 +91,7 @@ private:
 };
 
 // Further shortcuts of an action, one text a line.
-class TShortCutList : public TStringList
-{
+class TShortCutList : public TStringList {
     OBX_CLASS(TStringList)
 public:
     TShortCut ShortCuts(int Index) const;
@@ -104,8 +100,7 @@ public:
 
 // An action with a caption and a state. A change reaches every linked control
 // and menu item that still shows what the action had before.
-class TCustomAction : public TContainedAction
-{
+class TCustomAction : public TContainedAction {
     OBX_CLASS(TContainedAction)
 public:
     explicit TCustomAction(TComponent* Owner) : TContainedAction(Owner) {}
@@ -123,7 +118,10 @@ public:
     bool AutoCheck() const { return FValues.AutoCheck; }
     void SetAutoCheck(bool Value) { SetValue(&TActionValues::AutoCheck, Value, &TActionLink::SetAutoCheck); }
     const std::string& Caption() const { return FValues.Caption; }
-    void SetCaption(const std::string& Value) { SetValue(&TActionValues::Caption, Value, &TActionLink::SetCaption); }
+    void SetCaption(const std::string& Value)
+    {
+        SetValue(&TActionValues::Caption, Value, &TActionLink::SetCaption);
+    }
     bool Checked() const { return FValues.Checked; }
     // Actions of the same group above 0 are unchecked by one that gets checked.
     void SetChecked(bool Value);
@@ -142,13 +140,22 @@ public:
         SetValue(&TActionValues::HelpKeyword, Value, &TActionLink::SetHelpKeyword);
     }
     THelpType HelpType() const { return FValues.HelpType; }
-    void SetHelpType(THelpType Value) { SetValue(&TActionValues::HelpType, Value, &TActionLink::SetHelpType); }
+    void SetHelpType(THelpType Value)
+    {
+        SetValue(&TActionValues::HelpType, Value, &TActionLink::SetHelpType);
+    }
     const std::string& Hint() const { return FValues.Hint; }
     void SetHint(const std::string& Value) { SetValue(&TActionValues::Hint, Value, &TActionLink::SetHint); }
     int ImageIndex() const { return FValues.ImageIndex; }
-    void SetImageIndex(int Value) { SetValue(&TActionValues::ImageIndex, Value, &TActionLink::SetImageIndex); }
+    void SetImageIndex(int Value)
+    {
+        SetValue(&TActionValues::ImageIndex, Value, &TActionLink::SetImageIndex);
+    }
     TShortCut ShortCut() const { return FValues.ShortCut; }
-    void SetShortCut(TShortCut Value) { SetValue(&TActionValues::ShortCut, Value, &TActionLink::SetShortCut); }
+    void SetShortCut(TShortCut Value)
+    {
+        SetValue(&TActionValues::ShortCut, Value, &TActionLink::SetShortCut);
+    }
     bool Visible() const { return FValues.Visible; }
     void SetVisible(bool Value) { SetValue(&TActionValues::Visible, Value, &TActionLink::SetVisible); }
     TShortCutList* SecondaryShortCuts() const { return const_cast<TShortCutList*>(&FSecondaryShortCuts); }
@@ -170,8 +177,7 @@ private:
     TShortCutList FSecondaryShortCuts;
 };
 
-class TAction : public TCustomAction
-{
+class TAction : public TCustomAction {
     OBX_CLASS(TCustomAction)
 public:
     explicit TAction(TComponent* Owner);
@@ -191,4 +197,4 @@ void TCustomAction::SetValue(T TActionValues::*Member, const T& Value, void (TAc
 }
 
 // Registers actions, action lists and the standard actions.
-void RegisterActions();
+void RegisterActionClasses();

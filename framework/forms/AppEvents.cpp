@@ -26,11 +26,10 @@ void ForEachEvent(TVisit Visit)
     Visit(&C::OnShowHint, &A::OnShowHint);
 }
 
-}  // namespace
+} // namespace
 
 // What the application's events were, in the order of ForEachEvent.
-struct TCustomApplicationEvents::TSaved
-{
+struct TCustomApplicationEvents::TSaved {
     std::vector<TMethod> Before;
 };
 
@@ -43,17 +42,26 @@ const TMetaClass& TCustomApplicationEvents::MetaClass()
 const TMetaClass& TApplicationEvents::MetaClass()
 {
     using T = TApplicationEvents;
-    static const TMetaClass Class(
-        "TApplicationEvents", &TCustomApplicationEvents::MetaClass(), CreateComponent<T>,
-        {
-            Prop<&T::OnActionExecute>("OnActionExecute"), Prop<&T::OnActionUpdate>("OnActionUpdate"),
-            Prop<&T::OnActivate>("OnActivate"), Prop<&T::OnDeactivate>("OnDeactivate"),
-            Prop<&T::OnException>("OnException"), Prop<&T::OnHelp>("OnHelp"), Prop<&T::OnHint>("OnHint"),
-            Prop<&T::OnIdle>("OnIdle"), Prop<&T::OnMessage>("OnMessage"), Prop<&T::OnMinimize>("OnMinimize"),
-            Prop<&T::OnModalBegin>("OnModalBegin"), Prop<&T::OnModalEnd>("OnModalEnd"),
-            Prop<&T::OnRestore>("OnRestore"), Prop<&T::OnSettingChange>("OnSettingChange"),
-            Prop<&T::OnShortCut>("OnShortCut"), Prop<&T::OnShowHint>("OnShowHint"),
-        });
+    static const TMetaClass Class("TApplicationEvents", &TCustomApplicationEvents::MetaClass(),
+                                  CreateComponent<T>,
+                                  {
+                                      Prop<&T::OnActionExecute>("OnActionExecute"),
+                                      Prop<&T::OnActionUpdate>("OnActionUpdate"),
+                                      Prop<&T::OnActivate>("OnActivate"),
+                                      Prop<&T::OnDeactivate>("OnDeactivate"),
+                                      Prop<&T::OnException>("OnException"),
+                                      Prop<&T::OnHelp>("OnHelp"),
+                                      Prop<&T::OnHint>("OnHint"),
+                                      Prop<&T::OnIdle>("OnIdle"),
+                                      Prop<&T::OnMessage>("OnMessage"),
+                                      Prop<&T::OnMinimize>("OnMinimize"),
+                                      Prop<&T::OnModalBegin>("OnModalBegin"),
+                                      Prop<&T::OnModalEnd>("OnModalEnd"),
+                                      Prop<&T::OnRestore>("OnRestore"),
+                                      Prop<&T::OnSettingChange>("OnSettingChange"),
+                                      Prop<&T::OnShortCut>("OnShortCut"),
+                                      Prop<&T::OnShowHint>("OnShowHint"),
+                                  });
     return Class;
 }
 

@@ -6,8 +6,7 @@
 // While the component lives it is the handler of the application's events that it
 // has handlers for; what the application called before is put back afterwards.
 // Several of them on different forms: the last one that was made is called.
-class TCustomApplicationEvents : public TComponent
-{
+class TCustomApplicationEvents : public TComponent {
     OBX_CLASS(TComponent)
 public:
     explicit TCustomApplicationEvents(TComponent* Owner);
@@ -37,8 +36,7 @@ private:
     std::unique_ptr<TSaved> FSaved;
 };
 
-class TApplicationEvents : public TCustomApplicationEvents
-{
+class TApplicationEvents : public TCustomApplicationEvents {
     OBX_CLASS(TCustomApplicationEvents)
 public:
     using TCustomApplicationEvents::TCustomApplicationEvents;

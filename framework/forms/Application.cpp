@@ -24,7 +24,7 @@ void LoadFormResource(TComponent& Root, const std::string& ClassName)
     TComponentReader(Document, TUnknownClasses::Refuse).ReadRoot(Root);
 }
 
-}  // namespace
+} // namespace
 
 void RegisterFormClasses()
 {
@@ -59,7 +59,8 @@ const TMetaClass& TApplication::MetaClass()
     return Class;
 }
 
-TApplication::TApplication(TComponent* Owner) : TComponent(Owner), FTitle(ChangeFileExt(ExtractFileName(ExeName()), ""))
+TApplication::TApplication(TComponent* Owner)
+    : TComponent(Owner), FTitle(ChangeFileExt(ExtractFileName(ExeName()), ""))
 {
     CreateHandle();
 }
@@ -88,8 +89,8 @@ void TApplication::CreateHandle()
     RegisterClassA(&Class);
     FHandle = CreateWindowExA(0, WindowClassName, FTitle.c_str(),
                               WS_POPUP | WS_CAPTION | WS_CLIPSIBLINGS | WS_SYSMENU | WS_MINIMIZEBOX,
-                              Screen->Width() / 2, Screen->Height() / 2, 0, 0, nullptr, nullptr, ModuleInstance(),
-                              nullptr);
+                              Screen->Width() / 2, Screen->Height() / 2, 0, 0, nullptr, nullptr,
+                              ModuleInstance(), nullptr);
 }
 
 std::string TApplication::ExeName() const
@@ -121,6 +122,9 @@ void TApplication::FormCreated(TComponent* Component)
         if (!FMainForm)
             FMainForm = Form;
         Form->AfterConstruction();
+        // The window of an MDI frame is there before its children ask for it.
+        if (Form == FMainForm)
+            Form->HandleNeeded();
     } else if (auto* const Other = dynamic_cast<TCustomForm*>(Component)) {
         Other->AfterConstruction();
     } else if (auto* const Module = dynamic_cast<TDataModule*>(Component)) {

@@ -25,8 +25,7 @@ OBX_EVENT(TShowHintEvent, std::string&, bool&, TControl*)
 //         Application->CreateForm(MainForm);
 //         Application->Run();
 //     }
-class TApplication : public TComponent
-{
+class TApplication : public TComponent {
     OBX_CLASS(TComponent)
 public:
     explicit TApplication(TComponent* Owner);
@@ -89,9 +88,9 @@ public:
     void SetHelpFile(const std::string& Value) { FHelpFile = Value; }
     bool ShowHint() const { return FShowHint; }
     void SetShowHint(bool Value) { FShowHint = Value; }
-    int HintPause = 500;        // milliseconds
-    int HintHidePause = 2500;   // milliseconds
-    int HintShortPause = 0;     // milliseconds
+    int HintPause = 500;      // milliseconds
+    int HintHidePause = 2500; // milliseconds
+    int HintShortPause = 0;   // milliseconds
     TColor HintColor = clInfoBk;
     bool ShowMainForm = true;
     bool UpdateFormatSettings = true;
@@ -169,8 +168,7 @@ extern TApplication* Application;
 void StartApplication();
 void FinishApplication();
 
-class TApplicationScope
-{
+class TApplicationScope {
 public:
     TApplicationScope() { StartApplication(); }
     ~TApplicationScope() { FinishApplication(); }

@@ -15,7 +15,7 @@ std::string LongHint(const std::string& Hint)
     return Bar == std::string::npos ? Hint : Hint.substr(Bar + 1);
 }
 
-}  // namespace
+} // namespace
 
 LRESULT CALLBACK TApplication::WindowProc(HWND Window, UINT Msg, WPARAM WParam, LPARAM LParam)
 {
@@ -127,8 +127,9 @@ void TApplication::DoIdle()
 
 bool TApplication::IsMDIMsg(MSG& Msg)
 {
-    return FMainForm && FMainForm->FormStyle() == fsMDIForm && FMainForm->ClientHandle() && Screen->ActiveForm() &&
-           Screen->ActiveForm()->FormStyle() == fsMDIChild && TranslateMDISysAccel(FMainForm->ClientHandle(), &Msg);
+    return FMainForm && FMainForm->FormStyle() == fsMDIForm && FMainForm->ClientHandle() &&
+           Screen->ActiveForm() && Screen->ActiveForm()->FormStyle() == fsMDIChild &&
+           TranslateMDISysAccel(FMainForm->ClientHandle(), &Msg);
 }
 
 // Keys are offered to the nearest control's form before the window has them.

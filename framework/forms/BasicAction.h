@@ -11,8 +11,7 @@
 class TBasicAction;
 
 // Carries the changes of an action to one client. Owned by the client.
-class TBasicActionLink : public TObject
-{
+class TBasicActionLink : public TObject {
     OBX_CLASS(TObject)
 public:
     explicit TBasicActionLink(TObject* Client);
@@ -42,8 +41,7 @@ private:
 };
 
 // What an action shows through its clients.
-struct TActionValues
-{
+struct TActionValues {
     std::string Caption;
     std::string Hint;
     std::string HelpKeyword;
@@ -58,8 +56,7 @@ struct TActionValues
     TShortCut ShortCut = scNone;
 };
 
-class TBasicAction : public TComponent
-{
+class TBasicAction : public TComponent {
     OBX_CLASS(TComponent)
 public:
     explicit TBasicAction(TComponent* Owner);

@@ -6,8 +6,7 @@
 #include <vector>
 
 // Selects the bitmap into a context of its own while somebody draws into it.
-class TBitmap::TBitmapCanvas : public TCanvas
-{
+class TBitmap::TBitmapCanvas : public TCanvas {
 public:
     explicit TBitmapCanvas(TBitmap& Bitmap)
     {

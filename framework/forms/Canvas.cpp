@@ -2,20 +2,29 @@
 
 #include "framework/forms/Pictures.h"
 #include "framework/rtl/SysUtils.h"
+#include "framework/rtl/Utf8.h"
 
 namespace {
 
-constexpr int RasterOperations[] = {R2_BLACK,       R2_WHITE,    R2_NOP,         R2_NOT,
+constexpr int RasterOperations[] = {R2_BLACK,       R2_WHITE,      R2_NOP,         R2_NOT,
                                     R2_COPYPEN,     R2_NOTCOPYPEN, R2_MERGEPENNOT, R2_MASKPENNOT,
                                     R2_MERGENOTPEN, R2_MASKNOTPEN, R2_MERGEPEN,    R2_NOTMERGEPEN,
                                     R2_MASKPEN,     R2_NOTMASKPEN, R2_XORPEN,      R2_NOTXORPEN};
 
-int Length(const std::string& Text)
+// A text for the drawing functions of the W kind: those of the A kind read it in
+// the code page of the font, whatever the program's is.
+class TWideText
 {
-    return static_cast<int>(Text.size());
-}
+public:
+    explicit TWideText(const std::string& Text) : FText(Utf8ToUtf16(Text)) {}
+    LPCWSTR Data() const { return reinterpret_cast<LPCWSTR>(FText.c_str()); }
+    int Length() const { return static_cast<int>(FText.size()); }
 
-}  // namespace
+private:
+    std::u16string FText;
+};
+
+} // namespace
 
 const TMetaClass& TCanvas::MetaClass()
 {
@@ -157,7 +166,8 @@ void TCanvas::Changing()
 void TCanvas::TextOut(int X, int Y, const std::string& Text)
 {
     Changing();
-    TextOutA(FHandle, X, Y, Text.data(), Length(Text));
+    const TWideText Wide(Text);
+    TextOutW(FHandle, X, Y, Wide.Data(), Wide.Length());
     MoveToEx(FHandle, X + TextWidth(Text), Y, nullptr);
     Changed();
 }
@@ -168,7 +178,8 @@ void TCanvas::TextRect(const TRect& Rect, int X, int Y, const std::string& Text)
     UINT Options = ETO_CLIPPED;
     if (FBrush.Style() != bsClear)
         Options |= ETO_OPAQUE;
-    ExtTextOutA(FHandle, X, Y, Options, &Rect, Text.data(), static_cast<UINT>(Text.size()), nullptr);
+    const TWideText Wide(Text);
+    ExtTextOutW(FHandle, X, Y, Options, &Rect, Wide.Data(), static_cast<UINT>(Wide.Length()), nullptr);
     Changed();
 }
 
@@ -176,7 +187,8 @@ TSize TCanvas::TextExtent(const std::string& Text)
 {
     NeedTools();
     TSize Result{};
-    GetTextExtentPoint32A(FHandle, Text.data(), Length(Text), &Result);
+    const TWideText Wide(Text);
+    GetTextExtentPoint32W(FHandle, Wide.Data(), Wide.Length(), &Result);
     return Result;
 }
 
@@ -186,7 +198,8 @@ int TCanvas::DrawText(const std::string& Text, TRect& Rect, UINT Flags)
         NeedTools();
     else
         Changing();
-    const int Result = DrawTextA(FHandle, Text.data(), Length(Text), &Rect, Flags);
+    const TWideText Wide(Text);
+    const int Result = DrawTextW(FHandle, Wide.Data(), Wide.Length(), &Rect, Flags);
     if (!(Flags & DT_CALCRECT))
         Changed();
     return Result;
@@ -291,9 +304,9 @@ void TCanvas::StretchDraw(const TRect& Rect, TGraphic* Graphic)
 void TCanvas::CopyRect(const TRect& Dest, TCanvas& Source, const TRect& From)
 {
     Changing();
-    StretchBlt(FHandle, static_cast<int>(Dest.left), static_cast<int>(Dest.top), RectWidth(Dest), RectHeight(Dest),
-               Source.Handle(), static_cast<int>(From.left), static_cast<int>(From.top), RectWidth(From),
-               RectHeight(From), SRCCOPY);
+    StretchBlt(FHandle, static_cast<int>(Dest.left), static_cast<int>(Dest.top), RectWidth(Dest),
+               RectHeight(Dest), Source.Handle(), static_cast<int>(From.left), static_cast<int>(From.top),
+               RectWidth(From), RectHeight(From), SRCCOPY);
     Changed();
 }
 

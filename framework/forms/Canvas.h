@@ -11,8 +11,7 @@ class TGraphic;
 // Coordinates are pixels; right and bottom are exclusive. Whoever owns the canvas
 // gives it a handle before drawing; without one, drawing raises
 // EInvalidOperation "Canvas does not allow drawing".
-class TCanvas : public TPersistent
-{
+class TCanvas : public TPersistent {
     OBX_CLASS(TPersistent)
 public:
     TCanvas();
@@ -89,8 +88,7 @@ private:
 };
 
 // A context of the whole screen's kind to measure texts with, no window needed.
-class TScreenCanvas : public TCanvas
-{
+class TScreenCanvas : public TCanvas {
 public:
     TScreenCanvas();
     ~TScreenCanvas() override;

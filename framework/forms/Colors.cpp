@@ -67,7 +67,7 @@ constexpr TIdentMapEntry ColorNames[] = {
     {clBtnHighlight, "clBtnHilight"},
 };
 
-}  // namespace
+} // namespace
 
 const TIntegerIdents ColorIdents{&IdentToColor, &ColorToIdent};
 

@@ -25,7 +25,7 @@ LRESULT Send(const TWinControl& Control, UINT Message, WPARAM WParam = 0, LPARAM
     return SendMessageA(Control.WindowHandle(), Message, WParam, LParam);
 }
 
-}  // namespace
+} // namespace
 
 const TMetaClass& TCustomComboBox::MetaClass()
 {
@@ -40,11 +40,12 @@ const TMetaClass& TComboBox::MetaClass()
     static const TMetaClass Class(
         "TComboBox", &TCustomComboBox::MetaClass(), CreateComponent<TComboBox>,
         Joined(ControlRows::Sorted(ComboRows<TComboBox>(), OBX_ROW(TComboBox, AutoCloseUp).Default(false),
-                      OBX_ROW(TComboBox, ItemIndex).Default(-1), OBX_ROW(TComboBox, MaxLength).Default(0),
-                      OBX_ROW(TComboBox, Sorted).Default(false), OBX_ROW(TComboBox, Style).Default(csDropDown),
-                      OBX_ROW(TComboBox, Text), OBX_ROW(TComboBox, TextHint),
-                      Prop<&TComboBox::OnDrawItem>("OnDrawItem"),
-                      Prop<&TComboBox::OnMeasureItem>("OnMeasureItem")),
+                                   OBX_ROW(TComboBox, ItemIndex).Default(-1),
+                                   OBX_ROW(TComboBox, MaxLength).Default(0),
+                                   OBX_ROW(TComboBox, Sorted).Default(false),
+                                   OBX_ROW(TComboBox, Style).Default(csDropDown), OBX_ROW(TComboBox, Text),
+                                   OBX_ROW(TComboBox, TextHint), Prop<&TComboBox::OnDrawItem>("OnDrawItem"),
+                                   Prop<&TComboBox::OnMeasureItem>("OnMeasureItem")),
                OBX_ROW(TComboBox, Items)));
     return Class;
 }
@@ -53,16 +54,18 @@ const TMetaClass& TColorBox::MetaClass()
 {
     static const TMetaClass Class(
         "TColorBox", &TCustomComboBox::MetaClass(), CreateComponent<TColorBox>,
-        ControlRows::Sorted(ComboRows<TColorBox>(), OBX_ROW(TColorBox, DefaultColorColor).Default(clBlack),
-                            OBX_ROW(TColorBox, NoneColorColor).Default(clBlack),
-                            OBX_ROW(TColorBox, Selected).Default(clBlack),
-                            OBX_ROW(TColorBox, Style)
-                                .Default(TColorBoxStyle{cbStandardColors, cbExtendedColors, cbSystemColors})));
+        ControlRows::Sorted(
+            ComboRows<TColorBox>(), OBX_ROW(TColorBox, DefaultColorColor).Default(clBlack),
+            OBX_ROW(TColorBox, NoneColorColor).Default(clBlack),
+            OBX_ROW(TColorBox, Selected).Default(clBlack),
+            OBX_ROW(TColorBox, Style)
+                .Default(TColorBoxStyle{cbStandardColors, cbExtendedColors, cbSystemColors})));
     return Class;
 }
 
 TCustomComboBox::TCustomComboBox(TComponent* Owner)
-    : TWinControl(Owner), FItems(std::make_unique<TItemStrings>(*this, *this)), FCanvas(std::make_unique<TCanvas>())
+    : TWinControl(Owner), FItems(std::make_unique<TItemStrings>(*this, *this)),
+      FCanvas(std::make_unique<TCanvas>())
 {
     FControlStyle = {csCaptureMouse, csSetCaption, csDoubleClicks, csFixedHeight, csReflector};
     SetBounds(0, 0, 145, 21);
@@ -176,7 +179,8 @@ void TCustomComboBox::StoreText(const std::string& Value)
 void TCustomComboBox::CreateParams(TCreateParams& Params)
 {
     static constexpr DWORD Styles[] = {CBS_DROPDOWN, CBS_SIMPLE, CBS_DROPDOWNLIST,
-                                       CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED, CBS_DROPDOWNLIST | CBS_OWNERDRAWVARIABLE};
+                                       CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED,
+                                       CBS_DROPDOWNLIST | CBS_OWNERDRAWVARIABLE};
     static constexpr DWORD Cases[] = {0, CBS_UPPERCASE, CBS_LOWERCASE};
     TWinControl::CreateParams(Params);
     CreateSubClass(Params, "COMBOBOX");
@@ -217,7 +221,8 @@ void TCustomComboBox::FillWindow()
 void TCustomComboBox::ItemInserted(int Index)
 {
     if (HandleAllocated())
-        Send(*this, CB_INSERTSTRING, static_cast<WPARAM>(Index), reinterpret_cast<LPARAM>(FItems->Get(Index).c_str()));
+        Send(*this, CB_INSERTSTRING, static_cast<WPARAM>(Index),
+             reinterpret_cast<LPARAM>(FItems->Get(Index).c_str()));
     else if (!IsLoading() && FItemIndex >= Index)
         ++FItemIndex;
 }
@@ -237,7 +242,8 @@ void TCustomComboBox::ItemChanged(int Index)
     const int Chosen = ItemIndex();
     const std::string Known = GetText();
     Send(*this, CB_DELETESTRING, static_cast<WPARAM>(Index));
-    Send(*this, CB_INSERTSTRING, static_cast<WPARAM>(Index), reinterpret_cast<LPARAM>(FItems->Get(Index).c_str()));
+    Send(*this, CB_INSERTSTRING, static_cast<WPARAM>(Index),
+         reinterpret_cast<LPARAM>(FItems->Get(Index).c_str()));
     if (Chosen >= 0)
         Send(*this, CB_SETCURSEL, static_cast<WPARAM>(Chosen));
     if (!IsList() && GetText() != Known)

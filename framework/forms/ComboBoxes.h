@@ -8,8 +8,7 @@ OBX_ENUM(TComboBoxStyle, csDropDown, csSimple, csDropDownList, csOwnerDrawFixed,
 
 // Items, choice and text are kept with and without a window. With the styles
 // from csDropDownList on, the text is the chosen item's.
-class TCustomComboBox : public TWinControl, public TItemsClient
-{
+class TCustomComboBox : public TWinControl, public TItemsClient {
     OBX_CLASS(TWinControl)
 public:
     explicit TCustomComboBox(TComponent* Owner);
@@ -95,12 +94,11 @@ private:
     int FItemHeight = 16;
     int FMaxLength = 0;
     TComboBoxStyle FStyle = csDropDown;
-    int FItemIndex = -1;  // while there is no window
+    int FItemIndex = -1; // while there is no window
     bool FCreatingWnd = false;
 };
 
-class TComboBox : public TCustomComboBox
-{
+class TComboBox : public TCustomComboBox {
     OBX_CLASS(TCustomComboBox)
 public:
     using TCustomComboBox::TCustomComboBox;
@@ -111,8 +109,7 @@ OBX_ENUM(TColorBoxStyles, cbStandardColors, cbExtendedColors, cbSystemColors, cb
 OBX_SET(TColorBoxStyle, TColorBoxStyles)
 
 // A combo box of the colours, each drawn beside its name.
-class TColorBox : public TCustomComboBox
-{
+class TColorBox : public TCustomComboBox {
     OBX_CLASS(TCustomComboBox)
 public:
     explicit TColorBox(TComponent* Owner);

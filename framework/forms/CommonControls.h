@@ -29,8 +29,7 @@ inline HIMAGELIST ImagesHandle(TCustomImageList* Images)
 }
 
 // Holds back the notifications of changes that the program makes itself.
-class TUpdateScope
-{
+class TUpdateScope {
 public:
     explicit TUpdateScope(int& Count) : FCount(Count) { ++FCount; }
     ~TUpdateScope() { --FCount; }

@@ -20,32 +20,31 @@ bool IsColumnAlign(TAlign Align)
     return Align == alLeft || Align == alRight;
 }
 
-}  // namespace
+} // namespace
 
 const TMetaClass& TControl::MetaClass()
 {
-    static const TMetaClass Class("TControl", &TComponent::MetaClass(), nullptr,
-                                  {
-                                      OBX_ROW(TControl, AlignWithMargins).Default(false),
-                                      OBX_ROW(TControl, Left),
-                                      OBX_ROW(TControl, Top),
-                                      OBX_ROW(TControl, Width),
-                                      OBX_ROW(TControl, Height),
-                                      OBX_ROW(TControl, Cursor).Default(crDefault),
-                                      OBX_ROW(TControl, Hint).Stored<&TControl::IsHintStored>(),
-                                      OBX_ROW(TControl, HelpType).Default(htContext),
-                                      OBX_ROW(TControl, HelpKeyword).Stored<&TControl::IsHelpContextStored>(),
-                                      OBX_ROW(TControl, HelpContext).Default(0).Stored<&TControl::IsHelpContextStored>(),
-                                      OBX_ROW(TControl, Margins),
-                                  });
+    static const TMetaClass Class(
+        "TControl", &TComponent::MetaClass(), nullptr,
+        {
+            OBX_ROW(TControl, AlignWithMargins).Default(false),
+            OBX_ROW(TControl, Left),
+            OBX_ROW(TControl, Top),
+            OBX_ROW(TControl, Width),
+            OBX_ROW(TControl, Height),
+            OBX_ROW(TControl, Cursor).Default(crDefault),
+            OBX_ROW(TControl, Hint).Stored<&TControl::IsHintStored>(),
+            OBX_ROW(TControl, HelpType).Default(htContext),
+            OBX_ROW(TControl, HelpKeyword).Stored<&TControl::IsHelpContextStored>(),
+            OBX_ROW(TControl, HelpContext).Default(0).Stored<&TControl::IsHelpContextStored>(),
+            OBX_ROW(TControl, Margins),
+        });
     return Class;
 }
 
 TControl::TControl(TComponent* Owner)
-    : TComponent(Owner),
-      FControlStyle{csCaptureMouse, csClickEvents, csSetCaption, csDoubleClicks},
-      FFont(std::make_unique<TFont>()),
-      FConstraints(std::make_unique<TSizeConstraints>(this)),
+    : TComponent(Owner), FControlStyle{csCaptureMouse, csClickEvents, csSetCaption, csDoubleClicks},
+      FFont(std::make_unique<TFont>()), FConstraints(std::make_unique<TSizeConstraints>(this)),
       FMargins(std::make_unique<TMargins>(this))
 {
     FFont->OnChange = {this, &TControl::FontChanged};
@@ -101,7 +100,8 @@ void TControl::SetHeight(int Value)
 
 void TControl::SetBounds(int ALeft, int ATop, int AWidth, int AHeight)
 {
-    if (!CheckNewSize(AWidth, AHeight) || (ALeft == FLeft && ATop == FTop && AWidth == FWidth && AHeight == FHeight))
+    if (!CheckNewSize(AWidth, AHeight) ||
+        (ALeft == FLeft && ATop == FTop && AWidth == FWidth && AHeight == FHeight))
         return;
     const bool Sized = AWidth != FWidth || AHeight != FHeight;
     InvalidateControl(FVisible, false);
@@ -153,7 +153,8 @@ TPoint TControl::ClientOrigin() const
 
 TPoint TControl::ClientToScreen(const TPoint& Value) const
 {
-    if (const auto* const Window = dynamic_cast<const TWinControl*>(this); Window && Window->HandleAllocated()) {
+    if (const auto* const Window = dynamic_cast<const TWinControl*>(this);
+        Window && Window->HandleAllocated()) {
         TPoint Result = Value;
         ::ClientToScreen(Window->WindowHandle(), &Result);
         return Result;
@@ -403,5 +404,6 @@ void TControl::DefineProperties(TFiler& Filer)
                 FExplicit.Value[Index] = static_cast<int>(Reader.ReadInteger());
                 FExplicit.Has[Index] = true;
             },
-            [this, Index](TWriter& Writer) { Writer.WriteInteger(FExplicit.Value[Index]); }, FExplicit.Has[Index]);
+            [this, Index](TWriter& Writer) { Writer.WriteInteger(FExplicit.Value[Index]); },
+            FExplicit.Has[Index]);
 }

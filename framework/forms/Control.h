@@ -15,12 +15,12 @@ class TPopupMenu;
 class TWinControl;
 
 OBX_ENUM(TControlStyleFlag, csAcceptsControls, csCaptureMouse, csDesignInteractive, csClickEvents, csFramed,
-         csSetCaption, csOpaque, csDoubleClicks, csFixedWidth, csFixedHeight, csNoDesignVisible, csReplicatable,
-         csNoStdEvents, csDisplayDragImage, csReflector, csActionClient, csMenuEvents)
+         csSetCaption, csOpaque, csDoubleClicks, csFixedWidth, csFixedHeight, csNoDesignVisible,
+         csReplicatable, csNoStdEvents, csDisplayDragImage, csReflector, csActionClient, csMenuEvents)
 using TControlStyle = TSet<TControlStyleFlag>;
 
-OBX_ENUM(TControlStateFlag, csLButtonDown, csClicked, csPalette, csReadingState, csAlignmentNeeded, csFocusing,
-         csCreating, csPaintCopy, csCustomPaint, csDestroyingHandle, csDocking)
+OBX_ENUM(TControlStateFlag, csLButtonDown, csClicked, csPalette, csReadingState, csAlignmentNeeded,
+         csFocusing, csCreating, csPaintCopy, csCustomPaint, csDestroyingHandle, csDocking)
 using TControlState = TSet<TControlStateFlag>;
 
 // A visible component. Descendants publish the properties that they want shown
@@ -30,8 +30,7 @@ using TControlState = TSet<TControlStateFlag>;
 // the framework's own arrive in WndProc, which calls Dispatch; a class overrides
 // Dispatch, answers what it knows and hands the rest to inherited::Dispatch. What
 // nobody answers reaches DefaultHandler.
-class TControl : public TComponent
-{
+class TControl : public TComponent {
     OBX_CLASS(TComponent)
 public:
     explicit TControl(TComponent* Owner);
@@ -126,7 +125,6 @@ public:
     void SetCustomHint(TComponent* Value);
     OBX_PROPERTY(bool, ParentCustomHint, true)
 public:
-
     // Questions of published rows.
     bool IsAnchorsStored() const;
     bool IsCaptionStored() const;
@@ -316,8 +314,7 @@ private:
     TComponent* FCustomHint = nullptr;
     std::unique_ptr<TControlActionLink> FActionLink;
     // Bounds before alignment, kept for the form file: ExplicitLeft and so on.
-    struct TExplicitBounds
-    {
+    struct TExplicitBounds {
         int Value[4] = {};
         bool Has[4] = {};
     } FExplicit;

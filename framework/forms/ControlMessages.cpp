@@ -9,9 +9,9 @@ namespace {
 // The control without a window that has the mouse through its parent's window.
 TControl* CaptureControl = nullptr;
 TControl* DragControl = nullptr;
-TObject* DragObject = nullptr;
+TObject* DragSource = nullptr;
 
-}  // namespace
+} // namespace
 
 TShiftState KeysToShiftState(WPARAM Keys)
 {
@@ -360,9 +360,9 @@ bool TControl::DoMouseWheel(TShiftState Shift, int WheelDelta, const TPoint& Mou
 
 void TControl::BeginDrag(bool)
 {
-    DragObject = this;
+    DragSource = this;
     if (OnStartDrag)
-        OnStartDrag(this, DragObject);
+        OnStartDrag(this, DragSource);
     DragControl = this;
     SetCaptureControl(this);
 }
@@ -377,14 +377,14 @@ void TControl::DragTo(const TPoint& Pos)
     bool Accept = false;
     if (TControl* const Target = FindDragTarget(Pos, false)) {
         const TPoint Here = Target->ScreenToClient(Pos);
-        Target->DragOver(DragObject, static_cast<int>(Here.x), static_cast<int>(Here.y), dsDragMove, Accept);
+        Target->DragOver(DragSource, static_cast<int>(Here.x), static_cast<int>(Here.y), dsDragMove, Accept);
     }
     ::SetCursor(Screen->Cursors(Accept ? DragCursor() : crNoDrop));
 }
 
 void TControl::EndDragAt(const TPoint& Pos)
 {
-    TObject* const Source = DragObject;
+    TObject* const Source = DragSource;
     DragControl = nullptr;
     SetCaptureControl(nullptr);
     FControlState.Exclude(csClicked);

@@ -11,7 +11,7 @@ TRows Base()
 {
     return {
         OBX_ROW(TControl, Align).Default(alNone),
-        OBX_ROW(TControl, Anchors).Default(TAnchors{akLeft, akTop}),
+        OBX_ROW(TControl, Anchors).Default(TAnchors{akLeft, akTop}).Stored<&TControl::IsAnchorsStored>(),
         OBX_ROW(TControl, BiDiMode).Stored<&TControl::IsBiDiModeStored>(),
         OBX_ROW(TControl, Constraints),
         OBX_ROW(TControl, CustomHint),
@@ -50,14 +50,10 @@ TPropInfo AutoSize(bool Default)
 TRows Drag()
 {
     return {
-        OBX_ROW(TControl, DragCursor).Default(crDrag),
-        OBX_ROW(TControl, DragKind).Default(dkDrag),
-        OBX_ROW(TControl, DragMode).Default(dmManual),
-        Prop<&TControl::OnDragDrop>("OnDragDrop"),
-        Prop<&TControl::OnDragOver>("OnDragOver"),
-        Prop<&TControl::OnEndDock>("OnEndDock"),
-        Prop<&TControl::OnEndDrag>("OnEndDrag"),
-        Prop<&TControl::OnStartDock>("OnStartDock"),
+        OBX_ROW(TControl, DragCursor).Default(crDrag), OBX_ROW(TControl, DragKind).Default(dkDrag),
+        OBX_ROW(TControl, DragMode).Default(dmManual), Prop<&TControl::OnDragDrop>("OnDragDrop"),
+        Prop<&TControl::OnDragOver>("OnDragOver"),     Prop<&TControl::OnEndDock>("OnEndDock"),
+        Prop<&TControl::OnEndDrag>("OnEndDrag"),       Prop<&TControl::OnStartDock>("OnStartDock"),
         Prop<&TControl::OnStartDrag>("OnStartDrag"),
     };
 }
@@ -89,12 +85,9 @@ TRows Wheel()
 TRows Focus(bool TabStop)
 {
     return {
-        OBX_ROW(TWinControl, TabOrder).Default(-1),
-        OBX_ROW(TWinControl, TabStop).Default(TabStop),
-        Prop<&TWinControl::OnEnter>("OnEnter"),
-        Prop<&TWinControl::OnExit>("OnExit"),
-        Prop<&TWinControl::OnKeyDown>("OnKeyDown"),
-        Prop<&TWinControl::OnKeyPress>("OnKeyPress"),
+        OBX_ROW(TWinControl, TabOrder).Default(-1), OBX_ROW(TWinControl, TabStop).Default(TabStop),
+        Prop<&TWinControl::OnEnter>("OnEnter"),     Prop<&TWinControl::OnExit>("OnExit"),
+        Prop<&TWinControl::OnKeyDown>("OnKeyDown"), Prop<&TWinControl::OnKeyPress>("OnKeyPress"),
         Prop<&TWinControl::OnKeyUp>("OnKeyUp"),
     };
 }
@@ -180,4 +173,4 @@ void Sort(TRows& Rows)
     });
 }
 
-}  // namespace ControlRows
+} // namespace ControlRows

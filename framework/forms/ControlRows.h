@@ -68,4 +68,4 @@ TRows Sorted(TParts... Parts)
     return Result;
 }
 
-}  // namespace ControlRows
+} // namespace ControlRows

@@ -9,30 +9,29 @@ constexpr int GripWidth = 9;
 constexpr int TextGap = 6;
 constexpr int BandGap = 2;
 
-}  // namespace
+} // namespace
 
 const TMetaClass& TCoolBand::MetaClass()
 {
-    static const TMetaClass Class(
-        "TCoolBand", &TCollectionItem::MetaClass(), nullptr,
-        {
-            OBX_ROW(TCoolBand, Bitmap),
-            OBX_ROW(TCoolBand, BorderStyle).Default(bsNone),
-            OBX_ROW(TCoolBand, Break).Default(true),
-            OBX_ROW(TCoolBand, Color).Default(clBtnFace),
-            OBX_ROW(TCoolBand, Control),
-            OBX_ROW(TCoolBand, FixedBackground).Default(true),
-            OBX_ROW(TCoolBand, FixedSize).Default(false),
-            OBX_ROW(TCoolBand, HorizontalOnly).Default(false),
-            OBX_ROW(TCoolBand, ImageIndex),
-            OBX_ROW(TCoolBand, MinHeight).Default(25),
-            OBX_ROW(TCoolBand, MinWidth).Default(0),
-            OBX_ROW(TCoolBand, ParentColor).Default(true),
-            OBX_ROW(TCoolBand, ParentBitmap).Default(true),
-            OBX_ROW(TCoolBand, Text),
-            OBX_ROW(TCoolBand, Visible).Default(true),
-            OBX_ROW(TCoolBand, Width),
-        });
+    static const TMetaClass Class("TCoolBand", &TCollectionItem::MetaClass(), nullptr,
+                                  {
+                                      OBX_ROW(TCoolBand, Bitmap),
+                                      OBX_ROW(TCoolBand, BorderStyle).Default(bsNone),
+                                      OBX_ROW(TCoolBand, Break).Default(true),
+                                      OBX_ROW(TCoolBand, Color).Default(clBtnFace),
+                                      OBX_ROW(TCoolBand, Control),
+                                      OBX_ROW(TCoolBand, FixedBackground).Default(true),
+                                      OBX_ROW(TCoolBand, FixedSize).Default(false),
+                                      OBX_ROW(TCoolBand, HorizontalOnly).Default(false),
+                                      OBX_ROW(TCoolBand, ImageIndex),
+                                      OBX_ROW(TCoolBand, MinHeight).Default(25),
+                                      OBX_ROW(TCoolBand, MinWidth).Default(0),
+                                      OBX_ROW(TCoolBand, ParentColor).Default(true),
+                                      OBX_ROW(TCoolBand, ParentBitmap).Default(true),
+                                      OBX_ROW(TCoolBand, Text),
+                                      OBX_ROW(TCoolBand, Visible).Default(true),
+                                      OBX_ROW(TCoolBand, Width),
+                                  });
     return Class;
 }
 
@@ -47,17 +46,18 @@ const TMetaClass& TCoolBar::MetaClass()
     using ControlRows::Sorted;
     static const TMetaClass Class(
         "TCoolBar", &TToolWindow::MetaClass(), CreateComponent<TCoolBar>,
-        Sorted(CommonControlRows(false), ControlRows::Dock(), ControlRows::Ctl3D(), ControlRows::AutoSize(false),
-               OBX_ROW(TControl, Align).Default(alTop), OBX_ROW(TCoolBar, BandBorderStyle).Default(bsSingle),
-               OBX_ROW(TCoolBar, BandMaximize).Default(bmClick), OBX_ROW(TCoolBar, Bands),
-               OBX_ROW(TCoolBar, Bitmap), OBX_ROW(TControl, Color).Stored<&TControl::IsColorStored>(),
-               OBX_ROW(TCoolBar, EdgeBorders).Default(TEdgeBorders{ebLeft, ebTop, ebRight, ebBottom}),
-               OBX_ROW(TCoolBar, EdgeInner).Default(esRaised), OBX_ROW(TCoolBar, EdgeOuter).Default(esLowered),
-               OBX_ROW(TCoolBar, FixedOrder).Default(false), OBX_ROW(TCoolBar, FixedSize).Default(false),
-               OBX_ROW(TControl, Font).Stored<&TControl::IsFontStored>(), OBX_ROW(TCoolBar, Images),
-               OBX_ROW(TControl, ParentColor).Default(true), OBX_ROW(TControl, ParentFont).Default(true),
-               OBX_ROW(TCoolBar, ShowText).Default(true), OBX_ROW(TCoolBar, Vertical).Default(false),
-               Prop<&TCoolBar::OnChange>("OnChange")));
+        Sorted(
+            CommonControlRows(false), ControlRows::Dock(), ControlRows::Ctl3D(), ControlRows::AutoSize(false),
+            OBX_ROW(TControl, Align).Default(alTop), OBX_ROW(TCoolBar, BandBorderStyle).Default(bsSingle),
+            OBX_ROW(TCoolBar, BandMaximize).Default(bmClick), OBX_ROW(TCoolBar, Bands),
+            OBX_ROW(TCoolBar, Bitmap), OBX_ROW(TControl, Color).Stored<&TControl::IsColorStored>(),
+            OBX_ROW(TCoolBar, EdgeBorders).Default(TEdgeBorders{ebLeft, ebTop, ebRight, ebBottom}),
+            OBX_ROW(TCoolBar, EdgeInner).Default(esRaised), OBX_ROW(TCoolBar, EdgeOuter).Default(esLowered),
+            OBX_ROW(TCoolBar, FixedOrder).Default(false), OBX_ROW(TCoolBar, FixedSize).Default(false),
+            OBX_ROW(TControl, Font).Stored<&TControl::IsFontStored>(), OBX_ROW(TCoolBar, Images),
+            OBX_ROW(TControl, ParentColor).Default(true), OBX_ROW(TControl, ParentFont).Default(true),
+            OBX_ROW(TCoolBar, ShowText).Default(true), OBX_ROW(TCoolBar, Vertical).Default(false),
+            Prop<&TCoolBar::OnChange>("OnChange")));
     return Class;
 }
 
@@ -66,7 +66,8 @@ void TCoolBand::SetControl(TWinControl* Value)
     if (FControl == Value)
         return;
     FControl = Value;
-    if (auto* const Bar = dynamic_cast<TCoolBar*>(Collection() ? Collection()->GetOwner() : nullptr); Bar && Value) {
+    if (auto* const Bar = dynamic_cast<TCoolBar*>(Collection() ? Collection()->GetOwner() : nullptr);
+        Bar && Value) {
         Value->FreeNotification(Bar);
         Value->SetParent(Bar);
     }
@@ -165,8 +166,8 @@ void TCoolBar::AlignControls(TControl*, TRect&)
             continue;
         const TRect& Place = Places[static_cast<size_t>(I)];
         const int Left = static_cast<int>(Place.left) + GripWidth + TextWidth(Band);
-        Band.FControl->SetBounds(Left, static_cast<int>(Place.top) + BandGap / 2, static_cast<int>(Place.right) - Left,
-                                 Band.MinHeight());
+        Band.FControl->SetBounds(Left, static_cast<int>(Place.top) + BandGap / 2,
+                                 static_cast<int>(Place.right) - Left, Band.MinHeight());
     }
 }
 
@@ -216,12 +217,12 @@ void TCoolBar::BandsChanged()
     Invalidate();
 }
 
-void RegisterCoolBars()
+void RegisterCoolBarClasses()
 {
     RegisterClass(TCoolBar::MetaClass());
 }
 
-void RegisterToolBars()
+void RegisterToolBarClasses()
 {
     RegisterClass(TToolBar::MetaClass());
     RegisterClass(TToolButton::MetaClass());

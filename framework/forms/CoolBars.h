@@ -7,8 +7,7 @@ class TCoolBar;
 
 OBX_ENUM(TCoolBandMaximize, bmNone, bmClick, bmDblClick)
 
-class TCoolBand : public TCollectionItem
-{
+class TCoolBand : public TCollectionItem {
     OBX_CLASS(TCollectionItem)
 public:
     using TCollectionItem::TCollectionItem;
@@ -40,8 +39,7 @@ private:
     TWinControl* FControl = nullptr;
 };
 
-class TCoolBands : public TCollection
-{
+class TCoolBands : public TCollection {
     OBX_CLASS(TCollection)
 public:
     explicit TCoolBands(TCoolBar* CoolBar);
@@ -55,8 +53,7 @@ private:
     TCoolBar* FCoolBar;
 };
 
-class TCoolBar : public TToolWindow
-{
+class TCoolBar : public TToolWindow {
     OBX_CLASS(TToolWindow)
 public:
     explicit TCoolBar(TComponent* Owner);
@@ -98,4 +95,4 @@ private:
     TCustomImageList* FImages = nullptr;
 };
 
-void RegisterCoolBars();
+void RegisterCoolBarClasses();

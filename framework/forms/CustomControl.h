@@ -4,8 +4,7 @@
 #include "framework/forms/GraphicControl.h"
 #include "framework/forms/WinControl.h"
 
-class TCustomControl : public TWinControl
-{
+class TCustomControl : public TWinControl {
     OBX_CLASS(TWinControl)
 public:
     explicit TCustomControl(TComponent* Owner);

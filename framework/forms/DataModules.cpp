@@ -6,14 +6,13 @@
 
 namespace {
 
-struct TDefinedNumber
-{
+struct TDefinedNumber {
     const char* Name;
     LONG* Value;
     bool* Has;
 };
 
-}  // namespace
+} // namespace
 
 const TMetaClass& TDataModule::MetaClass()
 {

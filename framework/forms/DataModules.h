@@ -4,8 +4,7 @@
 #include "framework/forms/Types.h"
 #include "framework/rtl/Component.h"
 
-class TDataModule : public TComponent
-{
+class TDataModule : public TComponent {
     OBX_CLASS(TComponent)
 public:
     explicit TDataModule(TComponent* Owner);

@@ -40,38 +40,43 @@ TRows CalendarRows()
 
 TRows PickerRows()
 {
-    return Sorted(CalendarRows<TDateTimePicker>(), OBX_ROW(TDateTimePicker, CalAlignment).Default(dtaLeft),
-                  OBX_ROW(TDateTimePicker, Checked).Default(true), OBX_ROW(TDateTimePicker, DateFormat).Default(dfShort),
-                  OBX_ROW(TDateTimePicker, DateMode).Default(dmComboBox), OBX_ROW(TDateTimePicker, Format),
-                  OBX_ROW(TDateTimePicker, Kind).Default(dtkDate), OBX_ROW(TDateTimePicker, ParseInput).Default(false),
-                  OBX_ROW(TDateTimePicker, ShowCheckbox).Default(false),
-                  OBX_ROW(TDateTimePicker, Time).Type(TimeType()), Prop<&TDateTimePicker::OnChange>("OnChange"),
-                  Prop<&TDateTimePicker::OnCloseUp>("OnCloseUp"), Prop<&TDateTimePicker::OnDropDown>("OnDropDown"),
-                  Prop<&TDateTimePicker::OnUserInput>("OnUserInput"));
+    return Sorted(
+        CalendarRows<TDateTimePicker>(), OBX_ROW(TDateTimePicker, CalAlignment).Default(dtaLeft),
+        OBX_ROW(TDateTimePicker, Checked).Default(true),
+        OBX_ROW(TDateTimePicker, DateFormat).Default(dfShort),
+        OBX_ROW(TDateTimePicker, DateMode).Default(dmComboBox), OBX_ROW(TDateTimePicker, Format),
+        OBX_ROW(TDateTimePicker, Kind).Default(dtkDate), OBX_ROW(TDateTimePicker, ParseInput).Default(false),
+        OBX_ROW(TDateTimePicker, ShowCheckbox).Default(false),
+        OBX_ROW(TDateTimePicker, Time).Type(TimeType()), Prop<&TDateTimePicker::OnChange>("OnChange"),
+        Prop<&TDateTimePicker::OnCloseUp>("OnCloseUp"), Prop<&TDateTimePicker::OnDropDown>("OnDropDown"),
+        Prop<&TDateTimePicker::OnUserInput>("OnUserInput"));
 }
 
 TRows MonthRows()
 {
-    return Sorted(CalendarRows<TMonthCalendar>(), OBX_ROW(TWinControl, BorderWidth).Default(0), AutoSize(false),
-                  OBX_ROW(TMonthCalendar, EndDate).Type(DateType()),
+    return Sorted(CalendarRows<TMonthCalendar>(), OBX_ROW(TWinControl, BorderWidth).Default(0),
+                  AutoSize(false), OBX_ROW(TMonthCalendar, EndDate).Type(DateType()),
                   OBX_ROW(TMonthCalendar, FirstDayOfWeek).Default(dowLocaleDefault),
                   OBX_ROW(TMonthCalendar, MaxSelectRange).Default(31),
-                  OBX_ROW(TMonthCalendar, MultiSelect).Default(false), OBX_ROW(TMonthCalendar, ShowToday).Default(true),
+                  OBX_ROW(TMonthCalendar, MultiSelect).Default(false),
+                  OBX_ROW(TMonthCalendar, ShowToday).Default(true),
                   OBX_ROW(TMonthCalendar, ShowTodayCircle).Default(true),
                   OBX_ROW(TMonthCalendar, WeekNumbers).Default(false),
                   Prop<&TMonthCalendar::OnGetMonthInfo>("OnGetMonthInfo"));
 }
 
-}  // namespace
+} // namespace
 
 TDateTime SystemTimeToDateTime(const SYSTEMTIME& Value)
 {
     // Days of the civil calendar, years beginning in March.
     const int64_t Month = (Value.wMonth + 9) % 12;
     const int64_t Year = Value.wYear - Month / 10;
-    const int64_t Days = 365 * Year + Year / 4 - Year / 100 + Year / 400 + (Month * 306 + 5) / 10 + Value.wDay - 1;
-    constexpr int64_t Origin = 693899;  // 30 December 1899 counted the same way
-    const double Seconds = Value.wHour * 3600.0 + Value.wMinute * 60.0 + Value.wSecond + Value.wMilliseconds / 1000.0;
+    const int64_t Days =
+        365 * Year + Year / 4 - Year / 100 + Year / 400 + (Month * 306 + 5) / 10 + Value.wDay - 1;
+    constexpr int64_t Origin = 693899; // 30 December 1899 counted the same way
+    const double Seconds =
+        Value.wHour * 3600.0 + Value.wMinute * 60.0 + Value.wSecond + Value.wMilliseconds / 1000.0;
     return static_cast<double>(Days - Origin) + Seconds / 86400.0;
 }
 
@@ -128,15 +133,15 @@ const TMetaClass& TCommonCalendar::MetaClass()
 
 const TMetaClass& TDateTimePicker::MetaClass()
 {
-    static const TMetaClass Class("TDateTimePicker", &TCommonCalendar::MetaClass(), CreateComponent<TDateTimePicker>,
-                                  PickerRows());
+    static const TMetaClass Class("TDateTimePicker", &TCommonCalendar::MetaClass(),
+                                  CreateComponent<TDateTimePicker>, PickerRows());
     return Class;
 }
 
 const TMetaClass& TMonthCalendar::MetaClass()
 {
-    static const TMetaClass Class("TMonthCalendar", &TCommonCalendar::MetaClass(), CreateComponent<TMonthCalendar>,
-                                  MonthRows());
+    static const TMetaClass Class("TMonthCalendar", &TCommonCalendar::MetaClass(),
+                                  CreateComponent<TMonthCalendar>, MonthRows());
     return Class;
 }
 
@@ -233,7 +238,8 @@ void TDateTimePicker::CreateParams(TCreateParams& Params)
     else
         Params.Style |= FDateFormat == dfLong ? DTS_LONGDATEFORMAT : DTS_SHORTDATEFORMAT;
     Params.Style |= (FDateMode == dmUpDown ? DTS_UPDOWN : 0u) | (FShowCheckbox ? DTS_SHOWNONE : 0u) |
-                    (CalAlignment() == dtaRight ? DTS_RIGHTALIGN : 0u) | (ParseInput() ? DTS_APPCANPARSE : 0u);
+                    (CalAlignment() == dtaRight ? DTS_RIGHTALIGN : 0u) |
+                    (ParseInput() ? DTS_APPCANPARSE : 0u);
 }
 
 void TDateTimePicker::UpdateWindow()
@@ -295,7 +301,8 @@ void TMonthCalendar::UpdateWindow()
 {
     if (!HandleAllocated())
         return;
-    SYSTEMTIME Range[2] = {DateTimeToSystemTime(FDateTime), DateTimeToSystemTime(std::max(FEndDate, FDateTime))};
+    SYSTEMTIME Range[2] = {DateTimeToSystemTime(FDateTime),
+                           DateTimeToSystemTime(std::max(FEndDate, FDateTime))};
     if (MultiSelect()) {
         SendMessageA(Handle(), SetMaxSelectedDays, static_cast<WPARAM>(MaxSelectRange()), 0);
         SendMessageA(Handle(), SetSelectedDays, 0, Param(Range));
@@ -322,7 +329,7 @@ void TMonthCalendar::Dispatch(TMessage& Message)
         OnClick(this);
 }
 
-void RegisterDateControls()
+void RegisterDateControlClasses()
 {
     RegisterClass(TDateTimePicker::MetaClass());
     RegisterClass(TMonthCalendar::MetaClass());

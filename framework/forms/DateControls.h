@@ -19,8 +19,7 @@ OBX_ENUM(TCalDayOfWeek, dowMonday, dowTuesday, dowWednesday, dowThursday, dowFri
 OBX_EVENT(TDTParseInputEvent, TObject*, const std::string&, TDateTime&, bool&)
 OBX_EVENT(TOnGetMonthInfoEvent, TObject*, uint32_t, uint32_t&)
 
-class TMonthCalColors : public TPersistent
-{
+class TMonthCalColors : public TPersistent {
     OBX_CLASS(TPersistent)
 public:
     explicit TMonthCalColors(TWinControl* Owner) : FOwner(Owner) {}
@@ -40,8 +39,7 @@ private:
 };
 
 // What the date field and the calendar share.
-class TCommonCalendar : public TWinControl
-{
+class TCommonCalendar : public TWinControl {
     OBX_CLASS(TWinControl)
 public:
     explicit TCommonCalendar(TComponent* Owner);
@@ -72,8 +70,7 @@ private:
     TMonthCalColors FCalColors;
 };
 
-class TDateTimePicker : public TCommonCalendar
-{
+class TDateTimePicker : public TCommonCalendar {
     OBX_CLASS(TCommonCalendar)
 public:
     explicit TDateTimePicker(TComponent* Owner);
@@ -125,8 +122,7 @@ private:
     bool FShowCheckbox = false;
 };
 
-class TMonthCalendar : public TCommonCalendar
-{
+class TMonthCalendar : public TCommonCalendar {
     OBX_CLASS(TCommonCalendar)
 public:
     explicit TMonthCalendar(TComponent* Owner);
@@ -149,4 +145,4 @@ protected:
     void PropertyChanged() override;
 };
 
-void RegisterDateControls();
+void RegisterDateControlClasses();

@@ -3,10 +3,11 @@
 namespace {
 
 // The kinds of pictures that TPicture reads.
-constexpr char PictureFilter[] = "All (*.bmp;*.ico;*.emf;*.wmf)|*.bmp;*.ico;*.emf;*.wmf|Bitmaps (*.bmp)|*.bmp|"
-                                 "Icons (*.ico)|*.ico|Enhanced Metafiles (*.emf)|*.emf|Metafiles (*.wmf)|*.wmf";
+constexpr char PictureFilter[] =
+    "All (*.bmp;*.ico;*.emf;*.wmf)|*.bmp;*.ico;*.emf;*.wmf|Bitmaps (*.bmp)|*.bmp|"
+    "Icons (*.ico)|*.ico|Enhanced Metafiles (*.emf)|*.emf|Metafiles (*.wmf)|*.wmf";
 
-}  // namespace
+} // namespace
 
 const TMetaClass& TCommonDialog::MetaClass()
 {
@@ -125,7 +126,8 @@ const TMetaClass& TFindDialog::MetaClass()
 
 const TMetaClass& TReplaceDialog::MetaClass()
 {
-    static const TMetaClass Class("TReplaceDialog", &TFindDialog::MetaClass(), CreateComponent<TReplaceDialog>,
+    static const TMetaClass Class("TReplaceDialog", &TFindDialog::MetaClass(),
+                                  CreateComponent<TReplaceDialog>,
                                   {
                                       OBX_ROW(TReplaceDialog, ReplaceText),
                                       Prop<&TReplaceDialog::OnReplace>("OnReplace"),

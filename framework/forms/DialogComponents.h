@@ -5,8 +5,7 @@
 #include "framework/forms/Form.h"
 #include "framework/rtl/Strings.h"
 
-class TCommonDialog : public TComponent
-{
+class TCommonDialog : public TComponent {
     OBX_CLASS(TComponent)
 public:
     explicit TCommonDialog(TComponent* Owner) : TComponent(Owner) {}
@@ -20,17 +19,17 @@ public:
 };
 
 OBX_ENUM(TOpenOption, ofReadOnly, ofOverwritePrompt, ofHideReadOnly, ofNoChangeDir, ofShowHelp, ofNoValidate,
-         ofAllowMultiSelect, ofExtensionDifferent, ofPathMustExist, ofFileMustExist, ofCreatePrompt, ofShareAware,
-         ofNoReadOnlyReturn, ofNoTestFileCreate, ofNoNetworkButton, ofNoLongNames, ofOldStyleDialog,
-         ofNoDereferenceLinks, ofEnableIncludeNotify, ofEnableSizing, ofDontAddToRecent, ofForceShowHidden)
+         ofAllowMultiSelect, ofExtensionDifferent, ofPathMustExist, ofFileMustExist, ofCreatePrompt,
+         ofShareAware, ofNoReadOnlyReturn, ofNoTestFileCreate, ofNoNetworkButton, ofNoLongNames,
+         ofOldStyleDialog, ofNoDereferenceLinks, ofEnableIncludeNotify, ofEnableSizing, ofDontAddToRecent,
+         ofForceShowHidden)
 OBX_SET(TOpenOptions, TOpenOption)
 OBX_ENUM(TOpenOptionEx, ofExNoPlacesBar)
 OBX_SET(TOpenOptionsEx, TOpenOptionEx)
 
 // Filter: pairs of description and patterns, all separated by "|":
 //     Texts (*.txt)|*.txt|All files|*.*
-class TOpenDialog : public TCommonDialog
-{
+class TOpenDialog : public TCommonDialog {
     OBX_CLASS(TCommonDialog)
 public:
     explicit TOpenDialog(TComponent* Owner) : TCommonDialog(Owner) {}
@@ -59,24 +58,21 @@ private:
     TStringList FFiles;
 };
 
-class TSaveDialog : public TOpenDialog
-{
+class TSaveDialog : public TOpenDialog {
     OBX_CLASS(TOpenDialog)
 public:
     using TOpenDialog::TOpenDialog;
 };
 
 // Fresh ones have the filters of the known pictures.
-class TOpenPictureDialog : public TOpenDialog
-{
+class TOpenPictureDialog : public TOpenDialog {
     OBX_CLASS(TOpenDialog)
 public:
     explicit TOpenPictureDialog(TComponent* Owner);
     bool IsFilterStored() const;
 };
 
-class TSavePictureDialog : public TSaveDialog
-{
+class TSavePictureDialog : public TSaveDialog {
     OBX_CLASS(TSaveDialog)
 public:
     explicit TSavePictureDialog(TComponent* Owner);
@@ -86,8 +82,7 @@ public:
 OBX_ENUM(TColorDialogOption, cdFullOpen, cdPreventFullOpen, cdShowHelp, cdSolidColor, cdAnyColor)
 OBX_SET(TColorDialogOptions, TColorDialogOption)
 
-class TColorDialog : public TCommonDialog
-{
+class TColorDialog : public TCommonDialog {
     OBX_CLASS(TCommonDialog)
 public:
     explicit TColorDialog(TComponent* Owner) : TCommonDialog(Owner) {}
@@ -104,14 +99,13 @@ private:
 };
 
 OBX_ENUM(TFontDialogDevice, fdScreen, fdPrinter, fdBoth)
-OBX_ENUM(TFontDialogOption, fdAnsiOnly, fdTrueTypeOnly, fdEffects, fdFixedPitchOnly, fdForceFontExist, fdNoFaceSel,
-         fdNoOEMFonts, fdNoSimulations, fdNoSizeSel, fdNoStyleSel, fdNoVectorFonts, fdShowHelp, fdWysiwyg,
-         fdLimitSize, fdScalableOnly, fdApplyButton)
+OBX_ENUM(TFontDialogOption, fdAnsiOnly, fdTrueTypeOnly, fdEffects, fdFixedPitchOnly, fdForceFontExist,
+         fdNoFaceSel, fdNoOEMFonts, fdNoSimulations, fdNoSizeSel, fdNoStyleSel, fdNoVectorFonts, fdShowHelp,
+         fdWysiwyg, fdLimitSize, fdScalableOnly, fdApplyButton)
 OBX_SET(TFontDialogOptions, TFontDialogOption)
 OBX_EVENT(TFDApplyEvent, TObject*, HWND)
 
-class TFontDialog : public TCommonDialog
-{
+class TFontDialog : public TCommonDialog {
     OBX_CLASS(TCommonDialog)
 public:
     explicit TFontDialog(TComponent* Owner) : TCommonDialog(Owner) {}
@@ -131,8 +125,7 @@ private:
     std::unique_ptr<TFont> FFont = std::make_unique<TFont>();
 };
 
-class TPrinterSetupDialog : public TCommonDialog
-{
+class TPrinterSetupDialog : public TCommonDialog {
     OBX_CLASS(TCommonDialog)
 public:
     using TCommonDialog::TCommonDialog;
@@ -142,8 +135,7 @@ OBX_ENUM(TPrintRange, prAllPages, prSelection, prPageNums)
 OBX_ENUM(TPrintDialogOption, poPrintToFile, poPageNums, poSelection, poWarning, poHelp, poDisablePrintToFile)
 OBX_SET(TPrintDialogOptions, TPrintDialogOption)
 
-class TPrintDialog : public TCommonDialog
-{
+class TPrintDialog : public TCommonDialog {
     OBX_CLASS(TCommonDialog)
 public:
     explicit TPrintDialog(TComponent* Owner) : TCommonDialog(Owner) {}
@@ -160,11 +152,11 @@ public:
 };
 
 OBX_ENUM(TFindOption, frDown, frFindNext, frHideMatchCase, frHideWholeWord, frHideUpDown, frMatchCase,
-         frDisableMatchCase, frDisableUpDown, frDisableWholeWord, frReplace, frReplaceAll, frWholeWord, frShowHelp)
+         frDisableMatchCase, frDisableUpDown, frDisableWholeWord, frReplace, frReplaceAll, frWholeWord,
+         frShowHelp)
 OBX_SET(TFindOptions, TFindOption)
 
-class TFindDialog : public TCommonDialog
-{
+class TFindDialog : public TCommonDialog {
     OBX_CLASS(TCommonDialog)
 public:
     explicit TFindDialog(TComponent* Owner) : TCommonDialog(Owner) {}
@@ -176,8 +168,7 @@ public:
     TNotifyEvent OnFind;
 };
 
-class TReplaceDialog : public TFindDialog
-{
+class TReplaceDialog : public TFindDialog {
     OBX_CLASS(TFindDialog)
 public:
     explicit TReplaceDialog(TComponent* Owner) : TFindDialog(Owner) {}

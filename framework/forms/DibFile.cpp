@@ -11,7 +11,7 @@ constexpr size_t InfoHeaderSize = 40;
 constexpr size_t IconHeaderSize = 6;
 constexpr size_t IconEntrySize = 16;
 constexpr int MaxSide = 32767;
-constexpr DWORD WithPixels = 4;  // CreateDIBitmap fills the bitmap
+constexpr DWORD WithPixels = 4; // CreateDIBitmap fills the bitmap
 
 uint32_t Number(std::string_view Bytes, size_t Offset, size_t Count)
 {
@@ -27,13 +27,12 @@ size_t RowSize(size_t Width, size_t Bits)
 }
 
 // One image whose counts have all been checked against the bytes there are.
-struct TDib
-{
-    std::vector<uint32_t> Info;  // BITMAPINFO, aligned
+struct TDib {
+    std::vector<uint32_t> Info; // BITMAPINFO, aligned
     std::vector<uint32_t> Pixels;
     int Width = 0;
     int Height = 0;
-    size_t ColorsEnd = 0;  // from the start of the info header
+    size_t ColorsEnd = 0; // from the start of the info header
 
     const BITMAPINFO* Header() const { return reinterpret_cast<const BITMAPINFO*>(Info.data()); }
 };
@@ -59,8 +58,8 @@ std::optional<TDib> ParseDib(std::string_view Bytes, size_t PixelsAt, bool IsIco
     const uint32_t Bits = Number(Bytes, 14, 2);
     const uint32_t Compression = Number(Bytes, 16, 4);
     const uint32_t Used = Number(Bytes, 32, 4);
-    if (Result.Width <= 0 || Result.Width > MaxSide || Result.Height == 0 || !IsKnownDepth(Bits) || Used > 256 ||
-        (Compression != BI_RGB && Compression != BI_BITFIELDS))
+    if (Result.Width <= 0 || Result.Width > MaxSide || Result.Height == 0 || !IsKnownDepth(Bits) ||
+        Used > 256 || (Compression != BI_RGB && Compression != BI_BITFIELDS))
         return std::nullopt;
     size_t Colors = Bits <= 8 ? (Used ? Used : size_t{1} << Bits) : Used;
     if (Compression == BI_BITFIELDS && HeaderSize == InfoHeaderSize)
@@ -84,8 +83,8 @@ std::optional<TDib> ParseDib(std::string_view Bytes, size_t PixelsAt, bool IsIco
 HBITMAP MakeBitmap(const TDib& Dib)
 {
     const HDC Screen = GetDC(nullptr);
-    const HBITMAP Result = CreateDIBitmap(Screen, &Dib.Header()->bmiHeader, WithPixels, Dib.Pixels.data(), Dib.Header(),
-                                          DIB_RGB_COLORS);
+    const HBITMAP Result = CreateDIBitmap(Screen, &Dib.Header()->bmiHeader, WithPixels, Dib.Pixels.data(),
+                                          Dib.Header(), DIB_RGB_COLORS);
     ReleaseDC(nullptr, Screen);
     return Result;
 }
@@ -125,7 +124,7 @@ void Append(std::string& Bytes, const T& Value)
     Bytes.append(reinterpret_cast<const char*>(&Value), sizeof Value);
 }
 
-}  // namespace
+} // namespace
 
 bool ReadDibFileSize(std::string_view File, TDibSize& Size)
 {
@@ -178,7 +177,8 @@ std::string DibFileFromBitmap(HBITMAP Bitmap)
 
 bool ReadIconFileSize(std::string_view File, TDibSize& Size)
 {
-    if (File.size() < IconHeaderSize + IconEntrySize || Number(File, 0, 4) != 0x10000 || Number(File, 4, 2) == 0)
+    if (File.size() < IconHeaderSize + IconEntrySize || Number(File, 0, 4) != 0x10000 ||
+        Number(File, 4, 2) == 0)
         return false;
     const auto Side = [&](size_t Offset) {
         const int Value = static_cast<int>(Number(File, Offset, 1));

@@ -7,8 +7,7 @@
 
 #include "framework/forms/Messages.h"
 
-struct TDibSize
-{
+struct TDibSize {
     int Width = 0;
     int Height = 0;
 };

@@ -16,8 +16,8 @@ TRows EditRows()
                   OBX_ROW(TPublisher, BorderStyle).Default(bsSingle),
                   OBX_ROW(TPublisher, CharCase).Default(ecNormal),
                   OBX_ROW(TPublisher, HideSelection).Default(true), OBX_ROW(TPublisher, MaxLength).Default(0),
-                  OBX_ROW(TPublisher, OEMConvert).Default(false), OBX_ROW(TPublisher, ReadOnly).Default(false),
-                  Prop<&TPublisher::OnChange>("OnChange"));
+                  OBX_ROW(TPublisher, OEMConvert).Default(false),
+                  OBX_ROW(TPublisher, ReadOnly).Default(false), Prop<&TPublisher::OnChange>("OnChange"));
 }
 
 template<class TPublisher>
@@ -29,4 +29,4 @@ TRows SingleLineRows()
                   OBX_ROW(TPublisher, TextHint));
 }
 
-}  // namespace ControlRows
+} // namespace ControlRows

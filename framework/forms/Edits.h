@@ -9,8 +9,7 @@ OBX_ENUM(TScrollStyle, ssNone, ssHorizontal, ssVertical, ssBoth)
 
 // Positions and lengths of the selection are counted as the system's edit window
 // counts them, from 0; they can be asked for only with a window.
-class TCustomEdit : public TWinControl
-{
+class TCustomEdit : public TWinControl {
     OBX_CLASS(TWinControl)
 public:
     explicit TCustomEdit(TComponent* Owner);
@@ -86,8 +85,7 @@ private:
     bool FCreatingWnd = false;
 };
 
-class TEdit : public TCustomEdit
-{
+class TEdit : public TCustomEdit {
     OBX_CLASS(TCustomEdit)
 public:
     using TCustomEdit::TCustomEdit;
@@ -95,8 +93,7 @@ public:
 
 // An edit with the events of a button at either end. The buttons' own properties
 // stay as the form file has them; the buttons are not shown.
-class TButtonedEdit : public TCustomEdit
-{
+class TButtonedEdit : public TCustomEdit {
     OBX_CLASS(TCustomEdit)
 public:
     using TCustomEdit::TCustomEdit;
@@ -107,8 +104,7 @@ public:
 
 // Lines are what line breaks separate; where the window wraps long ones makes no
 // difference.
-class TCustomMemo : public TCustomEdit
-{
+class TCustomMemo : public TCustomEdit {
     OBX_CLASS(TCustomEdit)
 public:
     explicit TCustomMemo(TComponent* Owner);
@@ -137,8 +133,7 @@ private:
     bool FWordWrap = true;
 };
 
-class TMemo : public TCustomMemo
-{
+class TMemo : public TCustomMemo {
     OBX_CLASS(TCustomMemo)
 public:
     using TCustomMemo::TCustomMemo;

@@ -81,7 +81,7 @@ std::shared_ptr<void> SharedFont(const LOGFONTA& Font)
     return Result;
 }
 
-}  // namespace
+} // namespace
 
 const TIntegerIdents CharsetIdents{&IdentToCharset, &CharsetToIdent};
 

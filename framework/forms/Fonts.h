@@ -8,7 +8,8 @@
 #include "framework/rtl/Persistent.h"
 
 OBX_ENUM(TFontPitch, fpDefault, fpVariable, fpFixed)
-OBX_ENUM(TFontQuality, fqDefault, fqDraft, fqProof, fqNonAntialiased, fqAntialiased, fqClearType, fqClearTypeNatural)
+OBX_ENUM(TFontQuality, fqDefault, fqDraft, fqProof, fqNonAntialiased, fqAntialiased, fqClearType,
+         fqClearTypeNatural)
 OBX_ENUM(TFontStyle, fsBold, fsItalic, fsUnderline, fsStrikeOut)
 OBX_SET(TFontStyles, TFontStyle)
 
@@ -22,8 +23,7 @@ OBX_INTEGER(TFontCharset, 0, 255, &CharsetIdents)
 using TFontName = std::string;
 
 // A drawing tool that tells its owner when it changes.
-class TGraphicsObject : public TPersistent
-{
+class TGraphicsObject : public TPersistent {
     OBX_CLASS(TPersistent)
 public:
     TNotifyEvent OnChange;
@@ -33,10 +33,9 @@ protected:
 };
 
 // What a font is made of.
-struct TFontData
-{
+struct TFontData {
     int Height = 0;
-    int Orientation = 0;  // tenths of a degree, counter-clockwise
+    int Orientation = 0; // tenths of a degree, counter-clockwise
     TFontPitch Pitch = fpDefault;
     TFontStyles Style;
     TFontCharset Charset{};
@@ -46,8 +45,7 @@ struct TFontData
 };
 
 // New fonts are "MS Sans Serif", 8 points, in clWindowText.
-class TFont : public TGraphicsObject
-{
+class TFont : public TGraphicsObject {
     OBX_CLASS(TGraphicsObject)
 public:
     TFont();

@@ -23,53 +23,55 @@ const TMetaClass& TForm::MetaClass()
 {
     static const TMetaClass Class(
         "TForm", &TCustomForm::MetaClass(), CreateComponent<TForm>,
-        ControlRows::Joined(OBX_ROW(TForm, ActiveControl), OBX_ROW(TForm, Align).Default(alNone),
-               OBX_ROW(TForm, AlphaBlend).Default(false), OBX_ROW(TForm, AlphaBlendValue).Default(255),
-               OBX_ROW(TForm, Anchors).Default(TAnchors{akLeft, akTop}),
-               OBX_ROW(TForm, AutoScroll).Stored<&TForm::IsAutoScrollStored>(),
-               OBX_ROW(TForm, AutoSize).Default(false), OBX_ROW(TForm, BiDiMode).Stored<&TForm::IsBiDiModeStored>(),
-               OBX_ROW(TForm, BorderIcons).Default(TBorderIcons{biSystemMenu, biMinimize, biMaximize}),
-               OBX_ROW(TForm, BorderStyle).Default(bsSizeable), OBX_ROW(TForm, BorderWidth).Default(0),
-               OBX_ROW(TForm, Caption), OBX_ROW(TForm, ClientHeight).Stored<&TForm::IsClientSizeStored>(),
-               OBX_ROW(TForm, ClientWidth).Stored<&TForm::IsClientSizeStored>(), OBX_ROW(TForm, Color),
-               OBX_ROW(TForm, TransparentColor).Default(false),
-               OBX_ROW(TForm, TransparentColorValue).Default(clBlack), OBX_ROW(TForm, Constraints),
-               OBX_ROW(TForm, Ctl3D), OBX_ROW(TForm, UseDockManager), OBX_ROW(TForm, DefaultMonitor).Default(dmActiveForm),
-               OBX_ROW(TForm, DockSite).Default(false), OBX_ROW(TForm, DoubleBuffered).Default(false),
-               OBX_ROW(TForm, DragKind).Default(dkDrag), OBX_ROW(TForm, DragMode).Default(dmManual),
-               OBX_ROW(TForm, Enabled).Default(true), OBX_ROW(TForm, ParentFont).Default(false),
-               OBX_ROW(TForm, Font).Stored<&TForm::IsFormFontStored>(), OBX_ROW(TForm, FormStyle).Default(fsNormal),
-               OBX_ROW(TForm, HelpFile), OBX_ROW(TForm, HorzScrollBar),
-               OBX_ROW(TForm, Icon).Stored<&TForm::IsIconStored>(), OBX_ROW(TForm, KeyPreview).Default(false),
-               OBX_ROW(TForm, Padding), OBX_ROW(TForm, Menu), OBX_ROW(TForm, OldCreateOrder),
-               OBX_ROW(TForm, ObjectMenuItem), OBX_ROW(TForm, ParentBiDiMode).Default(true),
-               OBX_ROW(TForm, PixelsPerInch).Stored(false), OBX_ROW(TForm, PopupMenu),
-               OBX_ROW(TForm, Position).Default(poDesigned), OBX_ROW(TForm, PrintScale).Default(poProportional),
-               OBX_ROW(TForm, Scaled).Default(true), OBX_ROW(TForm, ScreenSnap).Default(false),
-               OBX_ROW(TForm, ShowHint), OBX_ROW(TForm, SnapBuffer).Default(10), OBX_ROW(TForm, VertScrollBar),
-               OBX_ROW(TControl, Visible).Default(false), OBX_ROW(TForm, WindowState).Default(wsNormal),
-               OBX_ROW(TForm, WindowMenu), Prop<&TForm::OnActivate>("OnActivate"), ControlRows::Resize(), ControlRows::Mouse(),
-               Prop<&TForm::OnClose>("OnClose"), Prop<&TForm::OnCloseQuery>("OnCloseQuery"),
-               Prop<&TForm::OnCreate>("OnCreate"), Prop<&TForm::OnDestroy>("OnDestroy"),
-               Prop<&TForm::OnDeactivate>("OnDeactivate"), Prop<&TForm::OnDockDrop>("OnDockDrop"),
-               Prop<&TForm::OnDockOver>("OnDockOver"), Prop<&TForm::OnDragDrop>("OnDragDrop"),
-               Prop<&TForm::OnDragOver>("OnDragOver"), Prop<&TForm::OnEndDock>("OnEndDock"),
-               Prop<&TForm::OnGetSiteInfo>("OnGetSiteInfo"), Prop<&TForm::OnHide>("OnHide"),
-               Prop<&TForm::OnHelp>("OnHelp"), Prop<&TForm::OnKeyDown>("OnKeyDown"),
-               Prop<&TForm::OnKeyPress>("OnKeyPress"), Prop<&TForm::OnKeyUp>("OnKeyUp"), ControlRows::Wheel(),
-               Prop<&TForm::OnPaint>("OnPaint"), Prop<&TForm::OnShortCut>("OnShortCut"),
-               Prop<&TForm::OnShow>("OnShow"), Prop<&TForm::OnStartDock>("OnStartDock"),
-               Prop<&TForm::OnUnDock>("OnUnDock")));
+        ControlRows::Joined(
+            OBX_ROW(TForm, ActiveControl), OBX_ROW(TForm, Align).Default(alNone),
+            OBX_ROW(TForm, AlphaBlend).Default(false), OBX_ROW(TForm, AlphaBlendValue).Default(255),
+            OBX_ROW(TForm, Anchors).Default(TAnchors{akLeft, akTop}),
+            OBX_ROW(TForm, AutoScroll).Stored<&TForm::IsAutoScrollStored>(),
+            OBX_ROW(TForm, AutoSize).Default(false),
+            OBX_ROW(TForm, BiDiMode).Stored<&TForm::IsBiDiModeStored>(),
+            OBX_ROW(TForm, BorderIcons).Default(TBorderIcons{biSystemMenu, biMinimize, biMaximize}),
+            OBX_ROW(TForm, BorderStyle).Default(bsSizeable), OBX_ROW(TForm, BorderWidth).Default(0),
+            OBX_ROW(TForm, Caption), OBX_ROW(TForm, ClientHeight).Stored<&TForm::IsClientSizeStored>(),
+            OBX_ROW(TForm, ClientWidth).Stored<&TForm::IsClientSizeStored>(), OBX_ROW(TForm, Color),
+            OBX_ROW(TForm, TransparentColor).Default(false),
+            OBX_ROW(TForm, TransparentColorValue).Default(clBlack), OBX_ROW(TForm, Constraints),
+            OBX_ROW(TForm, Ctl3D), OBX_ROW(TForm, UseDockManager),
+            OBX_ROW(TForm, DefaultMonitor).Default(dmActiveForm), OBX_ROW(TForm, DockSite).Default(false),
+            OBX_ROW(TForm, DoubleBuffered).Default(false), OBX_ROW(TForm, DragKind).Default(dkDrag),
+            OBX_ROW(TForm, DragMode).Default(dmManual), OBX_ROW(TForm, Enabled).Default(true),
+            OBX_ROW(TForm, ParentFont).Default(false),
+            OBX_ROW(TForm, Font).Stored<&TForm::IsFormFontStored>(),
+            OBX_ROW(TForm, FormStyle).Default(fsNormal), OBX_ROW(TForm, HelpFile),
+            OBX_ROW(TForm, HorzScrollBar), OBX_ROW(TForm, Icon).Stored<&TForm::IsIconStored>(),
+            OBX_ROW(TForm, KeyPreview).Default(false), OBX_ROW(TForm, Padding), OBX_ROW(TForm, Menu),
+            OBX_ROW(TForm, OldCreateOrder), OBX_ROW(TForm, ObjectMenuItem),
+            OBX_ROW(TForm, ParentBiDiMode).Default(true), OBX_ROW(TForm, PixelsPerInch).Stored(false),
+            OBX_ROW(TForm, PopupMenu), OBX_ROW(TForm, Position).Default(poDesigned),
+            OBX_ROW(TForm, PrintScale).Default(poProportional), OBX_ROW(TForm, Scaled).Default(true),
+            OBX_ROW(TForm, ScreenSnap).Default(false), OBX_ROW(TForm, ShowHint),
+            OBX_ROW(TForm, SnapBuffer).Default(10), OBX_ROW(TForm, VertScrollBar),
+            OBX_ROW(TControl, Visible).Default(false), OBX_ROW(TForm, WindowState).Default(wsNormal),
+            OBX_ROW(TForm, WindowMenu), Prop<&TForm::OnActivate>("OnActivate"), ControlRows::Resize(),
+            ControlRows::Mouse(), Prop<&TForm::OnClose>("OnClose"),
+            Prop<&TForm::OnCloseQuery>("OnCloseQuery"), Prop<&TForm::OnCreate>("OnCreate"),
+            Prop<&TForm::OnDestroy>("OnDestroy"), Prop<&TForm::OnDeactivate>("OnDeactivate"),
+            Prop<&TForm::OnDockDrop>("OnDockDrop"), Prop<&TForm::OnDockOver>("OnDockOver"),
+            Prop<&TForm::OnDragDrop>("OnDragDrop"), Prop<&TForm::OnDragOver>("OnDragOver"),
+            Prop<&TForm::OnEndDock>("OnEndDock"), Prop<&TForm::OnGetSiteInfo>("OnGetSiteInfo"),
+            Prop<&TForm::OnHide>("OnHide"), Prop<&TForm::OnHelp>("OnHelp"),
+            Prop<&TForm::OnKeyDown>("OnKeyDown"), Prop<&TForm::OnKeyPress>("OnKeyPress"),
+            Prop<&TForm::OnKeyUp>("OnKeyUp"), ControlRows::Wheel(), Prop<&TForm::OnPaint>("OnPaint"),
+            Prop<&TForm::OnShortCut>("OnShortCut"), Prop<&TForm::OnShow>("OnShow"),
+            Prop<&TForm::OnStartDock>("OnStartDock"), Prop<&TForm::OnUnDock>("OnUnDock")));
     return Class;
 }
 
 TForm::~TForm() = default;
 
 TCustomForm::TCustomForm(TComponent* Owner)
-    : TScrollingWinControl(Owner),
-      FCanvas(std::make_unique<TControlCanvas>(this)),
-      FIcon(std::make_unique<TIcon>()),
-      FPixelsPerInch(ScreenPixelsPerInch())
+    : TScrollingWinControl(Owner), FCanvas(std::make_unique<TControlCanvas>(this)),
+      FIcon(std::make_unique<TIcon>()), FPixelsPerInch(ScreenPixelsPerInch())
 {
     FControlStyle = {csAcceptsControls, csCaptureMouse, csClickEvents, csSetCaption, csDoubleClicks};
     SetBounds(0, 0, 320, 240);
@@ -262,10 +264,10 @@ void TCustomForm::ApplyClientSize()
 void TCustomForm::Loaded()
 {
     inherited::Loaded();
+    RefreshMenu();
     ApplyClientSize();
     if (FActiveControl && !ContainsControl(FActiveControl))
         FActiveControl = nullptr;
-    RefreshMenu();
 }
 
 void TCustomForm::SetPixelsPerInch(int Value)
@@ -285,7 +287,8 @@ void TCustomForm::DefineProperties(TFiler& Filer)
 {
     inherited::DefineProperties(Filer);
     Filer.DefineProperty(
-        "PixelsPerInch", [this](TReader& Reader) { SetPixelsPerInch(static_cast<int>(Reader.ReadInteger())); },
+        "PixelsPerInch",
+        [this](TReader& Reader) { SetPixelsPerInch(static_cast<int>(Reader.ReadInteger())); },
         [this](TWriter& Writer) { Writer.WriteInteger(FPixelsPerInch); },
         FPixelsPerInchRead || HasState(csDesigning));
     Filer.DefineProperty(

@@ -23,8 +23,7 @@ OBX_EVENT(TShortCutEvent, TMessage&, bool&)
 // Forms are made by Application->CreateForm or CreateForm<T>(Owner), which reads
 // the form file of the class (FormResources.h) into the new object and then calls
 // OnCreate. A form made with new alone is empty.
-class TCustomForm : public TScrollingWinControl
-{
+class TCustomForm : public TScrollingWinControl {
     OBX_CLASS(TScrollingWinControl)
 public:
     explicit TCustomForm(TComponent* Owner);
@@ -189,6 +188,7 @@ protected:
 
 private:
     void ApplyClientSize();
+    void CompleteWindow();
     void ApplyPosition();
     void SetWindowFocus();
     void SetActive(bool Value);
@@ -244,8 +244,7 @@ private:
     uint8_t FAlphaBlendValue = 255;
 };
 
-class TForm : public TCustomForm
-{
+class TForm : public TCustomForm {
     OBX_CLASS(TCustomForm)
 public:
     explicit TForm(TComponent* Owner) : TCustomForm(Owner) {}

@@ -1,5 +1,6 @@
 // Activation and focus: which form is active and which control has the keyboard.
 #include "framework/forms/Application.h"
+#include "framework/forms/Menus.h"
 #include "framework/rtl/SysUtils.h"
 
 namespace {
@@ -15,7 +16,7 @@ bool SendFocusMessage(HWND Window, UINT Msg)
     return FocusCount == Before;
 }
 
-}  // namespace
+} // namespace
 
 void TCustomForm::SetActiveControl(TWinControl* Value)
 {
@@ -136,9 +137,14 @@ void TCustomForm::SetActive(bool Value)
     SetWindowFocus();
 }
 
-// The frame shows the menu of the child that is active.
+// The main form's menu takes up that of the active child, or of another form that
+// asks for it; the menu leaves again when it is destroyed or another one comes.
 void TCustomForm::MergeMenu(bool)
 {
+    TForm* const Main = Application ? Application->MainForm() : nullptr;
+    if (Main && Main != this && Main->Menu() && FMenu && !IsModal() && !HasState(csDesigning) &&
+        (FFormStyle == fsMDIChild || (FMenu->AutoMerge() && Main->FormStyle() != fsMDIForm)))
+        Main->Menu()->Merge(FMenu);
     if (FFormStyle != fsMDIChild && HandleAllocated())
         RefreshMenu();
 }

@@ -7,7 +7,7 @@ namespace {
 
 constexpr UINT FirstChildId = 0xFF00;
 
-}  // namespace
+} // namespace
 
 void TCustomForm::CreateMDIClient()
 {
@@ -17,10 +17,11 @@ void TCustomForm::CreateMDIClient()
         Create.hWindowMenu = FWindowMenu->Handle();
     TRect Inside{};
     GetClientRect(WindowHandle(), &Inside);
-    FClientHandle = CreateWindowExA(
-        WS_EX_CLIENTEDGE, "MDICLIENT", nullptr,
-        WS_CHILD | WS_VISIBLE | WS_GROUP | WS_TABSTOP | WS_CLIPCHILDREN | WS_HSCROLL | WS_VSCROLL | WS_CLIPSIBLINGS, 0,
-        0, RectWidth(Inside), RectHeight(Inside), WindowHandle(), nullptr, ModuleInstance(), &Create);
+    FClientHandle = CreateWindowExA(WS_EX_CLIENTEDGE, "MDICLIENT", nullptr,
+                                    WS_CHILD | WS_VISIBLE | WS_GROUP | WS_TABSTOP | WS_CLIPCHILDREN |
+                                        WS_HSCROLL | WS_VSCROLL | WS_CLIPSIBLINGS,
+                                    0, 0, RectWidth(Inside), RectHeight(Inside), WindowHandle(), nullptr,
+                                    ModuleInstance(), &Create);
 }
 
 void TCustomForm::CreateMDIChild(const TCreateParams& Params)
@@ -63,7 +64,8 @@ TCustomForm* TCustomForm::MDIChildren(int Index) const
 {
     if (FFormStyle == fsMDIForm && FClientHandle)
         for (int Form = 0; Form < Screen->FormCount(); ++Form)
-            if (Screen->Forms(Form)->FormStyle() == fsMDIChild && !Screen->Forms(Form)->IsEmbedded() && Index-- == 0)
+            if (Screen->Forms(Form)->FormStyle() == fsMDIChild && !Screen->Forms(Form)->IsEmbedded() &&
+                Index-- == 0)
                 return Screen->Forms(Form);
     return nullptr;
 }

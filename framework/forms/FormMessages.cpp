@@ -94,7 +94,8 @@ bool TCustomForm::DispatchMenu(TMessage& Message)
 {
     switch (Message.Msg) {
     case WM_COMMAND:
-        if (Message.LParam == 0 && FMenu && FMenu->DispatchCommand(static_cast<uint16_t>(Message.WParam & 0xffff)))
+        if (Message.LParam == 0 && FMenu &&
+            FMenu->DispatchCommand(static_cast<uint16_t>(Message.WParam & 0xffff)))
             return true;
         return false;
     case WM_INITMENUPOPUP:
@@ -244,8 +245,7 @@ void TCustomForm::CloseModal()
 namespace {
 
 // Puts the program's other windows back when the modal form is done.
-class TModalState
-{
+class TModalState {
 public:
     TModalState() : FActive(GetActiveWindow()), FDisabled(TScreen::DisableTaskWindows(nullptr)) {}
     ~TModalState()
@@ -262,7 +262,7 @@ private:
     std::vector<HWND> FDisabled;
 };
 
-}  // namespace
+} // namespace
 
 TModalResult TCustomForm::ShowModal()
 {

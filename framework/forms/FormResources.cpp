@@ -5,8 +5,7 @@
 
 namespace {
 
-struct TResources
-{
+struct TResources {
     std::map<std::string, std::string_view, std::less<>> Texts;
     TFormLoader Loader = nullptr;
 };
@@ -17,7 +16,7 @@ TResources& Resources()
     return Instance;
 }
 
-}  // namespace
+} // namespace
 
 void RegisterFormResource(const std::string& ClassName, std::string_view Text)
 {

@@ -22,12 +22,11 @@ HWND NextTopWindow(HWND Hidden)
     return nullptr;
 }
 
-}  // namespace
+} // namespace
 
 void TCustomForm::WindowStyle(TCreateParams& Params) const
 {
-    struct TBorder
-    {
+    struct TBorder {
         DWORD Style;
         DWORD ExStyle;
     };
@@ -40,7 +39,8 @@ void TCustomForm::WindowStyle(TCreateParams& Params) const
         {WS_CAPTION | WS_THICKFRAME, WS_EX_TOOLWINDOW},
     };
     const TFormBorderStyle Border =
-        FFormStyle == fsMDIChild && (FBorderStyle == bsNone || FBorderStyle == bsDialog) ? bsSizeable : FBorderStyle;
+        FFormStyle == fsMDIChild && (FBorderStyle == bsNone || FBorderStyle == bsDialog) ? bsSizeable
+                                                                                         : FBorderStyle;
     Params.Style |= Borders[Border].Style;
     Params.ExStyle |= Borders[Border].ExStyle;
     if (Border == bsNone)
@@ -64,7 +64,8 @@ void TCustomForm::MDIStyle(TCreateParams& Params) const
 {
     Params.WindowClass.lpfnWndProc = DefMDIChildProcA;
     Params.Style |= WS_CHILD;
-    Params.WndParent = Application && Application->MainForm() ? Application->MainForm()->ClientHandle() : nullptr;
+    Params.WndParent =
+        Application && Application->MainForm() ? Application->MainForm()->ClientHandle() : nullptr;
 }
 
 void TCustomForm::CreateParams(TCreateParams& Params)
@@ -108,6 +109,19 @@ void TCustomForm::CreateWindowHandle(const TCreateParams& Params)
     }
 }
 
+void TCustomForm::CompleteWindow()
+{
+    if (FIcon->Handle())
+        SendMessageA(WindowHandle(), WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(FIcon->Handle()));
+    // The system menu of a form that cannot be minimized offers only what works.
+    if (FBorderStyle == bsDialog) {
+        const HMENU Menu = GetSystemMenu(WindowHandle(), FALSE);
+        for (const UINT Command : {SC_TASKLIST, SC_RESTORE, SC_SIZE, SC_MINIMIZE, SC_MAXIMIZE})
+            DeleteMenu(Menu, Command, MF_BYCOMMAND);
+    }
+    RefreshMenu();
+}
+
 void TCustomForm::CreateWnd()
 {
     // A form made for another resolution grows before anybody sees it.
@@ -120,21 +134,13 @@ void TCustomForm::CreateWnd()
     const int WantedWidth = ClientWidth();
     const int WantedHeight = ClientHeight();
     inherited::CreateWnd();
+    if (!IsEmbedded())
+        CompleteWindow();
+    // After the menu, which takes its height from the client area.
     if (FSizeKind == SizeOfClient && FPosition != poDefault && FPosition != poDefaultSizeOnly) {
         TControl::SetClientWidth(WantedWidth);
         TControl::SetClientHeight(WantedHeight);
     }
-    if (IsEmbedded())
-        return;
-    if (FIcon->Handle())
-        SendMessageA(WindowHandle(), WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(FIcon->Handle()));
-    // The system menu of a form that cannot be minimized offers only what works.
-    if (FBorderStyle == bsDialog) {
-        const HMENU Menu = GetSystemMenu(WindowHandle(), FALSE);
-        for (const UINT Command : {SC_TASKLIST, SC_RESTORE, SC_SIZE, SC_MINIMIZE, SC_MAXIMIZE})
-            DeleteMenu(Menu, Command, MF_BYCOMMAND);
-    }
-    RefreshMenu();
 }
 
 void TCustomForm::DestroyHandle()
@@ -147,7 +153,7 @@ void TCustomForm::DestroyHandle()
 void TCustomForm::DestroyWindowHandle()
 {
     if (HandleAllocated() && GetMenu(WindowHandle()))
-        ::SetMenu(WindowHandle(), nullptr);  // the menu belongs to the component
+        ::SetMenu(WindowHandle(), nullptr); // the menu belongs to the component
     if (FFormState.Contains(fsCreatedMDIChild)) {
         FControlState.Include(csDestroyingHandle);
         SendMessageA(::GetParent(WindowHandle()), WM_MDIDESTROY, reinterpret_cast<WPARAM>(WindowHandle()), 0);
@@ -163,10 +169,12 @@ void TCustomForm::RefreshMenu()
     if (HasState(csLoading) || !HandleAllocated() || FFormStyle == fsMDIChild || IsEmbedded() ||
         HasState(csDestroying))
         return;
-    const HMENU Bar = FMenu && FMenu->Items()->Count() > 0 && !HasState(csDesigning) ? FMenu->Handle() : nullptr;
+    const HMENU Bar =
+        FMenu && FMenu->Items()->Count() > 0 && !HasState(csDesigning) ? FMenu->Handle() : nullptr;
     if (FClientHandle) {
         const HMENU Window = FWindowMenu ? FWindowMenu->Handle() : nullptr;
-        SendMessageA(FClientHandle, WM_MDISETMENU, reinterpret_cast<WPARAM>(Bar), reinterpret_cast<LPARAM>(Window));
+        SendMessageA(FClientHandle, WM_MDISETMENU, reinterpret_cast<WPARAM>(Bar),
+                     reinterpret_cast<LPARAM>(Window));
     }
     if (GetMenu(WindowHandle()) != Bar)
         ::SetMenu(WindowHandle(), Bar);
@@ -195,7 +203,8 @@ void TCustomForm::ApplyPosition()
     const TRect Work = Screen->WorkAreaRect();
     const int X = static_cast<int>(Area.left) + (RectWidth(Area) - Width()) / 2;
     const int Y = static_cast<int>(Area.top) + (RectHeight(Area) - Height()) / 2;
-    SetBounds(std::max(X, static_cast<int>(Work.left)), std::max(Y, static_cast<int>(Work.top)), Width(), Height());
+    SetBounds(std::max(X, static_cast<int>(Work.left)), std::max(Y, static_cast<int>(Work.top)), Width(),
+              Height());
 }
 
 void TCustomForm::MakeFullyVisible()
@@ -204,8 +213,8 @@ void TCustomForm::MakeFullyVisible()
     const auto Inside = [](int Place, int Size, LONG From, LONG To) {
         return std::max(std::min(Place, static_cast<int>(To) - Size), static_cast<int>(From));
     };
-    SetBounds(Inside(Left(), Width(), Work.left, Work.right), Inside(Top(), Height(), Work.top, Work.bottom), Width(),
-              Height());
+    SetBounds(Inside(Left(), Width(), Work.left, Work.right), Inside(Top(), Height(), Work.top, Work.bottom),
+              Width(), Height());
 }
 
 void TCustomForm::ShowingChanged()
@@ -254,7 +263,8 @@ void TCustomForm::HideWindowNow()
         return;
     }
     constexpr UINT Flags = SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE;
-    const HWND Next = GetActiveWindow() == WindowHandle() && !IsModal() ? NextTopWindow(WindowHandle()) : nullptr;
+    const HWND Next =
+        GetActiveWindow() == WindowHandle() && !IsModal() ? NextTopWindow(WindowHandle()) : nullptr;
     if (IsModal() || Next) {
         SetWindowPos(WindowHandle(), nullptr, 0, 0, 0, 0, Flags);
         if (Next)

@@ -58,10 +58,10 @@ const TMetaClass& TFrame::MetaClass()
 {
     static const TMetaClass Class(
         "TFrame", &TCustomFrame::MetaClass(), CreateComponent<TFrame>,
-        ControlRows::Joined(ControlRows::Look(), ControlRows::AutoSize(false),
-                            OBX_ROW(TFrame, AutoScroll).Default(true), ControlRows::Drag(), ControlRows::Mouse(),
-                            ControlRows::Wheel(), ControlRows::Focus(false), ControlRows::Ctl3D(),
-                            ControlRows::Buffer(), ControlRows::Dock(), ControlRows::Resize(),
-                            OBX_ROW(TFrame, Padding), OBX_ROW(TFrame, ParentBackground).Default(true)));
+        ControlRows::Joined(
+            ControlRows::Look(), ControlRows::AutoSize(false), OBX_ROW(TFrame, AutoScroll).Default(true),
+            ControlRows::Drag(), ControlRows::Mouse(), ControlRows::Wheel(), ControlRows::Focus(false),
+            ControlRows::Ctl3D(), ControlRows::Buffer(), ControlRows::Dock(), ControlRows::Resize(),
+            OBX_ROW(TFrame, Padding), OBX_ROW(TFrame, ParentBackground).Default(true)));
     return Class;
 }

@@ -3,8 +3,7 @@
 
 #include "framework/forms/ScrollControls.h"
 
-class TCustomFrame : public TScrollingWinControl
-{
+class TCustomFrame : public TScrollingWinControl {
     OBX_CLASS(TScrollingWinControl)
 public:
     explicit TCustomFrame(TComponent* Owner);
@@ -24,8 +23,7 @@ private:
     bool FConstructed = false;
 };
 
-class TFrame : public TCustomFrame
-{
+class TFrame : public TCustomFrame {
     OBX_CLASS(TCustomFrame)
 public:
     explicit TFrame(TComponent* Owner) : TCustomFrame(Owner) {}

@@ -10,10 +10,11 @@ const TMetaClass& TGauge::MetaClass()
     using namespace ControlRows;
     static const TMetaClass Class(
         "TGauge", &TGraphicControl::MetaClass(), CreateComponent<TGauge>,
-        Sorted(Look(), OBX_ROW(TGauge, BackColor).Default(clWhite), OBX_ROW(TGauge, BorderStyle).Default(bsSingle),
-               OBX_ROW(TGauge, ForeColor).Default(clBlack), OBX_ROW(TGauge, Kind).Default(gkHorizontalBar),
-               OBX_ROW(TGauge, MaxValue).Default(100), OBX_ROW(TGauge, MinValue).Default(0),
-               OBX_ROW(TGauge, Progress), OBX_ROW(TGauge, ShowText).Default(true)));
+        Sorted(Look(), OBX_ROW(TGauge, BackColor).Default(clWhite),
+               OBX_ROW(TGauge, BorderStyle).Default(bsSingle), OBX_ROW(TGauge, ForeColor).Default(clBlack),
+               OBX_ROW(TGauge, Kind).Default(gkHorizontalBar), OBX_ROW(TGauge, MaxValue).Default(100),
+               OBX_ROW(TGauge, MinValue).Default(0), OBX_ROW(TGauge, Progress),
+               OBX_ROW(TGauge, ShowText).Default(true)));
     return Class;
 }
 

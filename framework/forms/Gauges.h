@@ -5,8 +5,7 @@
 
 OBX_ENUM(TGaugeKind, gkText, gkHorizontalBar, gkVerticalBar, gkPie, gkNeedle)
 
-class TGauge : public TGraphicControl
-{
+class TGauge : public TGraphicControl {
     OBX_CLASS(TGraphicControl)
 public:
     explicit TGauge(TComponent* Owner);

@@ -8,8 +8,7 @@
 
 namespace {
 
-struct TKindOfButton
-{
+struct TKindOfButton {
     const TResStringRec* Caption;
     TModalResult ModalResult;
     bool Default;
@@ -67,8 +66,7 @@ void DrawGlyphPicture(TCanvas& Canvas, const TPoint& At, TBitmap& Glyph, int Num
 }
 
 // Where picture and text go inside an area, from its upper left corner.
-struct TPlaces
-{
+struct TPlaces {
     TPoint Glyph;
     TPoint Text;
 };
@@ -88,7 +86,8 @@ void PlaceAlong(int Room, int First, int Second, int Margin, int Spacing, int& F
     SecondAt = Margin + First + Spacing;
 }
 
-TPlaces PlaceGlyphAndText(const TSize& Room, const TSize& Glyph, const TSize& Text, const TGlyphLayout& Layout)
+TPlaces PlaceGlyphAndText(const TSize& Room, const TSize& Glyph, const TSize& Text,
+                          const TGlyphLayout& Layout)
 {
     const auto Int = [](LONG Value) { return static_cast<int>(Value); };
     int GlyphAt = 0;
@@ -125,10 +124,11 @@ void DrawButtonText(TCanvas& Canvas, const std::string& Caption, TRect Area, TBu
     Canvas.DrawText(Caption, Area, Flags);
 }
 
-}  // namespace
+} // namespace
 
-void DrawButtonGlyph(TCanvas& Canvas, const TRect& Client, const TPoint& Offset, TBitmap& Glyph, int NumGlyphs,
-                     const std::string& Caption, const TGlyphLayout& Layout, TButtonState State, UINT BiDiFlags)
+void DrawButtonGlyph(TCanvas& Canvas, const TRect& Client, const TPoint& Offset, TBitmap& Glyph,
+                     int NumGlyphs, const std::string& Caption, const TGlyphLayout& Layout,
+                     TButtonState State, UINT BiDiFlags)
 {
     const bool HasGlyph = Glyph.Handle() != nullptr;
     NumGlyphs = std::max(NumGlyphs, 1);
@@ -142,7 +142,8 @@ void DrawButtonGlyph(TCanvas& Canvas, const TRect& Client, const TPoint& Offset,
     const TPlaces Places = PlaceGlyphAndText(Room, GlyphSize, {Text.right, Text.bottom}, Layout);
     const TPoint Origin{Client.left + Offset.x, Client.top + Offset.y};
     if (HasGlyph)
-        DrawGlyphPicture(Canvas, {Origin.x + Places.Glyph.x, Origin.y + Places.Glyph.y}, Glyph, NumGlyphs, State);
+        DrawGlyphPicture(Canvas, {Origin.x + Places.Glyph.x, Origin.y + Places.Glyph.y}, Glyph, NumGlyphs,
+                         State);
     if (Caption.empty())
         return;
     OffsetRect(&Text, static_cast<int>(Origin.x + Places.Text.x), static_cast<int>(Origin.y + Places.Text.y));
@@ -175,10 +176,10 @@ const TMetaClass& TSpeedButton::MetaClass()
         "TSpeedButton", &TGraphicControl::MetaClass(), CreateComponent<TSpeedButton>,
         Sorted(Base(), Mouse(), ControlRows::Caption(), ControlRows::Action(),
                OBX_ROW(TSpeedButton, Font).Stored<&TSpeedButton::IsFontStored>(),
-               OBX_ROW(TSpeedButton, ParentFont).Default(true), OBX_ROW(TSpeedButton, AllowAllUp).Default(false),
-               OBX_ROW(TSpeedButton, GroupIndex).Default(0), OBX_ROW(TSpeedButton, Down).Default(false),
-               OBX_ROW(TSpeedButton, Flat).Default(false), OBX_ROW(TSpeedButton, Glyph),
-               OBX_ROW(TSpeedButton, ImageIndex).Default(-1),
+               OBX_ROW(TSpeedButton, ParentFont).Default(true),
+               OBX_ROW(TSpeedButton, AllowAllUp).Default(false), OBX_ROW(TSpeedButton, GroupIndex).Default(0),
+               OBX_ROW(TSpeedButton, Down).Default(false), OBX_ROW(TSpeedButton, Flat).Default(false),
+               OBX_ROW(TSpeedButton, Glyph), OBX_ROW(TSpeedButton, ImageIndex).Default(-1),
                OBX_ROW(TSpeedButton, Layout).Default(blGlyphLeft), OBX_ROW(TSpeedButton, Margin).Default(-1),
                OBX_ROW(TSpeedButton, NumGlyphs).Default(1), OBX_ROW(TSpeedButton, Spacing).Default(4),
                OBX_ROW(TSpeedButton, Transparent).Default(true)));
@@ -267,12 +268,13 @@ void TBitBtn::DrawItem(const DRAWITEMSTRUCT& Item)
         FCanvas->FrameRect(Area);
         InflateRect(&Area, -1, -1);
     }
-    DrawFrameControl(Item.hDC, &Area, DFC_BUTTON, static_cast<UINT>(DFCS_BUTTONPUSH) | (IsDown ? DFCS_PUSHED : 0u));
+    DrawFrameControl(Item.hDC, &Area, DFC_BUTTON,
+                     static_cast<UINT>(DFCS_BUTTONPUSH) | (IsDown ? DFCS_PUSHED : 0u));
     InflateRect(&Area, -1, -1);
     FCanvas->Font()->Assign(Font());
     const TPoint Offset = IsDown ? TPoint{1, 1} : TPoint{0, 0};
-    DrawButtonGlyph(*FCanvas, Area, Offset, *FGlyph, NumGlyphs(), Caption(), {Layout(), Margin(), Spacing()}, State,
-                    DrawTextBiDiModeFlags(0));
+    DrawButtonGlyph(*FCanvas, Area, Offset, *FGlyph, NumGlyphs(), Caption(), {Layout(), Margin(), Spacing()},
+                    State, DrawTextBiDiModeFlags(0));
     if (IsFocused) {
         InflateRect(&Area, -3, -3);
         FCanvas->Font()->SetColor(clBtnText);
@@ -436,8 +438,8 @@ void TSpeedButton::Paint()
     Target.Font()->Assign(Font());
     InflateRect(&Area, -1, -1);
     const TPoint Offset = IsDown ? TPoint{1, 1} : TPoint{0, 0};
-    DrawButtonGlyph(Target, Area, Offset, *FGlyph, NumGlyphs(), Caption(), {Layout(), Margin(), Spacing()}, State,
-                    DrawTextBiDiModeFlags(0));
+    DrawButtonGlyph(Target, Area, Offset, *FGlyph, NumGlyphs(), Caption(), {Layout(), Margin(), Spacing()},
+                    State, DrawTextBiDiModeFlags(0));
 }
 
 void TSpeedButton::Dispatch(TMessage& Message)

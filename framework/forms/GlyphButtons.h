@@ -7,14 +7,14 @@
 OBX_ENUM(TButtonLayout, blGlyphLeft, blGlyphRight, blGlyphTop, blGlyphBottom)
 OBX_ENUM(TButtonState, bsUp, bsDisabled, bsDown, bsExclusive)
 OBX_ENUM(TButtonStyle, bsAutoDetect, bsWin31, bsNew)
-OBX_ENUM(TBitBtnKind, bkCustom, bkOK, bkCancel, bkHelp, bkYes, bkNo, bkClose, bkAbort, bkRetry, bkIgnore, bkAll)
+OBX_ENUM(TBitBtnKind, bkCustom, bkOK, bkCancel, bkHelp, bkYes, bkNo, bkClose, bkAbort, bkRetry, bkIgnore,
+         bkAll)
 
 using TNumGlyphs = int8_t;
 
 // Where picture and text go. A margin of -1 centres both, a spacing of -1 puts
 // the text in the middle of what the picture leaves. Pixels.
-struct TGlyphLayout
-{
+struct TGlyphLayout {
     TButtonLayout Layout = blGlyphLeft;
     int Margin = -1;
     int Spacing = 4;
@@ -23,13 +23,13 @@ struct TGlyphLayout
 // Draws picture and text into Client. The picture holds NumGlyphs pictures side
 // by side: normal, disabled, pressed, stuck; its lower left pixel's colour is
 // transparent.
-void DrawButtonGlyph(TCanvas& Canvas, const TRect& Client, const TPoint& Offset, TBitmap& Glyph, int NumGlyphs,
-                     const std::string& Caption, const TGlyphLayout& Layout, TButtonState State, UINT BiDiFlags);
+void DrawButtonGlyph(TCanvas& Canvas, const TRect& Client, const TPoint& Offset, TBitmap& Glyph,
+                     int NumGlyphs, const std::string& Caption, const TGlyphLayout& Layout,
+                     TButtonState State, UINT BiDiFlags);
 
 // Kinds other than bkCustom bring a caption and a modal result of their own,
 // which form files need not name.
-class TBitBtn : public TCustomButton
-{
+class TBitBtn : public TCustomButton {
     OBX_CLASS(TCustomButton)
 public:
     explicit TBitBtn(TComponent* Owner);
@@ -69,8 +69,7 @@ private:
 
 // A button without a window and focus. Buttons of one group in one container
 // stay down by turns.
-class TSpeedButton : public TGraphicControl
-{
+class TSpeedButton : public TGraphicControl {
     OBX_CLASS(TGraphicControl)
 public:
     explicit TSpeedButton(TComponent* Owner);

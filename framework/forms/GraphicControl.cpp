@@ -33,7 +33,8 @@ const TMetaClass& TGraphicControl::MetaClass()
     return Class;
 }
 
-TGraphicControl::TGraphicControl(TComponent* Owner) : TControl(Owner), FCanvas(std::make_unique<TControlCanvas>(this))
+TGraphicControl::TGraphicControl(TComponent* Owner)
+    : TControl(Owner), FCanvas(std::make_unique<TControlCanvas>(this))
 {
 }
 
@@ -63,7 +64,8 @@ const TMetaClass& TCustomControl::MetaClass()
     return Class;
 }
 
-TCustomControl::TCustomControl(TComponent* Owner) : TWinControl(Owner), FCanvas(std::make_unique<TControlCanvas>(this))
+TCustomControl::TCustomControl(TComponent* Owner)
+    : TWinControl(Owner), FCanvas(std::make_unique<TControlCanvas>(this))
 {
 }
 

@@ -4,8 +4,7 @@
 #include "framework/forms/Control.h"
 
 // Draws a control: the context's origin is the control's upper left corner.
-class TControlCanvas : public TCanvas
-{
+class TControlCanvas : public TCanvas {
     OBX_CLASS(TCanvas)
 public:
     explicit TControlCanvas(TControl* Control) : FControl(Control) {}
@@ -23,8 +22,7 @@ private:
     HWND FWindow = nullptr;
 };
 
-class TGraphicControl : public TControl
-{
+class TGraphicControl : public TControl {
     OBX_CLASS(TControl)
 public:
     explicit TGraphicControl(TComponent* Owner);

@@ -46,17 +46,16 @@ ControlRows::TRows GridRows()
         OBX_ROW(TPublisher, FixedRows).Default(1), OBX_ROW(TPublisher, GridLineWidth).Default(1),
         OBX_ROW(TPublisher, Options)
             .Default(TGridOptions{goFixedVertLine, goFixedHorzLine, goVertLine, goHorzLine, goRangeSelect}));
-    return Joined(std::move(Result), OBX_ROW(TPublisher, RowCount).Default(5),
-                  OBX_ROW(TPublisher, ScrollBars).Default(ssBoth),
-                  Prop<&TPublisher::OnColumnMoved>("OnColumnMoved"), Prop<&TPublisher::OnDrawCell>("OnDrawCell"),
-                  Prop<&TPublisher::OnGetEditMask>("OnGetEditMask"),
-                  Prop<&TPublisher::OnGetEditText>("OnGetEditText"), Prop<&TPublisher::OnRowMoved>("OnRowMoved"),
-                  Prop<&TPublisher::OnSelectCell>("OnSelectCell"),
-                  Prop<&TPublisher::OnSetEditText>("OnSetEditText"),
-                  Prop<&TPublisher::OnTopLeftChanged>("OnTopLeftChanged"));
+    return Joined(
+        std::move(Result), OBX_ROW(TPublisher, RowCount).Default(5),
+        OBX_ROW(TPublisher, ScrollBars).Default(ssBoth), Prop<&TPublisher::OnColumnMoved>("OnColumnMoved"),
+        Prop<&TPublisher::OnDrawCell>("OnDrawCell"), Prop<&TPublisher::OnGetEditMask>("OnGetEditMask"),
+        Prop<&TPublisher::OnGetEditText>("OnGetEditText"), Prop<&TPublisher::OnRowMoved>("OnRowMoved"),
+        Prop<&TPublisher::OnSelectCell>("OnSelectCell"), Prop<&TPublisher::OnSetEditText>("OnSetEditText"),
+        Prop<&TPublisher::OnTopLeftChanged>("OnTopLeftChanged"));
 }
 
-}  // namespace
+} // namespace
 
 const TMetaClass& TDrawGrid::MetaClass()
 {
@@ -140,8 +139,10 @@ bool TDrawGrid::MouseToCell(int X, int Y, int& ACol, int& ARow) const
         }
         return -1;
     };
-    ACol = Find(X, FColCount, [this](int I) { return ColLeft(I); }, [this](int I) { return ColWidths(I); });
-    ARow = Find(Y, FRowCount, [this](int I) { return RowTop(I); }, [this](int I) { return RowHeights(I); });
+    ACol = Find(
+        X, FColCount, [this](int I) { return ColLeft(I); }, [this](int I) { return ColWidths(I); });
+    ARow = Find(
+        Y, FRowCount, [this](int I) { return RowTop(I); }, [this](int I) { return RowHeights(I); });
     return ACol >= 0 && ARow >= 0;
 }
 
@@ -459,9 +460,11 @@ void TDrawGrid::Paint()
             Target.Brush()->SetStyle(bsSolid);
             Target.Brush()->SetColor(IsFixed ? clBtnShadow : clSilver);
             if (FOptions.Contains(IsFixed ? goFixedVertLine : goVertLine))
-                Target.FillRect({Area.right, Area.top, Area.right + FGridLineWidth, Area.bottom + FGridLineWidth});
+                Target.FillRect(
+                    {Area.right, Area.top, Area.right + FGridLineWidth, Area.bottom + FGridLineWidth});
             if (FOptions.Contains(IsFixed ? goFixedHorzLine : goHorzLine))
-                Target.FillRect({Area.left, Area.bottom, Area.right + FGridLineWidth, Area.bottom + FGridLineWidth});
+                Target.FillRect(
+                    {Area.left, Area.bottom, Area.right + FGridLineWidth, Area.bottom + FGridLineWidth});
         }
     }
 }

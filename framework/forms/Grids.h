@@ -6,9 +6,9 @@
 #include "framework/forms/CustomControl.h"
 #include "framework/forms/Edits.h"
 
-OBX_ENUM(TGridOption, goFixedVertLine, goFixedHorzLine, goVertLine, goHorzLine, goRangeSelect, goDrawFocusSelected,
-         goRowSizing, goColSizing, goRowMoving, goColMoving, goEditing, goTabs, goRowSelect, goAlwaysShowEditor,
-         goThumbTracking, goFixedColClick, goFixedRowClick, goFixedHotTrack)
+OBX_ENUM(TGridOption, goFixedVertLine, goFixedHorzLine, goVertLine, goHorzLine, goRangeSelect,
+         goDrawFocusSelected, goRowSizing, goColSizing, goRowMoving, goColMoving, goEditing, goTabs,
+         goRowSelect, goAlwaysShowEditor, goThumbTracking, goFixedColClick, goFixedRowClick, goFixedHotTrack)
 OBX_SET(TGridOptions, TGridOption)
 OBX_ENUM(TGridDrawStateFlag, gdSelected, gdFocused, gdFixed)
 using TGridDrawState = TSet<TGridDrawStateFlag>;
@@ -21,8 +21,7 @@ OBX_EVENT(TMovedEvent, TObject*, int, int)
 
 // Columns and rows are counted from 0, the fixed ones included. The program, or
 // a descendant, says what is in the cells; they are not edited in place.
-class TDrawGrid : public TCustomControl
-{
+class TDrawGrid : public TCustomControl {
     OBX_CLASS(TCustomControl)
 public:
     explicit TDrawGrid(TComponent* Owner);
@@ -115,13 +114,12 @@ private:
     int FRow = 1;
     int FLeftCol = 1;
     int FTopRow = 1;
-    std::map<int, int> FColWidths;  // those that differ from the default
+    std::map<int, int> FColWidths; // those that differ from the default
     std::map<int, int> FRowHeights;
 };
 
 // A grid that keeps a text for each cell.
-class TStringGrid : public TDrawGrid
-{
+class TStringGrid : public TDrawGrid {
     OBX_CLASS(TDrawGrid)
 public:
     explicit TStringGrid(TComponent* Owner);
@@ -134,5 +132,5 @@ protected:
     void SizeChanged() override;
 
 private:
-    std::map<std::pair<int, int>, std::string> FCells;  // by row, then column
+    std::map<std::pair<int, int>, std::string> FCells; // by row, then column
 };

@@ -13,11 +13,11 @@ const TMetaClass& TCustomGroupBox::MetaClass()
 const TMetaClass& TGroupBox::MetaClass()
 {
     using namespace ControlRows;
-    static const TMetaClass Class(
-        "TGroupBox", &TCustomGroupBox::MetaClass(), CreateComponent<TGroupBox>,
-        Sorted(Look(), Drag(), Mouse(), Focus(false), Dock(), ControlRows::Resize(), ControlRows::Ctl3D(), Buffer(),
-               ControlRows::Caption(), OBX_ROW(TGroupBox, Padding),
-               OBX_ROW(TGroupBox, ParentBackground).Default(true)));
+    static const TMetaClass Class("TGroupBox", &TCustomGroupBox::MetaClass(), CreateComponent<TGroupBox>,
+                                  Sorted(Look(), Drag(), Mouse(), Focus(false), Dock(), ControlRows::Resize(),
+                                         ControlRows::Ctl3D(), Buffer(), ControlRows::Caption(),
+                                         OBX_ROW(TGroupBox, Padding),
+                                         OBX_ROW(TGroupBox, ParentBackground).Default(true)));
     return Class;
 }
 
@@ -41,8 +41,8 @@ const TMetaClass& TRadioGroup::MetaClass()
 
 TCustomGroupBox::TCustomGroupBox(TComponent* Owner) : TCustomControl(Owner)
 {
-    FControlStyle = {csAcceptsControls, csCaptureMouse, csClickEvents, csSetCaption, csDoubleClicks,
-                     csReplicatable};
+    FControlStyle = {csAcceptsControls, csCaptureMouse, csClickEvents,
+                     csSetCaption,      csDoubleClicks, csReplicatable};
     SetBounds(0, 0, 185, 105);
 }
 
@@ -238,7 +238,8 @@ void TCustomRadioGroup::ArrangeButtons()
         int ButtonLeft = I / ButtonsPerColumn * ButtonWidth + 8;
         if (UseRightToLeftAlignment())
             ButtonLeft = ClientWidth() - ButtonLeft - ButtonWidth;
-        Button->SetBounds(ButtonLeft, I % ButtonsPerColumn * ButtonHeight + TopMargin, ButtonWidth, ButtonHeight);
+        Button->SetBounds(ButtonLeft, I % ButtonsPerColumn * ButtonHeight + TopMargin, ButtonWidth,
+                          ButtonHeight);
         Button->SetVisible(true);
     }
 }

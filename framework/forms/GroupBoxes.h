@@ -5,8 +5,7 @@
 #include "framework/forms/ItemStrings.h"
 #include "framework/forms/PushButtons.h"
 
-class TCustomGroupBox : public TCustomControl
-{
+class TCustomGroupBox : public TCustomControl {
     OBX_CLASS(TCustomControl)
 public:
     explicit TCustomGroupBox(TComponent* Owner);
@@ -18,8 +17,7 @@ protected:
     void Paint() override;
 };
 
-class TGroupBox : public TCustomGroupBox
-{
+class TGroupBox : public TCustomGroupBox {
     OBX_CLASS(TCustomGroupBox)
 public:
     using TCustomGroupBox::TCustomGroupBox;
@@ -27,8 +25,7 @@ public:
 
 // The buttons are made from Items; they belong to the group and are in no form
 // file.
-class TCustomRadioGroup : public TCustomGroupBox, public TItemsClient
-{
+class TCustomRadioGroup : public TCustomGroupBox, public TItemsClient {
     OBX_CLASS(TCustomGroupBox)
 public:
     explicit TCustomRadioGroup(TComponent* Owner);
@@ -72,8 +69,7 @@ private:
     bool FUpdating = false;
 };
 
-class TRadioGroup : public TCustomRadioGroup
-{
+class TRadioGroup : public TCustomRadioGroup {
     OBX_CLASS(TCustomRadioGroup)
 public:
     using TCustomRadioGroup::TCustomRadioGroup;

@@ -15,21 +15,23 @@ bool IsCode(const NMHDR& Header, UINT Narrow)
 
 TRows HeaderRows()
 {
-    return Sorted(Base(), Drag(), Mouse(), Focus(false), Buffer(), Resize(), OBX_ROW(TControl, Align).Default(alTop),
-                  OBX_ROW(TWinControl, BorderWidth).Default(0), OBX_ROW(TControl, Font).Stored<&TControl::IsFontStored>(),
-                  OBX_ROW(TControl, ParentFont).Default(true), OBX_ROW(THeaderControl, DragReorder).Default(false),
-                  OBX_ROW(THeaderControl, FullDrag).Default(true), OBX_ROW(THeaderControl, HotTrack).Default(false),
-                  OBX_ROW(THeaderControl, Images), OBX_ROW(THeaderControl, NoSizing).Default(false),
-                  OBX_ROW(THeaderControl, Sections), OBX_ROW(THeaderControl, Style).Default(hsButtons),
-                  Prop<&THeaderControl::OnDrawSection>("OnDrawSection"),
-                  Prop<&THeaderControl::OnSectionClick>("OnSectionClick"),
-                  Prop<&THeaderControl::OnSectionDrag>("OnSectionDrag"),
-                  Prop<&THeaderControl::OnSectionEndDrag>("OnSectionEndDrag"),
-                  Prop<&THeaderControl::OnSectionResize>("OnSectionResize"),
-                  Prop<&THeaderControl::OnSectionTrack>("OnSectionTrack"));
+    return Sorted(
+        Base(), Drag(), Mouse(), Focus(false), Buffer(), Resize(), OBX_ROW(TControl, Align).Default(alTop),
+        OBX_ROW(TWinControl, BorderWidth).Default(0),
+        OBX_ROW(TControl, Font).Stored<&TControl::IsFontStored>(),
+        OBX_ROW(TControl, ParentFont).Default(true), OBX_ROW(THeaderControl, DragReorder).Default(false),
+        OBX_ROW(THeaderControl, FullDrag).Default(true), OBX_ROW(THeaderControl, HotTrack).Default(false),
+        OBX_ROW(THeaderControl, Images), OBX_ROW(THeaderControl, NoSizing).Default(false),
+        OBX_ROW(THeaderControl, Sections), OBX_ROW(THeaderControl, Style).Default(hsButtons),
+        Prop<&THeaderControl::OnDrawSection>("OnDrawSection"),
+        Prop<&THeaderControl::OnSectionClick>("OnSectionClick"),
+        Prop<&THeaderControl::OnSectionDrag>("OnSectionDrag"),
+        Prop<&THeaderControl::OnSectionEndDrag>("OnSectionEndDrag"),
+        Prop<&THeaderControl::OnSectionResize>("OnSectionResize"),
+        Prop<&THeaderControl::OnSectionTrack>("OnSectionTrack"));
 }
 
-}  // namespace
+} // namespace
 
 const TMetaClass& THeaderSection::MetaClass()
 {
@@ -199,7 +201,7 @@ void TCustomHeaderControl::Dispatch(TMessage& Message)
     TWinControl::Dispatch(Message);
 }
 
-void RegisterHeaderControls()
+void RegisterHeaderControlClasses()
 {
     RegisterClass(THeaderControl::MetaClass());
 }

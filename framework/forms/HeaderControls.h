@@ -17,8 +17,7 @@ OBX_EVENT(TSectionNotifyEvent, TObject*, THeaderSection*)
 OBX_EVENT(TSectionTrackEvent, TObject*, THeaderSection*, int, TSectionTrackState)
 OBX_EVENT(TSectionDragEvent, TObject*, THeaderSection*, THeaderSection*, bool&)
 
-class THeaderSection : public TCollectionItem
-{
+class THeaderSection : public TCollectionItem {
     OBX_CLASS(TCollectionItem)
 public:
     using TCollectionItem::TCollectionItem;
@@ -45,8 +44,7 @@ private:
     friend class TCustomHeaderControl;
 };
 
-class THeaderSections : public TCollection
-{
+class THeaderSections : public TCollection {
     OBX_CLASS(TCollection)
 public:
     explicit THeaderSections(TCustomHeaderControl* Header);
@@ -60,8 +58,7 @@ private:
     TCustomHeaderControl* FHeader;
 };
 
-class TCustomHeaderControl : public TWinControl
-{
+class TCustomHeaderControl : public TWinControl {
     OBX_CLASS(TWinControl)
 public:
     explicit TCustomHeaderControl(TComponent* Owner);
@@ -107,11 +104,10 @@ private:
     TCustomImageList* FImages = nullptr;
 };
 
-class THeaderControl : public TCustomHeaderControl
-{
+class THeaderControl : public TCustomHeaderControl {
     OBX_CLASS(TCustomHeaderControl)
 public:
     using TCustomHeaderControl::TCustomHeaderControl;
 };
 
-void RegisterHeaderControls();
+void RegisterHeaderControlClasses();

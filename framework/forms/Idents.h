@@ -4,8 +4,7 @@
 #include <string>
 #include <string_view>
 
-struct TIdentMapEntry
-{
+struct TIdentMapEntry {
     int Value;
     const char* Name;
 };

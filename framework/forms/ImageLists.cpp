@@ -19,11 +19,11 @@ int WordAt(const std::string& Bytes, size_t Offset)
 
 uint32_t LongAt(const std::string& Bytes, size_t Offset)
 {
-    return static_cast<uint32_t>(WordAt(Bytes, Offset)) | static_cast<uint32_t>(WordAt(Bytes, Offset + 2)) << 16;
+    return static_cast<uint32_t>(WordAt(Bytes, Offset)) | static_cast<uint32_t>(WordAt(Bytes, Offset + 2))
+                                                              << 16;
 }
 
-struct TStoredList
-{
+struct TStoredList {
     int Count = 0;
     int Width = 0;
     int Height = 0;
@@ -64,8 +64,7 @@ bool Decode(const std::string& Bytes, TStoredList& List)
 }
 
 // A strip of bitmaps copied one picture at a time.
-class TStrip
-{
+class TStrip {
 public:
     explicit TStrip(const std::string& File)
     {
@@ -85,7 +84,8 @@ public:
         if (Y + Height > FBitmap.Height())
             return false;
         Target.SetSize(Width, Height);
-        Target.Canvas()->CopyRect(Bounds(0, 0, Width, Height), *FBitmap.Canvas(), Bounds(X, Y, Width, Height));
+        Target.Canvas()->CopyRect(Bounds(0, 0, Width, Height), *FBitmap.Canvas(),
+                                  Bounds(X, Y, Width, Height));
         return true;
     }
 
@@ -93,7 +93,7 @@ private:
     TBitmap FBitmap;
 };
 
-}  // namespace
+} // namespace
 
 const TMetaClass& TCustomImageList::MetaClass()
 {
@@ -283,7 +283,7 @@ void TCustomImageList::PropertyChanged()
     Changed();
 }
 
-void RegisterImageLists()
+void RegisterImageListClasses()
 {
     RegisterClass(TImageList::MetaClass());
 }

@@ -18,8 +18,7 @@ using TImageIndex = int;
 // Form files carry the pictures as the binary property "Bitmap": the bytes are
 // kept and written as they were as long as the list is not changed. Kinds that
 // cannot be read are kept too, without pictures.
-class TCustomImageList : public TComponent
-{
+class TCustomImageList : public TComponent {
     OBX_CLASS(TComponent)
 public:
     explicit TCustomImageList(TComponent* Owner);
@@ -70,17 +69,16 @@ private:
     void AddStored();
     void PicturesChanged();
 
-    std::string FStored;  // the form file's bytes; empty after a change
+    std::string FStored; // the form file's bytes; empty after a change
     HIMAGELIST FHandle = nullptr;
     int FWidth = 16;
     int FHeight = 16;
 };
 
-class TImageList : public TCustomImageList
-{
+class TImageList : public TCustomImageList {
     OBX_CLASS(TCustomImageList)
 public:
     explicit TImageList(TComponent* Owner) : TCustomImageList(Owner) {}
 };
 
-void RegisterImageLists();
+void RegisterImageListClasses();

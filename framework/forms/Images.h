@@ -3,8 +3,7 @@
 
 #include "framework/forms/GraphicControl.h"
 
-class TImage : public TGraphicControl
-{
+class TImage : public TGraphicControl {
     OBX_CLASS(TGraphicControl)
 public:
     explicit TImage(TComponent* Owner);
@@ -35,8 +34,7 @@ private:
 };
 
 // Shows what OnPaint draws on its canvas.
-class TPaintBox : public TGraphicControl
-{
+class TPaintBox : public TGraphicControl {
     OBX_CLASS(TGraphicControl)
 public:
     explicit TPaintBox(TComponent* Owner);

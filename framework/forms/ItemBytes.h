@@ -8,8 +8,7 @@
 
 // Takes numbers, lowest byte first, and counted texts from the front of Bytes.
 // Reading past the end gives 0 or an empty text and makes Ok false for good.
-class TItemBytesReader
-{
+class TItemBytesReader {
 public:
     explicit TItemBytesReader(const std::string& Bytes) : FBytes(Bytes) {}
 

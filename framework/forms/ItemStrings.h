@@ -7,8 +7,7 @@
 #include "framework/rtl/Strings.h"
 
 // A control that is told of every change after it has happened.
-class TItemsClient
-{
+class TItemsClient {
 public:
     virtual ~TItemsClient() = default;
     virtual void ItemInserted(int Index) = 0;
@@ -23,8 +22,7 @@ public:
 // Holds the lines whether the control has a window or not. A list that the
 // control sorts takes new lines where they belong, and keeps a line that is
 // changed where it is: a translated line must not move under its index.
-class TItemStrings : public TStringList
-{
+class TItemStrings : public TStringList {
 public:
     TItemStrings(TPersistent& Owner, TItemsClient& Client) : FOwner(Owner), FClient(Client) {}
 

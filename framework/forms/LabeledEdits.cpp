@@ -12,9 +12,11 @@ const TMetaClass& TBoundLabel::MetaClass()
                OBX_ROW(TBoundLabel, BiDiMode).Stored<&TBoundLabel::IsBiDiModeStored>(),
                OBX_ROW(TBoundLabel, Color).Default(clWindow).Stored<&TBoundLabel::IsColorStored>(),
                OBX_ROW(TBoundLabel, Font).Stored<&TBoundLabel::IsFontStored>(),
-               OBX_ROW(TBoundLabel, ParentBiDiMode).Default(true), OBX_ROW(TBoundLabel, ParentColor).Default(true),
-               OBX_ROW(TBoundLabel, ParentFont).Default(true), OBX_ROW(TBoundLabel, ParentShowHint).Default(true),
-               OBX_ROW(TBoundLabel, PopupMenu), OBX_ROW(TBoundLabel, ShowAccelChar).Default(true),
+               OBX_ROW(TBoundLabel, ParentBiDiMode).Default(true),
+               OBX_ROW(TBoundLabel, ParentColor).Default(true),
+               OBX_ROW(TBoundLabel, ParentFont).Default(true),
+               OBX_ROW(TBoundLabel, ParentShowHint).Default(true), OBX_ROW(TBoundLabel, PopupMenu),
+               OBX_ROW(TBoundLabel, ShowAccelChar).Default(true),
                OBX_ROW(TBoundLabel, ShowHint).Stored<&TBoundLabel::IsShowHintStored>(),
                OBX_ROW(TBoundLabel, Layout).Default(tlTop),
                OBX_ROW(TBoundLabel, Transparent).Stored<&TBoundLabel::IsTransparentStored>(),
@@ -30,11 +32,12 @@ const TMetaClass& TCustomLabeledEdit::MetaClass()
 
 const TMetaClass& TLabeledEdit::MetaClass()
 {
-    static const TMetaClass Class(
-        "TLabeledEdit", &TCustomLabeledEdit::MetaClass(), CreateComponent<TLabeledEdit>,
-        ControlRows::Sorted(ControlRows::SingleLineRows<TLabeledEdit>(), Prop<&TLabeledEdit::EditLabel>("EditLabel"),
-                            OBX_ROW(TLabeledEdit, LabelPosition).Default(lpAbove),
-                            OBX_ROW(TLabeledEdit, LabelSpacing).Default(3)));
+    static const TMetaClass Class("TLabeledEdit", &TCustomLabeledEdit::MetaClass(),
+                                  CreateComponent<TLabeledEdit>,
+                                  ControlRows::Sorted(ControlRows::SingleLineRows<TLabeledEdit>(),
+                                                      Prop<&TLabeledEdit::EditLabel>("EditLabel"),
+                                                      OBX_ROW(TLabeledEdit, LabelPosition).Default(lpAbove),
+                                                      OBX_ROW(TLabeledEdit, LabelSpacing).Default(3)));
     return Class;
 }
 

@@ -8,8 +8,7 @@ OBX_ENUM(TLabelPosition, lpAbove, lpBelow, lpLeft, lpRight)
 
 // The label of another control: made, placed and destroyed by it. Form files
 // have it as a property of its control.
-class TBoundLabel : public TCustomLabel
-{
+class TBoundLabel : public TCustomLabel {
     OBX_CLASS(TCustomLabel)
 public:
     explicit TBoundLabel(TComponent* Owner);
@@ -18,8 +17,7 @@ protected:
     void AdjustBounds() override;
 };
 
-class TCustomLabeledEdit : public TCustomEdit
-{
+class TCustomLabeledEdit : public TCustomEdit {
     OBX_CLASS(TCustomEdit)
 public:
     explicit TCustomLabeledEdit(TComponent* Owner);
@@ -50,8 +48,7 @@ private:
     int FLabelSpacing = 3;
 };
 
-class TLabeledEdit : public TCustomLabeledEdit
-{
+class TLabeledEdit : public TCustomLabeledEdit {
     OBX_CLASS(TCustomLabeledEdit)
 public:
     using TCustomLabeledEdit::TCustomLabeledEdit;

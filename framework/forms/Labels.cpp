@@ -32,7 +32,7 @@ void FocusByMnemonic(TMessage& Message, const TControl& Label, TWinControl* Focu
     }
 }
 
-}  // namespace
+} // namespace
 
 const TMetaClass& TCustomLabel::MetaClass()
 {
@@ -118,7 +118,8 @@ void TCustomLabel::AdjustBounds()
     if (!AutoSize() || IsLoading() || !Parent() || !Parent()->HandleAllocated())
         return;
     FMeasured = true;
-    const UINT Flags = TextFlags() & ~static_cast<UINT>(DT_END_ELLIPSIS | DT_PATH_ELLIPSIS | DT_WORD_ELLIPSIS);
+    const UINT Flags =
+        TextFlags() & ~static_cast<UINT>(DT_END_ELLIPSIS | DT_PATH_ELLIPSIS | DT_WORD_ELLIPSIS);
     const TSize Size = MeasureText(*this, MeasurableText(Caption(), ShowAccelChar()), Width(), Flags);
     const bool KeepsRight = FAlignment == taRightJustify;
     const int NewLeft = KeepsRight ? Left() + Width() - static_cast<int>(Size.cx) : Left();
@@ -210,8 +211,7 @@ const TMetaClass& TStaticText::MetaClass()
         Sorted(Look(), Drag(), Mouse(), Bevel(), ControlRows::Caption(), ControlRows::AutoSize(true),
                OBX_ROW(TStaticText, Alignment).Default(taLeftJustify),
                OBX_ROW(TStaticText, BorderStyle).Default(sbsNone), OBX_ROW(TStaticText, FocusControl),
-               OBX_ROW(TStaticText, ShowAccelChar).Default(true),
-               OBX_ROW(TStaticText, TabOrder).Default(-1),
+               OBX_ROW(TStaticText, ShowAccelChar).Default(true), OBX_ROW(TStaticText, TabOrder).Default(-1),
                OBX_ROW(TStaticText, TabStop).Default(false),
                OBX_ROW(TStaticText, Transparent).Default(true)));
     return Class;

@@ -9,8 +9,7 @@ OBX_ENUM(TStaticBorderStyle, sbsNone, sbsSingle, sbsSunken)
 
 // With AutoSize the label takes the size of its text, as soon as and as long as
 // its parent has a window; while a form is only loaded, sizes stay as they are.
-class TCustomLabel : public TGraphicControl
-{
+class TCustomLabel : public TGraphicControl {
     OBX_CLASS(TGraphicControl)
 public:
     explicit TCustomLabel(TComponent* Owner);
@@ -55,15 +54,13 @@ private:
     bool FMeasured = false;
 };
 
-class TLabel : public TCustomLabel
-{
+class TLabel : public TCustomLabel {
     OBX_CLASS(TCustomLabel)
 public:
     using TCustomLabel::TCustomLabel;
 };
 
-class TCustomStaticText : public TWinControl
-{
+class TCustomStaticText : public TWinControl {
     OBX_CLASS(TWinControl)
 public:
     explicit TCustomStaticText(TComponent* Owner);
@@ -96,8 +93,7 @@ private:
     bool FShowAccelChar = true;
 };
 
-class TStaticText : public TCustomStaticText
-{
+class TStaticText : public TCustomStaticText {
     OBX_CLASS(TCustomStaticText)
 public:
     using TCustomStaticText::TCustomStaticText;

@@ -22,8 +22,7 @@ bool InsertBefore(const TControl& C1, const TControl& C2, TAlign Align)
     }
 }
 
-struct TEdges
-{
+struct TEdges {
     int Left = 0;
     int Top = 0;
     int Right = 0;
@@ -44,7 +43,7 @@ int Scaled(int64_t Value, int64_t Numerator, int64_t Denominator)
     return static_cast<int>((Product + (Product < 0 ? -Denominator / 2 : Denominator / 2)) / Denominator);
 }
 
-}  // namespace
+} // namespace
 
 void TLayout::AlignControls(TWinControl& Parent, TControl* AControl, TRect& Rect)
 {

@@ -3,8 +3,7 @@
 
 #include "framework/forms/WinControl.h"
 
-class TLayout
-{
+class TLayout {
 public:
     // Places the controls of Parent in Rect (client coordinates), which shrinks
     // to what alignment leaves. AControl is the one that was just moved or

@@ -13,15 +13,15 @@ template<class TPublisher>
 ControlRows::TRows ListRows()
 {
     using namespace ControlRows;
-    TRows Result =
-        Joined(Look(), Drag(), Mouse(), Focus(true), Ime(), Bevel(), ControlRows::Ctl3D(), Buffer(),
-               OBX_ROW(TPublisher, ParentColor).Default(false), OBX_ROW(TPublisher, AutoComplete).Default(true),
-               OBX_ROW(TPublisher, BorderStyle).Default(bsSingle), OBX_ROW(TPublisher, Columns).Default(0),
-               OBX_ROW(TPublisher, IntegralHeight).Default(false), OBX_ROW(TPublisher, ItemHeight).Default(16),
-               OBX_ROW(TPublisher, Items), OBX_ROW(TPublisher, ScrollWidth).Default(0),
-               OBX_ROW(TPublisher, Sorted).Default(false), OBX_ROW(TPublisher, Style).Default(lbStandard));
-    return Joined(std::move(Result), OBX_ROW(TPublisher, TabWidth).Default(0), Prop<&TPublisher::OnData>("OnData"),
-                  Prop<&TPublisher::OnDrawItem>("OnDrawItem"),
+    TRows Result = Joined(
+        Look(), Drag(), Mouse(), Focus(true), Ime(), Bevel(), ControlRows::Ctl3D(), Buffer(),
+        OBX_ROW(TPublisher, ParentColor).Default(false), OBX_ROW(TPublisher, AutoComplete).Default(true),
+        OBX_ROW(TPublisher, BorderStyle).Default(bsSingle), OBX_ROW(TPublisher, Columns).Default(0),
+        OBX_ROW(TPublisher, IntegralHeight).Default(false), OBX_ROW(TPublisher, ItemHeight).Default(16),
+        OBX_ROW(TPublisher, Items), OBX_ROW(TPublisher, ScrollWidth).Default(0),
+        OBX_ROW(TPublisher, Sorted).Default(false), OBX_ROW(TPublisher, Style).Default(lbStandard));
+    return Joined(std::move(Result), OBX_ROW(TPublisher, TabWidth).Default(0),
+                  Prop<&TPublisher::OnData>("OnData"), Prop<&TPublisher::OnDrawItem>("OnDrawItem"),
                   Prop<&TPublisher::OnMeasureItem>("OnMeasureItem"));
 }
 
@@ -30,7 +30,7 @@ LRESULT Send(const TWinControl& Control, UINT Message, WPARAM WParam = 0, LPARAM
     return SendMessageA(Control.WindowHandle(), Message, WParam, LParam);
 }
 
-}  // namespace
+} // namespace
 
 const TMetaClass& TCustomListBox::MetaClass()
 {
@@ -40,10 +40,10 @@ const TMetaClass& TCustomListBox::MetaClass()
 
 const TMetaClass& TListBox::MetaClass()
 {
-    static const TMetaClass Class(
-        "TListBox", &TCustomListBox::MetaClass(), CreateComponent<TListBox>,
-        ControlRows::Sorted(ListRows<TListBox>(), OBX_ROW(TListBox, ExtendedSelect).Default(true),
-                            OBX_ROW(TListBox, MultiSelect).Default(false)));
+    static const TMetaClass Class("TListBox", &TCustomListBox::MetaClass(), CreateComponent<TListBox>,
+                                  ControlRows::Sorted(ListRows<TListBox>(),
+                                                      OBX_ROW(TListBox, ExtendedSelect).Default(true),
+                                                      OBX_ROW(TListBox, MultiSelect).Default(false)));
     return Class;
 }
 
@@ -58,7 +58,8 @@ const TMetaClass& TCheckListBox::MetaClass()
 }
 
 TCustomListBox::TCustomListBox(TComponent* Owner)
-    : TWinControl(Owner), FItems(std::make_unique<TItemStrings>(*this, *this)), FCanvas(std::make_unique<TCanvas>())
+    : TWinControl(Owner), FItems(std::make_unique<TItemStrings>(*this, *this)),
+      FCanvas(std::make_unique<TCanvas>())
 {
     FControlStyle = {csSetCaption, csDoubleClicks, csOpaque};
     SetBounds(0, 0, 121, 97);
@@ -174,13 +175,6 @@ void TCustomListBox::SetItemHeight(int Value)
     RecreateWnd();
 }
 
-void TCustomListBox::SetScrollWidth(int Value)
-{
-    FScrollWidth = Value;
-    if (HandleAllocated())
-        Send(*this, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(Value));
-}
-
 void TCustomListBox::SetSorted(bool Value)
 {
     FItems->SetKeepsSorted(Value);
@@ -198,7 +192,9 @@ void TCustomListBox::CreateParams(TCreateParams& Params)
     TWinControl::CreateParams(Params);
     CreateSubClass(Params, "LISTBOX");
     Params.Style |= LBS_HASSTRINGS | LBS_NOTIFY;
-    Params.Style |= FColumns > 0 ? LBS_MULTICOLUMN | WS_HSCROLL : WS_VSCROLL | WS_HSCROLL;
+    Params.Style |= FColumns > 0 ? LBS_MULTICOLUMN | WS_HSCROLL : WS_VSCROLL;
+    if (FScrollWidth > 0)
+        Params.Style |= WS_HSCROLL;
     if (IsOwnerDrawn())
         Params.Style |= FStyle == lbOwnerDrawVariable ? LBS_OWNERDRAWVARIABLE : LBS_OWNERDRAWFIXED;
     if (FMultiSelect)
@@ -231,7 +227,7 @@ void TCustomListBox::CreateWnd()
     if (Index >= 0)
         SetItemIndex(Index);
     if (FScrollWidth > 0)
-        SetScrollWidth(FScrollWidth);
+        Send(*this, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(FScrollWidth));
 }
 
 void TCustomListBox::DestroyWnd()
@@ -252,7 +248,8 @@ void TCustomListBox::ItemInserted(int Index)
 {
     FSelected.insert(FSelected.begin() + Index, false);
     if (HandleAllocated())
-        Send(*this, LB_INSERTSTRING, static_cast<WPARAM>(Index), reinterpret_cast<LPARAM>(FItems->Get(Index).c_str()));
+        Send(*this, LB_INSERTSTRING, static_cast<WPARAM>(Index),
+             reinterpret_cast<LPARAM>(FItems->Get(Index).c_str()));
     else if (!IsLoading() && FItemIndex >= Index)
         ++FItemIndex;
 }
@@ -274,7 +271,8 @@ void TCustomListBox::ItemChanged(int Index)
     const int Top = TopIndex();
     const bool WasSelected = Selected(Index);
     Send(*this, LB_DELETESTRING, static_cast<WPARAM>(Index));
-    Send(*this, LB_INSERTSTRING, static_cast<WPARAM>(Index), reinterpret_cast<LPARAM>(FItems->Get(Index).c_str()));
+    Send(*this, LB_INSERTSTRING, static_cast<WPARAM>(Index),
+         reinterpret_cast<LPARAM>(FItems->Get(Index).c_str()));
     if (FMultiSelect && WasSelected)
         Send(*this, LB_SETSEL, 1, Index);
     SetItemIndex(Chosen);
@@ -366,7 +364,8 @@ void TCustomListBox::Dispatch(TMessage& Message)
     case WM_SIZE:
         TWinControl::Dispatch(Message);
         if (FColumns > 0 && HandleAllocated())
-            Send(*this, LB_SETCOLUMNWIDTH, static_cast<WPARAM>(std::max(1, (Width() + FColumns - 3) / FColumns)));
+            Send(*this, LB_SETCOLUMNWIDTH,
+                 static_cast<WPARAM>(std::max(1, (Width() + FColumns - 3) / FColumns)));
         return;
     default:
         TWinControl::Dispatch(Message);
@@ -439,7 +438,8 @@ void TCheckListBox::MouseDown(TMouseButton Button, TShiftState Shift, int X, int
 
 void TCheckListBox::DrawItem(int Index, const TRect& Area, TOwnerDrawState ItemState)
 {
-    const TCheck Item = Index < static_cast<int>(FChecks.size()) ? FChecks[static_cast<size_t>(Index)] : TCheck{};
+    const TCheck Item =
+        Index < static_cast<int>(FChecks.size()) ? FChecks[static_cast<size_t>(Index)] : TCheck{};
     const bool AtRight = UseRightToLeftAlignment();
     TRect Text = Area;
     (AtRight ? Text.right : Text.left) += AtRight ? -CheckWidth : CheckWidth;
@@ -453,7 +453,8 @@ void TCheckListBox::DrawItem(int Index, const TRect& Area, TOwnerDrawState ItemS
     Flags |= Item.Enabled && Enabled() ? 0 : DFCS_INACTIVE;
     const TColor Fill = Canvas()->Brush()->Color();
     Canvas()->Brush()->SetColor(Color());
-    Canvas()->FillRect({AtRight ? Text.right : Area.left, Area.top, AtRight ? Area.right : Text.left, Area.bottom});
+    Canvas()->FillRect(
+        {AtRight ? Text.right : Area.left, Area.top, AtRight ? Area.right : Text.left, Area.bottom});
     Canvas()->Brush()->SetColor(Fill);
     DrawFrameControl(Canvas()->Handle(), &Box, DFC_BUTTON, Flags | (Flat() ? DFCS_FLAT : 0u));
     TCustomListBox::DrawItem(Index, Text, ItemState);

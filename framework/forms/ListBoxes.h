@@ -12,8 +12,7 @@ OBX_EVENT(TMeasureItemEvent, TWinControl*, int, int&)
 OBX_EVENT(TLBGetDataEvent, TWinControl*, int, std::string&)
 
 // Items and selection are kept with and without a window.
-class TCustomListBox : public TWinControl, public TItemsClient
-{
+class TCustomListBox : public TWinControl, public TItemsClient {
     OBX_CLASS(TWinControl)
 public:
     explicit TCustomListBox(TComponent* Owner);
@@ -55,8 +54,9 @@ public:
     void SetItemHeight(int Value);
     bool MultiSelect() const { return FMultiSelect; }
     void SetMultiSelect(bool Value) { SetStyled(FMultiSelect, Value); }
+    // Pixels that can be scrolled to sideways; 0 for no scroll bar.
     int ScrollWidth() const { return FScrollWidth; }
-    void SetScrollWidth(int Value);
+    void SetScrollWidth(int Value) { SetStyled(FScrollWidth, Value); }
     bool Sorted() const { return FItems->KeepsSorted(); }
     void SetSorted(bool Value);
     TListBoxStyle Style() const { return FStyle; }
@@ -116,16 +116,14 @@ private:
     std::vector<bool> FSelected;
 };
 
-class TListBox : public TCustomListBox
-{
+class TListBox : public TCustomListBox {
     OBX_CLASS(TCustomListBox)
 public:
     using TCustomListBox::TCustomListBox;
 };
 
 // A list box with a check box in front of each item.
-class TCheckListBox : public TCustomListBox
-{
+class TCheckListBox : public TCustomListBox {
     OBX_CLASS(TCustomListBox)
 public:
     explicit TCheckListBox(TComponent* Owner);
@@ -153,8 +151,7 @@ protected:
     void ItemDeleted(int Index) override;
 
 private:
-    struct TCheck
-    {
+    struct TCheck {
         TCheckBoxState State = cbUnchecked;
         bool Enabled = true;
     };

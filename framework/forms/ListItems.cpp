@@ -14,7 +14,7 @@ constexpr const char* NarrowProperty = "Data";
 constexpr const char* WideProperty = "ItemData";
 constexpr int WideVersion = 3;
 
-}  // namespace
+} // namespace
 
 const TMetaClass& TListColumn::MetaClass()
 {

@@ -16,8 +16,7 @@ class TStream;
 
 OBX_ENUM(TWidthType, wtDefault, wtContent, wtHeader)
 
-class TListColumn : public TCollectionItem
-{
+class TListColumn : public TCollectionItem {
     OBX_CLASS(TCollectionItem)
 public:
     using TCollectionItem::TCollectionItem;
@@ -41,8 +40,7 @@ private:
 constexpr int ColumnTextWidth = -1;
 constexpr int ColumnHeaderWidth = -2;
 
-class TListColumns : public TCollection
-{
+class TListColumns : public TCollection {
     OBX_CLASS(TCollection)
 public:
     explicit TListColumns(TCustomListView* ListView);
@@ -57,8 +55,7 @@ private:
 };
 
 // A line of a list view. Owned by its TListItems.
-class TListItem : public TPersistent
-{
+class TListItem : public TPersistent {
     OBX_CLASS(TPersistent)
 public:
     explicit TListItem(TListItems* Owner);
@@ -108,8 +105,7 @@ private:
 // The items, kept with and without a window. Form files carry them as the binary
 // property "Data" or, newer, "ItemData"; as long as nothing changes, the bytes
 // are written as they were read.
-class TListItems : public TPersistent
-{
+class TListItems : public TPersistent {
     OBX_CLASS(TPersistent)
 public:
     explicit TListItems(TCustomListView* Owner) : FListView(Owner) {}
@@ -144,5 +140,5 @@ private:
     TCustomListView* FListView;
     std::vector<std::unique_ptr<TListItem>> FItems;
     std::string FStored;
-    std::string FStoredAs;  // the property that FStored was read from
+    std::string FStoredAs; // the property that FStored was read from
 };

@@ -16,7 +16,7 @@ UINT StatePicture(int Number)
     return static_cast<UINT>(INDEXTOSTATEIMAGEMASK(Number));
 }
 
-}  // namespace
+} // namespace
 
 const TMetaClass& TCustomListView::MetaClass()
 {
@@ -29,31 +29,35 @@ const TMetaClass& TListView::MetaClass()
     using namespace ControlRows;
     static const TMetaClass Class(
         "TListView", &TCustomListView::MetaClass(), CreateComponent<TListView>,
-        Sorted(Look(), Drag(), Mouse(), Focus(true), Bevel(), ControlRows::Ctl3D(), Buffer(), ControlRows::Resize(), Wheel(),
-               ControlRows::Action(), OBX_ROW(TControl, ParentColor).Default(false),
-               OBX_ROW(TWinControl, BorderWidth).Default(0), OBX_ROW(TListView, BorderStyle).Default(bsSingle),
+        Sorted(Look(), Drag(), Mouse(), Focus(true), Bevel(), ControlRows::Ctl3D(), Buffer(),
+               ControlRows::Resize(), Wheel(), ControlRows::Action(),
+               OBX_ROW(TControl, ParentColor).Default(false), OBX_ROW(TWinControl, BorderWidth).Default(0),
+               OBX_ROW(TListView, BorderStyle).Default(bsSingle),
                OBX_ROW(TListView, Checkboxes).Default(false), OBX_ROW(TListView, Columns),
-               OBX_ROW(TListView, ColumnClick).Default(true), OBX_ROW(TListView, FlatScrollBars).Default(false),
-               OBX_ROW(TListView, FullDrag).Default(false), OBX_ROW(TListView, GridLines).Default(false),
-               OBX_ROW(TListView, GroupView).Default(false), OBX_ROW(TListView, HideSelection).Default(true),
-               OBX_ROW(TListView, HotTrack).Default(false),
+               OBX_ROW(TListView, ColumnClick).Default(true),
+               OBX_ROW(TListView, FlatScrollBars).Default(false), OBX_ROW(TListView, FullDrag).Default(false),
+               OBX_ROW(TListView, GridLines).Default(false), OBX_ROW(TListView, GroupView).Default(false),
+               OBX_ROW(TListView, HideSelection).Default(true), OBX_ROW(TListView, HotTrack).Default(false),
                OBX_ROW(TListView, HotTrackStyles).Default(TListHotTrackStyles{}),
-               OBX_ROW(TListView, HoverTime).Default(-1), OBX_ROW(TListView, Items), OBX_ROW(TListView, LargeImages),
-               OBX_ROW(TListView, MultiSelect).Default(false), OBX_ROW(TListView, OwnerData).Default(false),
-               OBX_ROW(TListView, OwnerDraw).Default(false), OBX_ROW(TListView, ReadOnly).Default(false),
-               OBX_ROW(TListView, RowSelect).Default(false), OBX_ROW(TListView, ShowColumnHeaders).Default(true),
+               OBX_ROW(TListView, HoverTime).Default(-1), OBX_ROW(TListView, Items),
+               OBX_ROW(TListView, LargeImages), OBX_ROW(TListView, MultiSelect).Default(false),
+               OBX_ROW(TListView, OwnerData).Default(false), OBX_ROW(TListView, OwnerDraw).Default(false),
+               OBX_ROW(TListView, ReadOnly).Default(false), OBX_ROW(TListView, RowSelect).Default(false),
+               OBX_ROW(TListView, ShowColumnHeaders).Default(true),
                OBX_ROW(TListView, ShowWorkAreas).Default(false), OBX_ROW(TListView, SmallImages),
                OBX_ROW(TListView, SortType).Default(stNone), OBX_ROW(TListView, StateImages),
                OBX_ROW(TListView, ViewStyle).Default(vsIcon), Prop<&TListView::OnCustomDraw>("OnCustomDraw"),
                Prop<&TListView::OnCustomDrawItem>("OnCustomDrawItem"),
-               Prop<&TListView::OnCustomDrawSubItem>("OnCustomDrawSubItem"), Prop<&TListView::OnChange>("OnChange"),
-               Prop<&TListView::OnChanging>("OnChanging"), Prop<&TListView::OnColumnClick>("OnColumnClick"),
-               Prop<&TListView::OnColumnRightClick>("OnColumnRightClick"), Prop<&TListView::OnCompare>("OnCompare"),
-               Prop<&TListView::OnData>("OnData"), Prop<&TListView::OnDeletion>("OnDeletion"),
-               Prop<&TListView::OnDrawItem>("OnDrawItem"), Prop<&TListView::OnEdited>("OnEdited"),
-               Prop<&TListView::OnEditing>("OnEditing"), Prop<&TListView::OnGetImageIndex>("OnGetImageIndex"),
-               Prop<&TListView::OnInfoTip>("OnInfoTip"), Prop<&TListView::OnInsert>("OnInsert"),
-               Prop<&TListView::OnItemChecked>("OnItemChecked"), Prop<&TListView::OnSelectItem>("OnSelectItem")));
+               Prop<&TListView::OnCustomDrawSubItem>("OnCustomDrawSubItem"),
+               Prop<&TListView::OnChange>("OnChange"), Prop<&TListView::OnChanging>("OnChanging"),
+               Prop<&TListView::OnColumnClick>("OnColumnClick"),
+               Prop<&TListView::OnColumnRightClick>("OnColumnRightClick"),
+               Prop<&TListView::OnCompare>("OnCompare"), Prop<&TListView::OnData>("OnData"),
+               Prop<&TListView::OnDeletion>("OnDeletion"), Prop<&TListView::OnDrawItem>("OnDrawItem"),
+               Prop<&TListView::OnEdited>("OnEdited"), Prop<&TListView::OnEditing>("OnEditing"),
+               Prop<&TListView::OnGetImageIndex>("OnGetImageIndex"), Prop<&TListView::OnInfoTip>("OnInfoTip"),
+               Prop<&TListView::OnInsert>("OnInsert"), Prop<&TListView::OnItemChecked>("OnItemChecked"),
+               Prop<&TListView::OnSelectItem>("OnSelectItem")));
     return Class;
 }
 
@@ -135,8 +139,8 @@ TListItem* TCustomListView::ItemFocused() const
 
 int TCustomListView::SelCount() const
 {
-    return static_cast<int>(
-        std::count_if(FItems.FItems.begin(), FItems.FItems.end(), [](const auto& Item) { return Item->FSelected; }));
+    return static_cast<int>(std::count_if(FItems.FItems.begin(), FItems.FItems.end(),
+                                          [](const auto& Item) { return Item->FSelected; }));
 }
 
 int TCustomListView::ItemIndex() const
@@ -193,9 +197,9 @@ void TCustomListView::CreateParams(TCreateParams& Params)
     CreateSubClass(Params, WC_LISTVIEWA);
     Params.Style |= WS_CLIPCHILDREN | LVS_SHAREIMAGELISTS | Views[FViewStyle];
     Params.Style |= (FReadOnly ? 0u : LVS_EDITLABELS) | (FMultiSelect ? 0u : LVS_SINGLESEL) |
-                    (FHideSelection ? 0u : LVS_SHOWSELALWAYS) | (FShowColumnHeaders ? 0u : LVS_NOCOLUMNHEADER) |
-                    (FColumnClick ? 0u : LVS_NOSORTHEADER) | (FOwnerDraw ? LVS_OWNERDRAWFIXED : 0u) |
-                    (FOwnerData ? LVS_OWNERDATA : 0u);
+                    (FHideSelection ? 0u : LVS_SHOWSELALWAYS) |
+                    (FShowColumnHeaders ? 0u : LVS_NOCOLUMNHEADER) | (FColumnClick ? 0u : LVS_NOSORTHEADER) |
+                    (FOwnerDraw ? LVS_OWNERDRAWFIXED : 0u) | (FOwnerData ? LVS_OWNERDATA : 0u);
     if (FBorderStyle == bsSingle && Ctl3D())
         Params.ExStyle |= WS_EX_CLIENTEDGE;
     else if (FBorderStyle == bsSingle)
@@ -274,7 +278,8 @@ void TCustomListView::UpdateColumn(int Index)
     FillColumn(Index, Column, Text);
     SendMessageA(Handle(), LVM_SETCOLUMNA, static_cast<WPARAM>(Index), Param(&Column));
     if (FColumns.Items(Index)->Width() < 0)
-        SendMessageA(Handle(), LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(Index), FColumns.Items(Index)->Width());
+        SendMessageA(Handle(), LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(Index),
+                     FColumns.Items(Index)->Width());
 }
 
 void TCustomListView::RebuildItems()
@@ -320,9 +325,9 @@ void TCustomListView::UpdateItemTexts(int Index)
         Entry.iItem = Index;
         Entry.iSubItem = I;
         Entry.iImage = Item.FImageIndex;
-        const std::string Text = I == 0                              ? Item.FCaption
+        const std::string Text = I == 0                        ? Item.FCaption
                                  : I <= Item.FSubItems.Count() ? Item.FSubItems.Get(I - 1)
-                                                                     : std::string();
+                                                               : std::string();
         Entry.pszText = TextParam(Text);
         SendMessageA(Handle(), LVM_SETITEMA, 0, Param(&Entry));
     }
@@ -445,7 +450,7 @@ void TCustomListView::Dispatch(TMessage& Message)
                 static_cast<int>(SendMessageA(Handle(), LVM_GETCOLUMNWIDTH, static_cast<WPARAM>(I), 0));
 }
 
-void RegisterListViews()
+void RegisterListViewClasses()
 {
     RegisterClass(TListView::MetaClass());
 }

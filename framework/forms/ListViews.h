@@ -11,8 +11,8 @@ OBX_ENUM(TItemChange, ctText, ctImage, ctState)
 OBX_ENUM(TIconArrangement, iaTop, iaLeft)
 OBX_ENUM(TListHotTrackStyle, htHandPoint, htUnderlineCold, htUnderlineHot)
 OBX_SET(TListHotTrackStyles, TListHotTrackStyle)
-OBX_ENUM(TCustomDrawStateFlag, cdsSelected, cdsGrayed, cdsDisabled, cdsChecked, cdsFocused, cdsDefault, cdsHot,
-         cdsMarked, cdsIndeterminate)
+OBX_ENUM(TCustomDrawStateFlag, cdsSelected, cdsGrayed, cdsDisabled, cdsChecked, cdsFocused, cdsDefault,
+         cdsHot, cdsMarked, cdsIndeterminate)
 OBX_SET(TCustomDrawState, TCustomDrawStateFlag)
 
 OBX_EVENT(TLVChangeEvent, TObject*, TListItem*, TItemChange)
@@ -31,8 +31,7 @@ OBX_EVENT(TLVCustomDrawEvent, TObject*, const TRect&, bool&)
 OBX_EVENT(TLVCustomDrawItemEvent, TObject*, TListItem*, TCustomDrawState, bool&)
 OBX_EVENT(TLVCustomDrawSubItemEvent, TObject*, TListItem*, int, TCustomDrawState, bool&)
 
-class TCustomListView : public TWinControl
-{
+class TCustomListView : public TWinControl {
     OBX_CLASS(TWinControl)
 public:
     explicit TCustomListView(TComponent* Owner);
@@ -166,8 +165,8 @@ private:
     TListColumns FColumns;
     TListItems FItems;
     std::unique_ptr<TControlCanvas> FCanvas;
-    std::string FShownText;  // what the window was last given by OnData
-    int FUpdating = 0;       // above 0 while the program changes the window
+    std::string FShownText; // what the window was last given by OnData
+    int FUpdating = 0;      // above 0 while the program changes the window
     TBorderStyle FBorderStyle = bsSingle;
     bool FCheckboxes = false;
     bool FColumnClick = true;
@@ -193,11 +192,10 @@ private:
     TCustomImageList* FStateImages = nullptr;
 };
 
-class TListView : public TCustomListView
-{
+class TListView : public TCustomListView {
     OBX_CLASS(TCustomListView)
 public:
     using TCustomListView::TCustomListView;
 };
 
-void RegisterListViews();
+void RegisterListViewClasses();

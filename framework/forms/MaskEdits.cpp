@@ -46,8 +46,7 @@ bool Fits(char16_t Kind, char16_t Character, char16_t Blank)
 }
 
 // The mask without its tail, and the character that shows an empty place.
-struct TMask
-{
+struct TMask {
     std::u16string Places;
     char16_t Blank = '_';
 };
@@ -64,7 +63,7 @@ TMask SplitMask(const std::string& Text)
     return Result;
 }
 
-}  // namespace
+} // namespace
 
 const TMetaClass& TCustomMaskEdit::MetaClass()
 {
@@ -74,9 +73,9 @@ const TMetaClass& TCustomMaskEdit::MetaClass()
 
 const TMetaClass& TMaskEdit::MetaClass()
 {
-    static const TMetaClass Class("TMaskEdit", &TCustomMaskEdit::MetaClass(), CreateComponent<TMaskEdit>,
-                                  ControlRows::Sorted(ControlRows::SingleLineRows<TMaskEdit>(),
-                                                      OBX_ROW(TMaskEdit, EditMask)));
+    static const TMetaClass Class(
+        "TMaskEdit", &TCustomMaskEdit::MetaClass(), CreateComponent<TMaskEdit>,
+        ControlRows::Sorted(ControlRows::SingleLineRows<TMaskEdit>(), OBX_ROW(TMaskEdit, EditMask)));
     return Class;
 }
 

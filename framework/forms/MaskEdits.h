@@ -10,8 +10,7 @@
 //   \    the next character stands for itself
 //   !    fill from the right          others stand for themselves
 // The mask is what IsValid checks; typing is not restricted by it.
-class TCustomMaskEdit : public TCustomEdit
-{
+class TCustomMaskEdit : public TCustomEdit {
     OBX_CLASS(TCustomEdit)
 public:
     using TCustomEdit::TCustomEdit;
@@ -27,8 +26,7 @@ private:
     std::string FEditMask;
 };
 
-class TMaskEdit : public TCustomMaskEdit
-{
+class TMaskEdit : public TCustomMaskEdit {
     OBX_CLASS(TCustomMaskEdit)
 public:
     using TCustomMaskEdit::TCustomMaskEdit;

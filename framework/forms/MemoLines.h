@@ -5,8 +5,7 @@
 
 // The text is the memo's: a changed line is in the window at once, and what the
 // user types is in the list. Lines have no attached objects.
-class TCustomMemo::TMemoLines : public TStrings
-{
+class TCustomMemo::TMemoLines : public TStrings {
 public:
     explicit TMemoLines(TCustomMemo& Memo) : FMemo(Memo) {}
 

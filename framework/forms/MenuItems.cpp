@@ -35,7 +35,7 @@ uint16_t UniqueCommand()
     throw EOutOfResources(OutOfResources);
 }
 
-}  // namespace
+} // namespace
 
 const TMetaClass& TMenuItem::MetaClass()
 {
@@ -360,7 +360,7 @@ void TMenuItem::SetMenuIndex(int Value)
 
 HMENU TMenuItem::Handle()
 {
-    if (FHandle)
+    if (FHandle && IsMenu(FHandle))
         return FHandle;
     FHandle = dynamic_cast<TMainMenu*>(FMenu) ? CreateMenu() : CreatePopupMenu();
     if (!FHandle)
@@ -464,7 +464,8 @@ void TMenuItem::FillEntry(MENUITEMINFOA& Info, std::string& Text)
     Info.fMask = MIIM_FTYPE | MIIM_STATE | MIIM_ID | MIIM_SUBMENU | MIIM_BITMAP;
     Info.wID = FCommand;
     Info.fType = Breaks[FBreak] | (FRadioItem ? MFT_RADIOCHECK : 0) | (IsLine() ? MFT_SEPARATOR : MFT_STRING);
-    Info.fState = (FChecked ? MFS_CHECKED : 0u) | (FEnabled ? MFS_ENABLED : MFS_GRAYED) | (FDefault ? MFS_DEFAULT : 0u);
+    Info.fState =
+        (FChecked ? MFS_CHECKED : 0u) | (FEnabled ? MFS_ENABLED : MFS_GRAYED) | (FDefault ? MFS_DEFAULT : 0u);
     Info.hSubMenu = FItems.empty() ? nullptr : Handle();
     Info.hbmpItem = FBitmap->Empty() ? nullptr : FBitmap->Handle();
     if (!IsLine()) {

@@ -24,8 +24,7 @@ OBX_EVENT(TAdvancedMenuDrawItemEvent, TObject*, TCanvas*, const TRect&, TOwnerDr
 OBX_EVENT(TMenuMeasureItemEvent, TObject*, TCanvas*, int&, int&)
 
 // Carries the changes of an action to a menu item.
-class TMenuActionLink : public TActionLink
-{
+class TMenuActionLink : public TActionLink {
     OBX_CLASS(TActionLink)
 public:
     explicit TMenuActionLink(TMenuItem* Client);
@@ -62,8 +61,7 @@ private:
 // place of its items in the system's menu and destroys them with itself. The
 // system's menu follows every change at once; its handle stays the same for as
 // long as the item lives.
-class TMenuItem : public TComponent
-{
+class TMenuItem : public TComponent {
     OBX_CLASS(TComponent)
 public:
     explicit TMenuItem(TComponent* Owner);
@@ -177,11 +175,11 @@ private:
     void TurnSiblingsOff();
     void BitmapChanged(TObject* Sender);
 
-    TMenu* FMenu = nullptr;  // set for the root of a menu
+    TMenu* FMenu = nullptr; // set for the root of a menu
     TMenuItem* FParent = nullptr;
     std::vector<TMenuItem*> FItems;
     TMenuItem* FMerged = nullptr;
-    TMenuItem* FMergedWith = nullptr;  // the item that shows this one's items too
+    TMenuItem* FMergedWith = nullptr; // the item that shows this one's items too
     HMENU FHandle = nullptr;
     uint16_t FCommand;
     bool FChecked = false;

@@ -66,7 +66,7 @@ bool ClickWithParents(TMenuItem& Item)
     return true;
 }
 
-}  // namespace
+} // namespace
 
 HWND PopupMenuWindow()
 {
@@ -209,8 +209,13 @@ void TMainMenu::Unmerge(TMainMenu* Menu)
 
 void TMainMenu::MenuChanged(TMenuItem* Source, bool Rebuild)
 {
-    if (WindowHandle() && IsWindow(WindowHandle()))
+    if (WindowHandle() && IsWindow(WindowHandle())) {
+        // An empty menu was no bar yet.
+        const bool IsChild = (GetWindowLongPtrA(WindowHandle(), GWL_STYLE) & WS_CHILD) != 0;
+        if (Rebuild && Items()->Count() > 0 && !IsChild && !HasState(csDesigning) && !GetMenu(WindowHandle()))
+            SetMenu(WindowHandle(), Handle());
         DrawMenuBar(WindowHandle());
+    }
     TMenu::MenuChanged(Source, Rebuild);
 }
 
@@ -288,8 +293,9 @@ void TPopupMenu::CloseMenu()
     EndMenu();
 }
 
-void RegisterMenus()
+void RegisterMenuClasses()
 {
-    for (const TMetaClass* const Class : {&TMenuItem::MetaClass(), &TMainMenu::MetaClass(), &TPopupMenu::MetaClass()})
+    for (const TMetaClass* const Class :
+         {&TMenuItem::MetaClass(), &TMainMenu::MetaClass(), &TPopupMenu::MetaClass()})
         RegisterClass(*Class);
 }

@@ -11,8 +11,7 @@ OBX_SET(TMenuAnimation, TMenuAnimations)
 
 enum class TFindItemKind { Command, Handle, ShortCut };
 
-class TMenu : public TComponent
-{
+class TMenu : public TComponent {
     OBX_CLASS(TComponent)
 public:
     explicit TMenu(TComponent* Owner);
@@ -66,8 +65,7 @@ private:
 };
 
 // The menu bar of a form (TForm::Menu).
-class TMainMenu : public TMenu
-{
+class TMainMenu : public TMenu {
     OBX_CLASS(TMenu)
 public:
     explicit TMainMenu(TComponent* Owner) : TMenu(Owner) {}
@@ -82,8 +80,7 @@ public:
 };
 
 // A menu that is shown where the user clicks (TControl::PopupMenu).
-class TPopupMenu : public TMenu
-{
+class TPopupMenu : public TMenu {
     OBX_CLASS(TMenu)
 public:
     explicit TPopupMenu(TComponent* Owner);
@@ -120,4 +117,4 @@ private:
 HWND PopupMenuWindow();
 
 // Registers menus and their items.
-void RegisterMenus();
+void RegisterMenuClasses();

@@ -26,8 +26,7 @@
 #undef Yield
 
 // A message on its way through a control's WndProc; Result is its answer.
-struct TMessage
-{
+struct TMessage {
     UINT Msg = 0;
     WPARAM WParam = 0;
     LPARAM LParam = 0;
@@ -48,14 +47,14 @@ enum : UINT {
     CM_DEACTIVATE,
     CM_GOTFOCUS,
     CM_LOSTFOCUS,
-    CM_CANCELMODE,       // LParam: the TControl that the user turns to
-    CM_DIALOGKEY,        // WParam: virtual key; Result 1 when handled
-    CM_DIALOGCHAR,       // WParam: character; Result 1 when handled
-    CM_FOCUSCHANGED,     // LParam: the TWinControl that gets the focus
+    CM_CANCELMODE,   // LParam: the TControl that the user turns to
+    CM_DIALOGKEY,    // WParam: virtual key; Result 1 when handled
+    CM_DIALOGCHAR,   // WParam: character; Result 1 when handled
+    CM_FOCUSCHANGED, // LParam: the TWinControl that gets the focus
     CM_PARENTFONTCHANGED,
     CM_PARENTCOLORCHANGED,
-    CM_HITTEST,          // LParam: point; Result HTNOWHERE lets clicks through
-    CM_VISIBLECHANGED,   // WParam: visible
+    CM_HITTEST,        // LParam: point; Result HTNOWHERE lets clicks through
+    CM_VISIBLECHANGED, // WParam: visible
     CM_ENABLEDCHANGED,
     CM_COLORCHANGED,
     CM_FONTCHANGED,
@@ -63,18 +62,18 @@ enum : UINT {
     CM_CTL3DCHANGED,
     CM_PARENTCTL3DCHANGED,
     CM_TEXTCHANGED,
-    CM_MOUSEENTER,       // LParam: the TControl below that reports it, or 0
+    CM_MOUSEENTER, // LParam: the TControl below that reports it, or 0
     CM_MOUSELEAVE,
     CM_MENUCHANGED,
     CM_APPKEYDOWN,
     CM_APPSYSCOMMAND,
-    CM_BUTTONPRESSED,    // WParam: group index, LParam: the button
+    CM_BUTTONPRESSED, // WParam: group index, LParam: the button
     CM_SHOWINGCHANGED,
     CM_ENTER,
     CM_EXIT,
     CM_DESIGNHITTEST,
     CM_ICONCHANGED,
-    CM_WANTSPECIALKEY,   // WParam: virtual key; Result 1 keeps it from the dialog keys
+    CM_WANTSPECIALKEY, // WParam: virtual key; Result 1 keeps it from the dialog keys
     CM_INVOKEHELP,
     CM_WINDOWHOOK,
     CM_RELEASE,
@@ -88,9 +87,9 @@ enum : UINT {
     CM_UIACTIVATE,
     CM_UIDEACTIVATE,
     CM_DOCWINDOWACTIVATE,
-    CM_CONTROLLISTCHANGE,  // WParam: the TControl, LParam: inserted
+    CM_CONTROLLISTCHANGE, // WParam: the TControl, LParam: inserted
     CM_GETDATALINK,
-    CM_CHILDKEY,         // WParam: virtual key, LParam: the child; Result 1 when handled
+    CM_CHILDKEY, // WParam: virtual key, LParam: the child; Result 1 when handled
     CM_DRAG,
     CM_HINTSHOW,
     CM_DIALOGHANDLE,
@@ -98,8 +97,8 @@ enum : UINT {
     CM_RECREATEWND,
     CM_INVALIDATE,
     CM_SYSFONTCHANGED,
-    CM_CONTROLCHANGE,    // WParam: the TControl, LParam: inserted
-    CM_CHANGED,          // LParam: the child that changed
+    CM_CONTROLCHANGE, // WParam: the TControl, LParam: inserted
+    CM_CHANGED,       // LParam: the child that changed
     CM_DOCKCLIENT,
     CM_UNDOCKCLIENT,
     CM_FLOAT,
@@ -107,7 +106,7 @@ enum : UINT {
     CM_BIDIMODECHANGED,
     CM_PARENTBIDIMODECHANGED,
     CM_ALLCHILDRENFLIPPED,
-    CM_ACTIONUPDATE,     // LParam: the action; Result 1 when handled
+    CM_ACTIONUPDATE, // LParam: the action; Result 1 when handled
     CM_ACTIONEXECUTE,
     CM_HINTSHOWPAUSE,
     CM_DOCKNOTIFICATION,

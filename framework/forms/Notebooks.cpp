@@ -18,12 +18,11 @@ TSize TextSize(const TFont* Font, const std::string& Text)
     return Canvas.TextExtent(Text);
 }
 
-}  // namespace
+} // namespace
 
 // The captions of the pages. A line of its own makes a page; a page that a form
 // file brings makes a line.
-class TNotebook::TPageList : public TStrings
-{
+class TNotebook::TPageList : public TStrings {
 public:
     explicit TPageList(TNotebook& Notebook) : FNotebook(Notebook) {}
 
@@ -74,24 +73,23 @@ private:
 
 const TMetaClass& TPage::MetaClass()
 {
-    static const TMetaClass Class(
-        "TPage", &TCustomControl::MetaClass(), CreateComponent<TPage>,
-        {
-            OBX_ROW(TPage, Caption).Stored<&TPage::IsCaptionStored>(),
-            OBX_ROW(TPage, Height).Stored(false),
-            OBX_ROW(TPage, Width).Stored(false),
-        });
+    static const TMetaClass Class("TPage", &TCustomControl::MetaClass(), CreateComponent<TPage>,
+                                  {
+                                      OBX_ROW(TPage, Caption).Stored<&TPage::IsCaptionStored>(),
+                                      OBX_ROW(TPage, Height).Stored(false),
+                                      OBX_ROW(TPage, Width).Stored(false),
+                                  });
     return Class;
 }
 
 const TMetaClass& TNotebook::MetaClass()
 {
     using namespace ControlRows;
-    static const TMetaClass Class(
-        "TNotebook", &TCustomControl::MetaClass(), CreateComponent<TNotebook>,
-        Sorted(Look(), Drag(), Mouse(), Focus(false), ControlRows::Ctl3D(), OBX_ROW(TNotebook, PageIndex).Default(0),
-               Prop<&TNotebook::Pages, &TNotebook::SetPages>("Pages").Stored(false),
-               Prop<&TNotebook::OnPageChanged>("OnPageChanged")));
+    static const TMetaClass Class("TNotebook", &TCustomControl::MetaClass(), CreateComponent<TNotebook>,
+                                  Sorted(Look(), Drag(), Mouse(), Focus(false), ControlRows::Ctl3D(),
+                                         OBX_ROW(TNotebook, PageIndex).Default(0),
+                                         Prop<&TNotebook::Pages, &TNotebook::SetPages>("Pages").Stored(false),
+                                         Prop<&TNotebook::OnPageChanged>("OnPageChanged")));
     return Class;
 }
 
@@ -103,7 +101,8 @@ const TMetaClass& TTabPage::MetaClass()
 
 const TMetaClass& TTabbedNotebook::MetaClass()
 {
-    static const TMetaClass Class("TTabbedNotebook", &TNotebook::MetaClass(), CreateComponent<TTabbedNotebook>,
+    static const TMetaClass Class("TTabbedNotebook", &TNotebook::MetaClass(),
+                                  CreateComponent<TTabbedNotebook>,
                                   {
                                       OBX_ROW(TTabbedNotebook, TabFont),
                                       OBX_ROW(TTabbedNotebook, TabsPerRow).Default(3),
@@ -306,7 +305,8 @@ void TTabbedNotebook::MouseDown(TMouseButton Button, TShiftState Shift, int X, i
     }
 }
 
-TTabSet::TTabSet(TComponent* Owner) : TCustomControl(Owner), FTabs(std::make_unique<TItemStrings>(*this, *this))
+TTabSet::TTabSet(TComponent* Owner)
+    : TCustomControl(Owner), FTabs(std::make_unique<TItemStrings>(*this, *this))
 {
     FControlStyle = {csCaptureMouse, csDoubleClicks, csOpaque};
     SetBounds(0, 0, 185, 21);
@@ -394,7 +394,8 @@ void TTabSet::MouseDown(TMouseButton Button, TShiftState Shift, int X, int Y)
     }
 }
 
-THeader::THeader(TComponent* Owner) : TCustomControl(Owner), FSections(std::make_unique<TItemStrings>(*this, *this))
+THeader::THeader(TComponent* Owner)
+    : TCustomControl(Owner), FSections(std::make_unique<TItemStrings>(*this, *this))
 {
     FControlStyle.Include(csOpaque);
     SetBounds(0, 0, 250, 25);

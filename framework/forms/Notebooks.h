@@ -8,8 +8,7 @@ OBX_EVENT(TPageChangeEvent, TObject*, int, bool&)
 
 // A page of a notebook. Form files nest it in its notebook; its caption is its
 // line in the notebook's list of pages.
-class TPage : public TCustomControl
-{
+class TPage : public TCustomControl {
     OBX_CLASS(TCustomControl)
 public:
     explicit TPage(TComponent* Owner);
@@ -19,8 +18,7 @@ protected:
 };
 
 // Pages without tabs: the program chooses the page.
-class TNotebook : public TCustomControl
-{
+class TNotebook : public TCustomControl {
     OBX_CLASS(TCustomControl)
 public:
     explicit TNotebook(TComponent* Owner);
@@ -58,16 +56,14 @@ private:
     int FPageIndex = 0;
 };
 
-class TTabPage : public TPage
-{
+class TTabPage : public TPage {
     OBX_CLASS(TPage)
 public:
     using TPage::TPage;
 };
 
 // A notebook with a row of tabs above its pages.
-class TTabbedNotebook : public TNotebook
-{
+class TTabbedNotebook : public TNotebook {
     OBX_CLASS(TNotebook)
 public:
     explicit TTabbedNotebook(TComponent* Owner);
@@ -97,8 +93,7 @@ OBX_ENUM(TTabStyle, tsStandard, tsOwnerDraw)
 OBX_EVENT(TTabChangeEvent, TObject*, int, bool&)
 
 // A row of tabs at the bottom of what it belongs to.
-class TTabSet : public TCustomControl, public TItemsClient
-{
+class TTabSet : public TCustomControl, public TItemsClient {
     OBX_CLASS(TCustomControl)
 public:
     explicit TTabSet(TComponent* Owner);
@@ -143,8 +138,7 @@ private:
 OBX_EVENT(TSectionEvent, TObject*, int, int)
 
 // A row of headings whose widths the user drags.
-class THeader : public TCustomControl, public TItemsClient
-{
+class THeader : public TCustomControl, public TItemsClient {
     OBX_CLASS(TCustomControl)
 public:
     explicit THeader(TComponent* Owner);

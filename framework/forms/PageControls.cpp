@@ -11,59 +11,59 @@ const TMetaClass& TPageControl::MetaClass()
     using namespace ControlRows;
     static const TMetaClass Class(
         "TPageControl", &TCustomTabControl::MetaClass(), CreateComponent<TPageControl>,
-        Sorted(CommonControlRows(true), Dock(), OBX_ROW(TControl, Font).Stored<&TControl::IsFontStored>(),
-               OBX_ROW(TControl, ParentFont).Default(true), OBX_ROW(TPageControl, ActivePage),
-               OBX_ROW(TPageControl, HotTrack).Default(false), OBX_ROW(TPageControl, Images),
-               OBX_ROW(TPageControl, MultiLine).Default(false), OBX_ROW(TPageControl, OwnerDraw).Default(false),
-               OBX_ROW(TPageControl, RaggedRight).Default(false),
-               OBX_ROW(TPageControl, ScrollOpposite).Default(false), OBX_ROW(TPageControl, Style).Default(tsTabs),
-               OBX_ROW(TPageControl, TabHeight).Default(0), OBX_ROW(TPageControl, TabIndex).Stored(false),
-               OBX_ROW(TPageControl, TabPosition).Default(tpTop), OBX_ROW(TPageControl, TabWidth).Default(0),
-               Prop<&TPageControl::OnChange>("OnChange"), Prop<&TPageControl::OnChanging>("OnChanging"),
-               Prop<&TPageControl::OnDrawTab>("OnDrawTab"),
-               Prop<&TPageControl::OnGetImageIndex>("OnGetImageIndex")));
+        Sorted(
+            CommonControlRows(true), Dock(), OBX_ROW(TControl, Font).Stored<&TControl::IsFontStored>(),
+            OBX_ROW(TControl, ParentFont).Default(true), OBX_ROW(TPageControl, ActivePage),
+            OBX_ROW(TPageControl, HotTrack).Default(false), OBX_ROW(TPageControl, Images),
+            OBX_ROW(TPageControl, MultiLine).Default(false), OBX_ROW(TPageControl, OwnerDraw).Default(false),
+            OBX_ROW(TPageControl, RaggedRight).Default(false),
+            OBX_ROW(TPageControl, ScrollOpposite).Default(false),
+            OBX_ROW(TPageControl, Style).Default(tsTabs), OBX_ROW(TPageControl, TabHeight).Default(0),
+            OBX_ROW(TPageControl, TabIndex).Stored(false), OBX_ROW(TPageControl, TabPosition).Default(tpTop),
+            OBX_ROW(TPageControl, TabWidth).Default(0), Prop<&TPageControl::OnChange>("OnChange"),
+            Prop<&TPageControl::OnChanging>("OnChanging"), Prop<&TPageControl::OnDrawTab>("OnDrawTab"),
+            Prop<&TPageControl::OnGetImageIndex>("OnGetImageIndex")));
     return Class;
 }
 
 const TMetaClass& TTabSheet::MetaClass()
 {
     using namespace ControlRows;
-    static const TMetaClass Class(
-        "TTabSheet", &TWinControl::MetaClass(), CreateComponent<TTabSheet>,
-        {
-            OBX_ROW(TWinControl, BorderWidth).Default(0),
-            OBX_ROW(TControl, Caption),
-            OBX_ROW(TControl, DragMode).Default(dmManual),
-            OBX_ROW(TControl, Enabled).Default(true),
-            OBX_ROW(TControl, Font).Stored<&TControl::IsFontStored>(),
-            OBX_ROW(TControl, Height).Stored(false),
-            OBX_ROW(TTabSheet, Highlighted).Default(false),
-            OBX_ROW(TTabSheet, ImageIndex).Default(0),
-            OBX_ROW(TControl, Left).Stored(false),
-            OBX_ROW(TControl, Constraints),
-            OBX_ROW(TTabSheet, PageIndex).Stored(false),
-            OBX_ROW(TControl, ParentFont).Default(true),
-            OBX_ROW(TControl, ParentShowHint).Default(true),
-            OBX_ROW(TControl, PopupMenu),
-            OBX_ROW(TControl, ShowHint).Stored<&TControl::IsShowHintStored>(),
-            OBX_ROW(TTabSheet, TabVisible).Default(true),
-            OBX_ROW(TControl, Top).Stored(false),
-            OBX_ROW(TControl, Visible).Stored(false),
-            OBX_ROW(TControl, Width).Stored(false),
-            Prop<&TControl::OnContextPopup>("OnContextPopup"),
-            Prop<&TControl::OnDragDrop>("OnDragDrop"),
-            Prop<&TControl::OnDragOver>("OnDragOver"),
-            Prop<&TControl::OnEndDrag>("OnEndDrag"),
-            Prop<&TWinControl::OnEnter>("OnEnter"),
-            Prop<&TWinControl::OnExit>("OnExit"),
-            Prop<&TTabSheet::OnHide>("OnHide"),
-            Prop<&TControl::OnMouseDown>("OnMouseDown"),
-            Prop<&TControl::OnMouseMove>("OnMouseMove"),
-            Prop<&TControl::OnMouseUp>("OnMouseUp"),
-            Prop<&TControl::OnResize>("OnResize"),
-            Prop<&TTabSheet::OnShow>("OnShow"),
-            Prop<&TControl::OnStartDrag>("OnStartDrag"),
-        });
+    static const TMetaClass Class("TTabSheet", &TWinControl::MetaClass(), CreateComponent<TTabSheet>,
+                                  {
+                                      OBX_ROW(TWinControl, BorderWidth).Default(0),
+                                      OBX_ROW(TControl, Caption),
+                                      OBX_ROW(TControl, DragMode).Default(dmManual),
+                                      OBX_ROW(TControl, Enabled).Default(true),
+                                      OBX_ROW(TControl, Font).Stored<&TControl::IsFontStored>(),
+                                      OBX_ROW(TControl, Height).Stored(false),
+                                      OBX_ROW(TTabSheet, Highlighted).Default(false),
+                                      OBX_ROW(TTabSheet, ImageIndex).Default(0),
+                                      OBX_ROW(TControl, Left).Stored(false),
+                                      OBX_ROW(TControl, Constraints),
+                                      OBX_ROW(TTabSheet, PageIndex).Stored(false),
+                                      OBX_ROW(TControl, ParentFont).Default(true),
+                                      OBX_ROW(TControl, ParentShowHint).Default(true),
+                                      OBX_ROW(TControl, PopupMenu),
+                                      OBX_ROW(TControl, ShowHint).Stored<&TControl::IsShowHintStored>(),
+                                      OBX_ROW(TTabSheet, TabVisible).Default(true),
+                                      OBX_ROW(TControl, Top).Stored(false),
+                                      OBX_ROW(TControl, Visible).Stored(false),
+                                      OBX_ROW(TControl, Width).Stored(false),
+                                      Prop<&TControl::OnContextPopup>("OnContextPopup"),
+                                      Prop<&TControl::OnDragDrop>("OnDragDrop"),
+                                      Prop<&TControl::OnDragOver>("OnDragOver"),
+                                      Prop<&TControl::OnEndDrag>("OnEndDrag"),
+                                      Prop<&TWinControl::OnEnter>("OnEnter"),
+                                      Prop<&TWinControl::OnExit>("OnExit"),
+                                      Prop<&TTabSheet::OnHide>("OnHide"),
+                                      Prop<&TControl::OnMouseDown>("OnMouseDown"),
+                                      Prop<&TControl::OnMouseMove>("OnMouseMove"),
+                                      Prop<&TControl::OnMouseUp>("OnMouseUp"),
+                                      Prop<&TControl::OnResize>("OnResize"),
+                                      Prop<&TTabSheet::OnShow>("OnShow"),
+                                      Prop<&TControl::OnStartDrag>("OnStartDrag"),
+                                  });
     return Class;
 }
 
@@ -251,7 +251,8 @@ int TPageControl::GetImageIndex(int Index)
 void TPageControl::Dispatch(TMessage& Message)
 {
     // Ctrl+Tab turns the pages.
-    if (Message.Msg == CM_DIALOGKEY && Message.WParam == VK_TAB && GetKeyState(VK_CONTROL) < 0 && FActivePage) {
+    if (Message.Msg == CM_DIALOGKEY && Message.WParam == VK_TAB && GetKeyState(VK_CONTROL) < 0 &&
+        FActivePage) {
         const TCustomForm* const Form = GetParentForm(this);
         if (Focused() || (Form && Form->ActiveControl() && ContainsControl(Form->ActiveControl()))) {
             SelectNextPage(GetKeyState(VK_SHIFT) >= 0);
@@ -264,8 +265,8 @@ void TPageControl::Dispatch(TMessage& Message)
 
 TTabSheet::TTabSheet(TComponent* Owner) : TWinControl(Owner)
 {
-    FControlStyle = {csCaptureMouse, csClickEvents, csSetCaption, csDoubleClicks, csAcceptsControls,
-                     csNoDesignVisible};
+    FControlStyle = {csCaptureMouse, csClickEvents,     csSetCaption,
+                     csDoubleClicks, csAcceptsControls, csNoDesignVisible};
     SetAlign(alClient);
     SetVisible(false);
 }
@@ -351,7 +352,7 @@ void TTabSheet::Dispatch(TMessage& Message)
     }
 }
 
-void RegisterPageControls()
+void RegisterPageControlClasses()
 {
     for (const TMetaClass* const Class :
          {&TTabControl::MetaClass(), &TPageControl::MetaClass(), &TTabSheet::MetaClass()})

@@ -22,8 +22,7 @@ OBX_EVENT(TDrawTabEvent, TObject*, int, const TRect&, bool)
 OBX_EVENT(TTabGetImageEvent, TObject*, int, int&)
 
 // The texts, the chosen tab and the pictures are kept without a window too.
-class TCustomTabControl : public TWinControl
-{
+class TCustomTabControl : public TWinControl {
     OBX_CLASS(TWinControl)
 public:
     explicit TCustomTabControl(TComponent* Owner);
@@ -107,8 +106,7 @@ private:
     TTabPosition FTabPosition = tpTop;
 };
 
-class TTabControl : public TCustomTabControl
-{
+class TTabControl : public TCustomTabControl {
     OBX_CLASS(TCustomTabControl)
 public:
     using TCustomTabControl::TCustomTabControl;
@@ -116,8 +114,7 @@ public:
 
 // Pages, of which one is shown. The pages are the controls inside; their order
 // is that of the tabs.
-class TPageControl : public TCustomTabControl
-{
+class TPageControl : public TCustomTabControl {
     OBX_CLASS(TCustomTabControl)
 public:
     explicit TPageControl(TComponent* Owner);
@@ -162,8 +159,7 @@ private:
 };
 
 // One page. Its caption is the text of its tab.
-class TTabSheet : public TWinControl
-{
+class TTabSheet : public TWinControl {
     OBX_CLASS(TWinControl)
 public:
     explicit TTabSheet(TComponent* Owner);
@@ -199,4 +195,4 @@ private:
     bool FTabVisible = true;
 };
 
-void RegisterPageControls();
+void RegisterPageControlClasses();

@@ -30,14 +30,14 @@ template<class TPublisher>
 ControlRows::TRows PanelRows()
 {
     using namespace ControlRows;
-    TRows Result =
-        Joined(Look(), Drag(), Mouse(), Focus(false), Dock(), ControlRows::Resize(), ControlRows::Ctl3D(), Buffer(),
-               ControlRows::Caption(), ControlRows::AutoSize(false),
-               OBX_ROW(TPublisher, Color).Default(clBtnFace).template Stored<&TPublisher::IsColorStored>(),
-               OBX_ROW(TPublisher, ParentColor).Default(false), OBX_ROW(TPublisher, Alignment).Default(taCenter),
-               OBX_ROW(TPublisher, BevelEdges).Default(TBevelEdges{beLeft, beTop, beRight, beBottom}),
-               OBX_ROW(TPublisher, BevelInner).Default(bvNone), OBX_ROW(TPublisher, BevelKind).Default(bkNone),
-               OBX_ROW(TPublisher, BevelOuter).Default(bvRaised), OBX_ROW(TPublisher, BevelWidth).Default(1));
+    TRows Result = Joined(
+        Look(), Drag(), Mouse(), Focus(false), Dock(), ControlRows::Resize(), ControlRows::Ctl3D(), Buffer(),
+        ControlRows::Caption(), ControlRows::AutoSize(false),
+        OBX_ROW(TPublisher, Color).Default(clBtnFace).template Stored<&TPublisher::IsColorStored>(),
+        OBX_ROW(TPublisher, ParentColor).Default(false), OBX_ROW(TPublisher, Alignment).Default(taCenter),
+        OBX_ROW(TPublisher, BevelEdges).Default(TBevelEdges{beLeft, beTop, beRight, beBottom}),
+        OBX_ROW(TPublisher, BevelInner).Default(bvNone), OBX_ROW(TPublisher, BevelKind).Default(bkNone),
+        OBX_ROW(TPublisher, BevelOuter).Default(bvRaised), OBX_ROW(TPublisher, BevelWidth).Default(1));
     return Joined(std::move(Result), OBX_ROW(TPublisher, BorderStyle).Default(bsNone),
                   OBX_ROW(TPublisher, BorderWidth).Default(0), OBX_ROW(TPublisher, FullRepaint).Default(true),
                   OBX_ROW(TPublisher, Locked).Default(false), OBX_ROW(TPublisher, Padding),
@@ -46,7 +46,7 @@ ControlRows::TRows PanelRows()
                   OBX_ROW(TPublisher, VerticalAlignment).Default(taVerticalCenter));
 }
 
-}  // namespace
+} // namespace
 
 const TMetaClass& TCustomPanel::MetaClass()
 {
@@ -75,8 +75,9 @@ const TMetaClass& TControlBar::MetaClass()
     using namespace ControlRows;
     static const TMetaClass Class(
         "TControlBar", &TCustomControl::MetaClass(), CreateComponent<TControlBar>,
-        Sorted(Look(), Drag(), Mouse(), Focus(false), Dock(), ControlRows::Resize(), ControlRows::AutoSize(false),
-               OBX_ROW(TControlBar, AutoDock).Default(true), OBX_ROW(TControlBar, AutoDrag).Default(true),
+        Sorted(Look(), Drag(), Mouse(), Focus(false), Dock(), ControlRows::Resize(),
+               ControlRows::AutoSize(false), OBX_ROW(TControlBar, AutoDock).Default(true),
+               OBX_ROW(TControlBar, AutoDrag).Default(true),
                OBX_ROW(TControlBar, BevelEdges).Default(TBevelEdges{beLeft, beTop, beRight, beBottom}),
                OBX_ROW(TControlBar, BevelInner).Default(bvRaised),
                OBX_ROW(TControlBar, BevelKind).Default(bkTile),
@@ -97,9 +98,10 @@ const TMetaClass& TScrollBox::MetaClass()
         "TScrollBox", &TScrollingWinControl::MetaClass(), CreateComponent<TScrollBox>,
         Sorted(Look(), Drag(), Mouse(), Wheel(), Focus(false), Dock(), ControlRows::Resize(), Bevel(),
                ControlRows::Ctl3D(), Buffer(), ControlRows::AutoSize(false),
-               OBX_ROW(TScrollBox, AutoScroll).Default(true), OBX_ROW(TScrollBox, BorderStyle).Default(bsSingle),
-               OBX_ROW(TScrollBox, HorzScrollBar), OBX_ROW(TScrollBox, Padding),
-               OBX_ROW(TScrollBox, ParentBackground).Default(true), OBX_ROW(TScrollBox, VertScrollBar)));
+               OBX_ROW(TScrollBox, AutoScroll).Default(true),
+               OBX_ROW(TScrollBox, BorderStyle).Default(bsSingle), OBX_ROW(TScrollBox, HorzScrollBar),
+               OBX_ROW(TScrollBox, Padding), OBX_ROW(TScrollBox, ParentBackground).Default(true),
+               OBX_ROW(TScrollBox, VertScrollBar)));
     return Class;
 }
 
@@ -287,7 +289,8 @@ void TControlBar::Paint()
         const TControl& Band = *Controls(I);
         if (!Band.Visible())
             continue;
-        TRect Frame{Band.Left() - 11, Band.Top() - 2, Band.Left() + Band.Width() + 2, Band.Top() + Band.Height() + 2};
+        TRect Frame{Band.Left() - 11, Band.Top() - 2, Band.Left() + Band.Width() + 2,
+                    Band.Top() + Band.Height() + 2};
         DrawEdge(Canvas()->Handle(), &Frame, BDR_RAISEDINNER, BF_RECT);
         TRect Grip{Frame.left + 3, Frame.top + 2, Frame.left + 6, Frame.bottom - 2};
         DrawEdge(Canvas()->Handle(), &Grip, BDR_RAISEDINNER, BF_RECT);

@@ -5,8 +5,7 @@
 #include "framework/forms/ScrollControls.h"
 
 // A rectangle with a bevel, a caption in the middle and controls on it.
-class TCustomPanel : public TCustomControl
-{
+class TCustomPanel : public TCustomControl {
     OBX_CLASS(TCustomControl)
 public:
     explicit TCustomPanel(TComponent* Owner);
@@ -47,8 +46,7 @@ private:
     TBorderStyle FBorderStyle = bsNone;
 };
 
-class TPanel : public TCustomPanel
-{
+class TPanel : public TCustomPanel {
     OBX_CLASS(TCustomPanel)
 public:
     using TCustomPanel::TCustomPanel;
@@ -59,8 +57,7 @@ OBX_ENUM(TFlowStyle, fsLeftRightTopBottom, fsRightLeftTopBottom, fsLeftRightBott
 
 // Places its controls one after the other, in rows or columns, in the order that
 // they came.
-class TFlowPanel : public TCustomPanel
-{
+class TFlowPanel : public TCustomPanel {
     OBX_CLASS(TCustomPanel)
 public:
     using TCustomPanel::TCustomPanel;
@@ -85,8 +82,7 @@ OBX_EVENT(TBandPaintEvent, TObject*, TControl*, TCanvas*, TRect&, int&)
 
 // A place for tool bars. Bands are drawn around the controls; they are not
 // dragged by the user.
-class TControlBar : public TCustomControl
-{
+class TControlBar : public TCustomControl {
     OBX_CLASS(TCustomControl)
 public:
     explicit TControlBar(TComponent* Owner);
@@ -122,8 +118,7 @@ private:
 };
 
 // A container whose controls may lie beyond its edges.
-class TScrollBox : public TScrollingWinControl
-{
+class TScrollBox : public TScrollingWinControl {
     OBX_CLASS(TScrollingWinControl)
 public:
     explicit TScrollBox(TComponent* Owner);

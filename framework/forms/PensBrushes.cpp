@@ -10,7 +10,7 @@ std::shared_ptr<void> Owned(HGDIOBJ Handle)
             }};
 }
 
-}  // namespace
+} // namespace
 
 const TMetaClass& TPen::MetaClass()
 {

@@ -6,12 +6,12 @@
 #include "framework/forms/Fonts.h"
 
 OBX_ENUM(TPenStyle, psSolid, psDash, psDot, psDashDot, psDashDotDot, psClear, psInsideFrame)
-OBX_ENUM(TPenMode, pmBlack, pmWhite, pmNop, pmNot, pmCopy, pmNotCopy, pmMergePenNot, pmMaskPenNot, pmMergeNotPen,
-         pmMaskNotPen, pmMerge, pmNotMerge, pmMask, pmNotMask, pmXor, pmNotXor)
-OBX_ENUM(TBrushStyle, bsSolid, bsClear, bsHorizontal, bsVertical, bsFDiagonal, bsBDiagonal, bsCross, bsDiagCross)
+OBX_ENUM(TPenMode, pmBlack, pmWhite, pmNop, pmNot, pmCopy, pmNotCopy, pmMergePenNot, pmMaskPenNot,
+         pmMergeNotPen, pmMaskNotPen, pmMerge, pmNotMerge, pmMask, pmNotMask, pmXor, pmNotXor)
+OBX_ENUM(TBrushStyle, bsSolid, bsClear, bsHorizontal, bsVertical, bsFDiagonal, bsBDiagonal, bsCross,
+         bsDiagCross)
 
-class TPen : public TGraphicsObject
-{
+class TPen : public TGraphicsObject {
     OBX_CLASS(TGraphicsObject)
 public:
     void Assign(const TPersistent* Source) override;
@@ -40,8 +40,7 @@ private:
     mutable std::shared_ptr<void> FHandle;
 };
 
-class TBrush : public TGraphicsObject
-{
+class TBrush : public TGraphicsObject {
     OBX_CLASS(TGraphicsObject)
 public:
     void Assign(const TPersistent* Source) override;

@@ -9,8 +9,7 @@
 
 namespace {
 
-struct TFormat
-{
+struct TFormat {
     std::string Extension;
     std::string ClassName;
     TPicture::TGraphicFactory Factory;
@@ -52,7 +51,7 @@ std::unique_ptr<TGraphic> Copy(const TGraphic& Source)
     return Result;
 }
 
-}  // namespace
+} // namespace
 
 const TMetaClass& TGraphic::MetaClass()
 {
@@ -172,8 +171,8 @@ void TIcon::Changed()
 void TIcon::Draw(TCanvas& Canvas, const TRect& Rect)
 {
     if (Handle())
-        DrawIconEx(Canvas.Handle(), static_cast<int>(Rect.left), static_cast<int>(Rect.top), FHandle, RectWidth(Rect),
-                   RectHeight(Rect), 0, nullptr, DI_NORMAL);
+        DrawIconEx(Canvas.Handle(), static_cast<int>(Rect.left), static_cast<int>(Rect.top), FHandle,
+                   RectWidth(Rect), RectHeight(Rect), 0, nullptr, DI_NORMAL);
 }
 
 const TMetaClass& TMetafile::MetaClass()
@@ -196,7 +195,8 @@ const TMetaClass& TPicture::MetaClass()
 
 TPicture::~TPicture() = default;
 
-void TPicture::RegisterFileFormat(const std::string& Extension, const std::string& ClassName, TGraphicFactory Factory)
+void TPicture::RegisterFileFormat(const std::string& Extension, const std::string& ClassName,
+                                  TGraphicFactory Factory)
 {
     Formats().push_back({Extension, ClassName, Factory});
 }

@@ -13,8 +13,7 @@ OBX_ENUM(TTransparentMode, tmAuto, tmFixed)
 
 // A picture of any kind. As a property it is streamed as the binary property
 // "Data".
-class TGraphic : public TPersistent
-{
+class TGraphic : public TPersistent {
     OBX_CLASS(TPersistent)
 public:
     virtual bool Empty() const = 0;
@@ -49,8 +48,7 @@ private:
 
 // Keeps the bytes that it was loaded from and gives the same back, whatever
 // their format; draws those that are device-independent bitmaps.
-class TBitmap : public TGraphic
-{
+class TBitmap : public TGraphic {
     OBX_CLASS(TGraphic)
 public:
     TBitmap();
@@ -85,17 +83,16 @@ private:
     void DrawTransparent(TCanvas& Canvas, int X, int Y);
     void CanvasChanged(TObject* Sender);
 
-    std::string FBytes;  // a .bmp file, or whatever was loaded; empty when drawn into
+    std::string FBytes; // a .bmp file, or whatever was loaded; empty when drawn into
     int FWidth = 0;
     int FHeight = 0;
-    bool FHasLength = true;  // the property's data begin with their length
+    bool FHasLength = true; // the property's data begin with their length
     HBITMAP FHandle = nullptr;
     std::unique_ptr<TBitmapCanvas> FCanvas;
 };
 
 // Kinds that are only kept and shown by others.
-class TKeptGraphic : public TGraphic
-{
+class TKeptGraphic : public TGraphic {
     OBX_CLASS(TGraphic)
 public:
     void Assign(const TPersistent* Source) override;
@@ -111,8 +108,7 @@ protected:
     std::string FBytes;
 };
 
-class TIcon : public TKeptGraphic
-{
+class TIcon : public TKeptGraphic {
     OBX_CLASS(TKeptGraphic)
 public:
     TIcon() = default;
@@ -135,14 +131,12 @@ private:
     HICON FHandle = nullptr;
 };
 
-class TMetafile : public TKeptGraphic
-{
+class TMetafile : public TKeptGraphic {
     OBX_CLASS(TKeptGraphic)
 };
 
 // A picture whose class the program does not have.
-class TUnknownGraphic : public TKeptGraphic
-{
+class TUnknownGraphic : public TKeptGraphic {
     OBX_CLASS(TKeptGraphic)
 public:
     explicit TUnknownGraphic(std::string GraphicClass) : FGraphicClass(std::move(GraphicClass)) {}
@@ -154,8 +148,7 @@ private:
 
 // Holds a graphic of any kind. The binary property "Data" begins with the
 // length and the characters of the graphic's class name.
-class TPicture : public TPersistent
-{
+class TPicture : public TPersistent {
     OBX_CLASS(TPersistent)
 public:
     TPicture() = default;

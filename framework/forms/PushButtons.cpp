@@ -25,11 +25,10 @@ ControlRows::TRows PushButtonRows()
         OBX_ROW(TPublisher, DisabledImageIndex).Default(-1),
         OBX_ROW(TPublisher, ElevationRequired).Default(false), OBX_ROW(TPublisher, HotImageIndex).Default(-1),
         OBX_ROW(TPublisher, ImageIndex).Default(-1), OBX_ROW(TPublisher, ModalResult).Default(mrNone));
-    return Joined(std::move(Result), OBX_ROW(TPublisher, PressedImageIndex).Default(-1),
-                  OBX_ROW(TPublisher, SelectedImageIndex).Default(-1),
-                  OBX_ROW(TPublisher, Style).Default(bsPushButton),
-                  OBX_ROW(TPublisher, WordWrap).Default(false),
-                  Prop<&TPublisher::OnDropDownClick>("OnDropDownClick"));
+    return Joined(
+        std::move(Result), OBX_ROW(TPublisher, PressedImageIndex).Default(-1),
+        OBX_ROW(TPublisher, SelectedImageIndex).Default(-1), OBX_ROW(TPublisher, Style).Default(bsPushButton),
+        OBX_ROW(TPublisher, WordWrap).Default(false), Prop<&TPublisher::OnDropDownClick>("OnDropDownClick"));
 }
 
 // What check boxes and radio buttons share.
@@ -45,7 +44,7 @@ ControlRows::TRows BoxRows(bool TabStop)
                   OBX_ROW(TPublisher, WordWrap).Default(false));
 }
 
-}  // namespace
+} // namespace
 
 const TMetaClass& TButtonControl::MetaClass()
 {
@@ -151,7 +150,9 @@ void TButtonControl::Dispatch(TMessage& Message)
     TWinControl::Dispatch(Message);
 }
 
-TButtonActionLink::TButtonActionLink(TButtonControl* Client) : TWinControlActionLink(Client), FButton(Client) {}
+TButtonActionLink::TButtonActionLink(TButtonControl* Client) : TWinControlActionLink(Client), FButton(Client)
+{
+}
 
 bool TButtonActionLink::IsCheckedLinked() const
 {

@@ -5,8 +5,7 @@
 
 // What all of them share: a notification of the window is a click, a mnemonic
 // pressed with Alt is one too, and Checked follows the action.
-class TButtonControl : public TWinControl
-{
+class TButtonControl : public TWinControl {
     OBX_CLASS(TWinControl)
 public:
     explicit TButtonControl(TComponent* Owner);
@@ -32,8 +31,7 @@ protected:
     bool FChecked = false;
 };
 
-class TButtonActionLink : public TWinControlActionLink
-{
+class TButtonActionLink : public TWinControlActionLink {
     OBX_CLASS(TWinControlActionLink)
 public:
     explicit TButtonActionLink(TButtonControl* Client);
@@ -48,8 +46,7 @@ private:
 OBX_ENUM(TCustomButtonStyle, bsPushButton, bsCommandLink, bsSplitButton)
 
 // A click sets the form's ModalResult to the button's before OnClick is called.
-class TCustomButton : public TButtonControl
-{
+class TCustomButton : public TButtonControl {
     OBX_CLASS(TButtonControl)
 public:
     explicit TCustomButton(TComponent* Owner);
@@ -91,8 +88,7 @@ private:
     bool FDefault = false;
 };
 
-class TButton : public TCustomButton
-{
+class TButton : public TCustomButton {
     OBX_CLASS(TCustomButton)
 public:
     using TCustomButton::TCustomButton;
@@ -100,8 +96,7 @@ public:
 
 OBX_ENUM(TCheckBoxState, cbUnchecked, cbChecked, cbGrayed)
 
-class TCustomCheckBox : public TButtonControl
-{
+class TCustomCheckBox : public TButtonControl {
     OBX_CLASS(TButtonControl)
 public:
     explicit TCustomCheckBox(TComponent* Owner);
@@ -128,16 +123,14 @@ private:
     TCheckBoxState FState = cbUnchecked;
 };
 
-class TCheckBox : public TCustomCheckBox
-{
+class TCheckBox : public TCustomCheckBox {
     OBX_CLASS(TCustomCheckBox)
 public:
     using TCustomCheckBox::TCustomCheckBox;
 };
 
 // Of the radio buttons in one container at most one is checked.
-class TRadioButton : public TButtonControl
-{
+class TRadioButton : public TButtonControl {
     OBX_CLASS(TButtonControl)
 public:
     explicit TRadioButton(TComponent* Owner);

@@ -10,7 +10,8 @@ TRows ProgressBarRows()
 {
     return Sorted(
         Base(), Drag(), Mouse(), Focus(false), Buffer(), OBX_ROW(TWinControl, BorderWidth).Default(0),
-        OBX_ROW(TProgressBar, BackgroundColor).Default(clDefault), OBX_ROW(TProgressBar, BarColor).Default(clDefault),
+        OBX_ROW(TProgressBar, BackgroundColor).Default(clDefault),
+        OBX_ROW(TProgressBar, BarColor).Default(clDefault),
         OBX_ROW(TProgressBar, MarqueeInterval).Default(10), OBX_ROW(TProgressBar, Min).Default(0),
         OBX_ROW(TProgressBar, Max).Default(100), OBX_ROW(TProgressBar, Orientation).Default(pbHorizontal),
         OBX_ROW(TProgressBar, Position).Default(0), OBX_ROW(TProgressBar, Smooth).Default(false),
@@ -19,16 +20,16 @@ TRows ProgressBarRows()
 
 TRows TrackBarRows()
 {
-    return Sorted(Base(), Drag(), Mouse(), Focus(true), Ctl3D(), Buffer(),
-                  OBX_ROW(TWinControl, BorderWidth).Default(0), OBX_ROW(TTrackBar, Frequency).Default(1),
-                  OBX_ROW(TTrackBar, LineSize).Default(1), OBX_ROW(TTrackBar, Max).Default(10),
-                  OBX_ROW(TTrackBar, Min).Default(0), OBX_ROW(TTrackBar, Orientation).Default(trHorizontal),
-                  OBX_ROW(TTrackBar, PageSize).Default(2), OBX_ROW(TTrackBar, Position).Default(0),
-                  OBX_ROW(TTrackBar, PositionToolTip).Default(ptNone), OBX_ROW(TTrackBar, SelEnd).Default(0),
-                  OBX_ROW(TTrackBar, SelStart).Default(0), OBX_ROW(TTrackBar, ShowSelRange).Default(true),
-                  OBX_ROW(TTrackBar, SliderVisible).Default(true), OBX_ROW(TTrackBar, ThumbLength).Default(20),
-                  OBX_ROW(TTrackBar, TickMarks).Default(tmBottomRight), OBX_ROW(TTrackBar, TickStyle).Default(tsAuto),
-                  Prop<&TTrackBar::OnChange>("OnChange"));
+    return Sorted(
+        Base(), Drag(), Mouse(), Focus(true), Ctl3D(), Buffer(), OBX_ROW(TWinControl, BorderWidth).Default(0),
+        OBX_ROW(TTrackBar, Frequency).Default(1), OBX_ROW(TTrackBar, LineSize).Default(1),
+        OBX_ROW(TTrackBar, Max).Default(10), OBX_ROW(TTrackBar, Min).Default(0),
+        OBX_ROW(TTrackBar, Orientation).Default(trHorizontal), OBX_ROW(TTrackBar, PageSize).Default(2),
+        OBX_ROW(TTrackBar, Position).Default(0), OBX_ROW(TTrackBar, PositionToolTip).Default(ptNone),
+        OBX_ROW(TTrackBar, SelEnd).Default(0), OBX_ROW(TTrackBar, SelStart).Default(0),
+        OBX_ROW(TTrackBar, ShowSelRange).Default(true), OBX_ROW(TTrackBar, SliderVisible).Default(true),
+        OBX_ROW(TTrackBar, ThumbLength).Default(20), OBX_ROW(TTrackBar, TickMarks).Default(tmBottomRight),
+        OBX_ROW(TTrackBar, TickStyle).Default(tsAuto), Prop<&TTrackBar::OnChange>("OnChange"));
 }
 
 TRows UpDownRows()
@@ -46,13 +47,13 @@ TRows HotKeyRows()
 {
     // Alt+A, the classic default.
     constexpr auto Default = static_cast<TShortCut>(scAlt | 'A');
-    return Sorted(Base(), Mouse(), Focus(true), Buffer(), AutoSize(true),
-                  OBX_ROW(THotKey, HotKey).Default(Default),
-                  OBX_ROW(THotKey, InvalidKeys).Default(THKInvalidKeys{hcNone, hcShift}),
-                  OBX_ROW(THotKey, Modifiers).Default(THKModifiers{hkAlt}), Prop<&THotKey::OnChange>("OnChange"));
+    return Sorted(
+        Base(), Mouse(), Focus(true), Buffer(), AutoSize(true), OBX_ROW(THotKey, HotKey).Default(Default),
+        OBX_ROW(THotKey, InvalidKeys).Default(THKInvalidKeys{hcNone, hcShift}),
+        OBX_ROW(THotKey, Modifiers).Default(THKModifiers{hkAlt}), Prop<&THotKey::OnChange>("OnChange"));
 }
 
-}  // namespace
+} // namespace
 
 const TMetaClass& TProgressBar::MetaClass()
 {
@@ -76,7 +77,8 @@ const TMetaClass& TCustomUpDown::MetaClass()
 
 const TMetaClass& TUpDown::MetaClass()
 {
-    static const TMetaClass Class("TUpDown", &TCustomUpDown::MetaClass(), CreateComponent<TUpDown>, UpDownRows());
+    static const TMetaClass Class("TUpDown", &TCustomUpDown::MetaClass(), CreateComponent<TUpDown>,
+                                  UpDownRows());
     return Class;
 }
 
@@ -88,7 +90,8 @@ const TMetaClass& TCustomHotKey::MetaClass()
 
 const TMetaClass& THotKey::MetaClass()
 {
-    static const TMetaClass Class("THotKey", &TCustomHotKey::MetaClass(), CreateComponent<THotKey>, HotKeyRows());
+    static const TMetaClass Class("THotKey", &TCustomHotKey::MetaClass(), CreateComponent<THotKey>,
+                                  HotKeyRows());
     return Class;
 }
 
@@ -228,8 +231,8 @@ void TTrackBar::CreateParams(TCreateParams& Params)
     InitCommonControl(ICC_BAR_CLASSES);
     TWinControl::CreateParams(Params);
     CreateSubClass(Params, TRACKBAR_CLASSA);
-    Params.Style |= (FOrientation == trVertical ? TBS_VERT : TBS_HORZ) | Marks[FTickMarks] | Ticks[FTickStyle] |
-                    TBS_FIXEDLENGTH | (FShowSelRange ? TBS_ENABLESELRANGE : 0u) |
+    Params.Style |= (FOrientation == trVertical ? TBS_VERT : TBS_HORZ) | Marks[FTickMarks] |
+                    Ticks[FTickStyle] | TBS_FIXEDLENGTH | (FShowSelRange ? TBS_ENABLESELRANGE : 0u) |
                     (FSliderVisible ? 0u : TBS_NOTHUMB);
 }
 
@@ -386,7 +389,8 @@ void TCustomUpDown::Dispatch(TMessage& Message)
     TWinControl::Dispatch(Message);
 }
 
-TCustomHotKey::TCustomHotKey(TComponent* Owner) : TWinControl(Owner), FHotKey(static_cast<TShortCut>(scAlt | 'A'))
+TCustomHotKey::TCustomHotKey(TComponent* Owner)
+    : TWinControl(Owner), FHotKey(static_cast<TShortCut>(scAlt | 'A'))
 {
     SetBounds(0, 0, 121, 25);
     SetTabStop(true);
@@ -452,9 +456,9 @@ void TCustomHotKey::Dispatch(TMessage& Message)
         OnChange(this);
 }
 
-void RegisterRangeControls()
+void RegisterRangeControlClasses()
 {
-    for (const TMetaClass* const Class : {&TProgressBar::MetaClass(), &TTrackBar::MetaClass(), &TUpDown::MetaClass(),
-                                          &THotKey::MetaClass()})
+    for (const TMetaClass* const Class :
+         {&TProgressBar::MetaClass(), &TTrackBar::MetaClass(), &TUpDown::MetaClass(), &THotKey::MetaClass()})
         RegisterClass(*Class);
 }

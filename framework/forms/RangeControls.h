@@ -21,8 +21,7 @@ OBX_EVENT(TUDChangingEvent, TObject*, bool&)
 OBX_EVENT(TUDChangingEventEx, TObject*, bool&, int, TUpDownDirection)
 OBX_EVENT(TUDClickEvent, TObject*, TUpDownDirection)
 
-class TProgressBar : public TWinControl
-{
+class TProgressBar : public TWinControl {
     OBX_CLASS(TWinControl)
 public:
     explicit TProgressBar(TComponent* Owner);
@@ -64,8 +63,7 @@ private:
     TProgressBarStyle FStyle = pbstNormal;
 };
 
-class TTrackBar : public TWinControl
-{
+class TTrackBar : public TWinControl {
     OBX_CLASS(TWinControl)
 public:
     explicit TTrackBar(TComponent* Owner);
@@ -138,8 +136,7 @@ private:
 };
 
 // Arrows that change a number, which the associated control shows.
-class TCustomUpDown : public TWinControl
-{
+class TCustomUpDown : public TWinControl {
     OBX_CLASS(TWinControl)
 public:
     explicit TCustomUpDown(TComponent* Owner);
@@ -202,16 +199,14 @@ private:
     bool FWrap = false;
 };
 
-class TUpDown : public TCustomUpDown
-{
+class TUpDown : public TCustomUpDown {
     OBX_CLASS(TCustomUpDown)
 public:
     using TCustomUpDown::TCustomUpDown;
 };
 
 // A field in which the user presses a shortcut.
-class TCustomHotKey : public TWinControl
-{
+class TCustomHotKey : public TWinControl {
     OBX_CLASS(TWinControl)
 public:
     explicit TCustomHotKey(TComponent* Owner);
@@ -236,11 +231,10 @@ private:
     TShortCut FHotKey;
 };
 
-class THotKey : public TCustomHotKey
-{
+class THotKey : public TCustomHotKey {
     OBX_CLASS(TCustomHotKey)
 public:
     using TCustomHotKey::TCustomHotKey;
 };
 
-void RegisterRangeControls();
+void RegisterRangeControlClasses();

@@ -5,8 +5,7 @@
 #include "framework/forms/Edits.h"
 
 // Shows its lines as plain text; formats in what is loaded are not interpreted.
-class TCustomRichEdit : public TCustomMemo
-{
+class TCustomRichEdit : public TCustomMemo {
     OBX_CLASS(TCustomMemo)
 public:
     explicit TCustomRichEdit(TComponent* Owner) : TCustomMemo(Owner) {}
@@ -19,8 +18,7 @@ public:
     TNotifyEvent OnSelectionChange;
 };
 
-class TRichEdit : public TCustomRichEdit
-{
+class TRichEdit : public TCustomRichEdit {
     OBX_CLASS(TCustomRichEdit)
 public:
     explicit TRichEdit(TComponent* Owner) : TCustomRichEdit(Owner) {}
@@ -30,8 +28,7 @@ OBX_ENUM(TCommonAVI, aviNone, aviFindFolder, aviFindFile, aviFindComputer, aviCo
          aviRecycleFile, aviEmptyRecycle, aviDeleteFile)
 
 // Keeps its place and settings; nothing is played.
-class TAnimate : public TWinControl
-{
+class TAnimate : public TWinControl {
     OBX_CLASS(TWinControl)
 public:
     explicit TAnimate(TComponent* Owner);
@@ -53,4 +50,4 @@ public:
     TNotifyEvent OnStop;
 };
 
-void RegisterRichEdits();
+void RegisterRichEditClasses();

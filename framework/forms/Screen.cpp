@@ -65,8 +65,7 @@ int CALLBACK AddFontName(const LOGFONTA* Font, const TEXTMETRICA*, DWORD, LPARAM
     return 1;
 }
 
-struct TDisabling
-{
+struct TDisabling {
     HWND Except;
     std::vector<HWND> Windows;
 };
@@ -89,7 +88,7 @@ T* At(const std::vector<T*>& List, int Index)
     return List[static_cast<size_t>(Index)];
 }
 
-}  // namespace
+} // namespace
 
 const TMetaClass& TScreen::MetaClass()
 {
@@ -136,8 +135,8 @@ TForm* TScreen::Forms(int Index) const
 
 int TScreen::FormCount() const
 {
-    return static_cast<int>(
-        std::count_if(FAllForms.begin(), FAllForms.end(), [](TCustomForm* Form) { return dynamic_cast<TForm*>(Form); }));
+    return static_cast<int>(std::count_if(FAllForms.begin(), FAllForms.end(),
+                                          [](TCustomForm* Form) { return dynamic_cast<TForm*>(Form); }));
 }
 
 TCustomForm* TScreen::CustomForms(int Index) const

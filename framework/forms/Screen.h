@@ -11,8 +11,7 @@
 
 class TDataModule;
 
-class TScreen : public TComponent
-{
+class TScreen : public TComponent {
     OBX_CLASS(TComponent)
 public:
     explicit TScreen(TComponent* Owner);
@@ -69,8 +68,8 @@ private:
     void SetActive(TCustomForm* Form, TWinControl* Control);
     void GetMetricSettings();
 
-    std::vector<TCustomForm*> FAllForms;     // in the order of creation
-    std::vector<TCustomForm*> FCustomForms;  // last active first
+    std::vector<TCustomForm*> FAllForms;    // in the order of creation
+    std::vector<TCustomForm*> FCustomForms; // last active first
     std::vector<TDataModule*> FDataModules;
     TCustomForm* FActiveCustomForm = nullptr;
     TCustomForm* FFocusedForm = nullptr;
@@ -87,8 +86,7 @@ private:
 extern TScreen* Screen;
 
 // Shows a cursor on the whole screen as long as it lives.
-class TCursorGuard
-{
+class TCursorGuard {
 public:
     explicit TCursorGuard(TCursor Cursor) : FOld(Screen->Cursor()) { Screen->SetCursor(Cursor); }
     ~TCursorGuard() { Screen->SetCursor(FOld); }

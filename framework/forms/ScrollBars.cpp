@@ -136,7 +136,8 @@ void TScrollBar::Scroll(const TMessage& Message)
         SCROLLINFO Info{};
         Info.cbSize = sizeof Info;
         Info.fMask = SIF_TRACKPOS;
-        const bool Known = HandleAllocated() && GetScrollInfo(WindowHandle(), SB_CTL, &Info) && Info.nTrackPos != 0;
+        const bool Known =
+            HandleAllocated() && GetScrollInfo(WindowHandle(), SB_CTL, &Info) && Info.nTrackPos != 0;
         NewPosition = Known ? Info.nTrackPos : Message.Code();
         break;
     }

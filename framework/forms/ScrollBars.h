@@ -3,11 +3,11 @@
 
 #include "framework/forms/WinControl.h"
 
-OBX_ENUM(TScrollCode, scLineUp, scLineDown, scPageUp, scPageDown, scPosition, scTrack, scTop, scBottom, scEndScroll)
+OBX_ENUM(TScrollCode, scLineUp, scLineDown, scPageUp, scPageDown, scPosition, scTrack, scTop, scBottom,
+         scEndScroll)
 OBX_EVENT(TScrollEvent, TObject*, TScrollCode, int&)
 
-class TScrollBar : public TWinControl
-{
+class TScrollBar : public TWinControl {
     OBX_CLASS(TWinControl)
 public:
     explicit TScrollBar(TComponent* Owner);

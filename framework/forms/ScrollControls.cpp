@@ -4,22 +4,23 @@
 
 const TMetaClass& TControlScrollBar::MetaClass()
 {
-    static const TMetaClass Class("TControlScrollBar", &TPersistent::MetaClass(), nullptr,
-                                  {
-                                      OBX_ROW(TControlScrollBar, ButtonSize).Default(0),
-                                      OBX_ROW(TControlScrollBar, Color).Default(clBtnHighlight),
-                                      OBX_ROW(TControlScrollBar, Increment).Default(8).Stored<&TControlScrollBar::IsIncrementStored>(),
-                                      OBX_ROW(TControlScrollBar, Margin).Default(0),
-                                      OBX_ROW(TControlScrollBar, ParentColor).Default(true),
-                                      OBX_ROW(TControlScrollBar, Position).Default(0),
-                                      OBX_ROW(TControlScrollBar, Range).Default(0).Stored<&TControlScrollBar::IsRangeStored>(),
-                                      OBX_ROW(TControlScrollBar, Smooth).Default(false),
-                                      OBX_ROW(TControlScrollBar, Size).Default(0),
-                                      OBX_ROW(TControlScrollBar, Style).Default(ssRegular),
-                                      OBX_ROW(TControlScrollBar, ThumbSize).Default(0),
-                                      OBX_ROW(TControlScrollBar, Tracking).Default(false),
-                                      OBX_ROW(TControlScrollBar, Visible).Default(true),
-                                  });
+    static const TMetaClass Class(
+        "TControlScrollBar", &TPersistent::MetaClass(), nullptr,
+        {
+            OBX_ROW(TControlScrollBar, ButtonSize).Default(0),
+            OBX_ROW(TControlScrollBar, Color).Default(clBtnHighlight),
+            OBX_ROW(TControlScrollBar, Increment).Default(8).Stored<&TControlScrollBar::IsIncrementStored>(),
+            OBX_ROW(TControlScrollBar, Margin).Default(0),
+            OBX_ROW(TControlScrollBar, ParentColor).Default(true),
+            OBX_ROW(TControlScrollBar, Position).Default(0),
+            OBX_ROW(TControlScrollBar, Range).Default(0).Stored<&TControlScrollBar::IsRangeStored>(),
+            OBX_ROW(TControlScrollBar, Smooth).Default(false),
+            OBX_ROW(TControlScrollBar, Size).Default(0),
+            OBX_ROW(TControlScrollBar, Style).Default(ssRegular),
+            OBX_ROW(TControlScrollBar, ThumbSize).Default(0),
+            OBX_ROW(TControlScrollBar, Tracking).Default(false),
+            OBX_ROW(TControlScrollBar, Visible).Default(true),
+        });
     return Class;
 }
 
@@ -109,8 +110,9 @@ int TControlScrollBar::ControlSize(bool ControlHorz, bool ControlVert) const
             return Size + GetSystemMetrics(Metric);
         return Size;
     };
-    return FKind == sbVertical ? Adjusted(static_cast<int>(Client.bottom), WS_HSCROLL, ControlHorz, SM_CYHSCROLL)
-                               : Adjusted(static_cast<int>(Client.right), WS_VSCROLL, ControlVert, SM_CXVSCROLL);
+    return FKind == sbVertical
+               ? Adjusted(static_cast<int>(Client.bottom), WS_HSCROLL, ControlHorz, SM_CYHSCROLL)
+               : Adjusted(static_cast<int>(Client.right), WS_VSCROLL, ControlVert, SM_CXVSCROLL);
 }
 
 void TControlScrollBar::Update(bool ControlHorz, bool ControlVert)
@@ -183,8 +185,7 @@ const TMetaClass& TScrollingWinControl::MetaClass()
 }
 
 TScrollingWinControl::TScrollingWinControl(TComponent* Owner)
-    : TWinControl(Owner),
-      FHorzScrollBar(std::make_unique<TControlScrollBar>(this, sbHorizontal)),
+    : TWinControl(Owner), FHorzScrollBar(std::make_unique<TControlScrollBar>(this, sbHorizontal)),
       FVertScrollBar(std::make_unique<TControlScrollBar>(this, sbVertical))
 {
 }
@@ -222,8 +223,10 @@ void TScrollingWinControl::UpdateScrollBars()
     FUpdatingScrollBars = true;
     TRect Client{};
     GetClientRect(WindowHandle(), &Client);
-    const bool Vert = FVertScrollBar->FVisible && FVertScrollBar->FRange > FVertScrollBar->ControlSize(false, false);
-    const bool Horz = FHorzScrollBar->FVisible && FHorzScrollBar->FRange > FHorzScrollBar->ControlSize(false, Vert);
+    const bool Vert =
+        FVertScrollBar->FVisible && FVertScrollBar->FRange > FVertScrollBar->ControlSize(false, false);
+    const bool Horz =
+        FHorzScrollBar->FVisible && FHorzScrollBar->FRange > FHorzScrollBar->ControlSize(false, Vert);
     FVertScrollBar->Update(Horz, Vert);
     FHorzScrollBar->Update(Horz, Vert);
     FUpdatingScrollBars = false;

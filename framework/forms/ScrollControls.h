@@ -9,8 +9,7 @@ class TScrollingWinControl;
 
 // One scroll bar of a container; its range is that of the controls inside when
 // AutoScroll is on.
-class TControlScrollBar : public TPersistent
-{
+class TControlScrollBar : public TPersistent {
     OBX_CLASS(TPersistent)
 public:
     TControlScrollBar(TScrollingWinControl* Control, TScrollBarKind Kind) : FControl(Control), FKind(Kind) {}
@@ -79,8 +78,7 @@ private:
     bool FVisible = true;
 };
 
-class TScrollingWinControl : public TWinControl
-{
+class TScrollingWinControl : public TWinControl {
     OBX_CLASS(TWinControl)
 public:
     explicit TScrollingWinControl(TComponent* Owner);

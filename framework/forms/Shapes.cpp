@@ -19,7 +19,7 @@ ControlRows::TRows PlainRows()
     };
 }
 
-}  // namespace
+} // namespace
 
 const TMetaClass& TBevel::MetaClass()
 {
@@ -35,8 +35,9 @@ const TMetaClass& TShape::MetaClass()
     static const TMetaClass Class(
         "TShape", &TGraphicControl::MetaClass(), CreateComponent<TShape>,
         Sorted(PlainRows(), Drag(), OBX_ROW(TShape, Brush),
-               OBX_ROW(TShape, Enabled).Default(true).Stored<&TShape::IsEnabledStored>(), OBX_ROW(TShape, Pen),
-               OBX_ROW(TShape, Shape).Default(stRectangle), Prop<&TShape::OnContextPopup>("OnContextPopup"),
+               OBX_ROW(TShape, Enabled).Default(true).Stored<&TShape::IsEnabledStored>(),
+               OBX_ROW(TShape, Pen), OBX_ROW(TShape, Shape).Default(stRectangle),
+               Prop<&TShape::OnContextPopup>("OnContextPopup"),
                Prop<&TShape::OnMouseActivate>("OnMouseActivate"), Prop<&TShape::OnMouseDown>("OnMouseDown"),
                Prop<&TShape::OnMouseEnter>("OnMouseEnter"), Prop<&TShape::OnMouseLeave>("OnMouseLeave"),
                Prop<&TShape::OnMouseMove>("OnMouseMove"), Prop<&TShape::OnMouseUp>("OnMouseUp")));

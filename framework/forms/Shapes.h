@@ -6,8 +6,7 @@
 OBX_ENUM(TBevelStyle, bsLowered, bsRaised)
 OBX_ENUM(TBevelShape, bsBox, bsFrame, bsTopLine, bsBottomLine, bsLeftLine, bsRightLine, bsSpacer)
 
-class TBevel : public TGraphicControl
-{
+class TBevel : public TGraphicControl {
     OBX_CLASS(TGraphicControl)
 public:
     explicit TBevel(TComponent* Owner);
@@ -21,8 +20,7 @@ protected:
 
 OBX_ENUM(TShapeType, stRectangle, stSquare, stRoundRect, stRoundSquare, stEllipse, stCircle)
 
-class TShape : public TGraphicControl
-{
+class TShape : public TGraphicControl {
     OBX_CLASS(TGraphicControl)
 public:
     explicit TShape(TComponent* Owner);

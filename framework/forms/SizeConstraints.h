@@ -6,8 +6,7 @@
 class TControl;
 
 // Pixels; 0 sets no limit. A minimum above its maximum moves the other one.
-class TSizeConstraints : public TPersistent
-{
+class TSizeConstraints : public TPersistent {
     OBX_CLASS(TPersistent)
 public:
     explicit TSizeConstraints(TControl* Control) : FControl(Control) {}
@@ -38,8 +37,7 @@ private:
 };
 
 // Pixels around an aligned control (AlignWithMargins).
-class TMargins : public TPersistent
-{
+class TMargins : public TPersistent {
     OBX_CLASS(TPersistent)
 public:
     explicit TMargins(TControl* Control, int Initial = 3);
@@ -60,8 +58,7 @@ private:
 };
 
 // Pixels between a container's edges and the controls aligned in it.
-class TPadding : public TMargins
-{
+class TPadding : public TMargins {
     OBX_CLASS(TMargins)
 public:
     explicit TPadding(TControl* Control) : TMargins(Control, 0) {}

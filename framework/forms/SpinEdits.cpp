@@ -11,16 +11,15 @@ namespace {
 constexpr uint32_t FirstPause = 400;
 constexpr uint32_t RepeatPause = 100;
 
-}  // namespace
+} // namespace
 
 const TMetaClass& TSpinButton::MetaClass()
 {
     using namespace ControlRows;
-    static const TMetaClass Class("TSpinButton", &TCustomControl::MetaClass(), CreateComponent<TSpinButton>,
-                                  Sorted(Base(), Drag(), Focus(false), ControlRows::Ctl3D(),
-                                         OBX_ROW(TSpinButton, FocusControl),
-                                         Prop<&TSpinButton::OnDownClick>("OnDownClick"),
-                                         Prop<&TSpinButton::OnUpClick>("OnUpClick")));
+    static const TMetaClass Class(
+        "TSpinButton", &TCustomControl::MetaClass(), CreateComponent<TSpinButton>,
+        Sorted(Base(), Drag(), Focus(false), ControlRows::Ctl3D(), OBX_ROW(TSpinButton, FocusControl),
+               Prop<&TSpinButton::OnDownClick>("OnDownClick"), Prop<&TSpinButton::OnUpClick>("OnUpClick")));
     return Class;
 }
 
@@ -138,7 +137,8 @@ void TSpinEdit::SetValue(int NewValue)
 
 int TSpinEdit::InRange(int Candidate) const
 {
-    return FMaxValue == FMinValue ? Candidate : std::clamp(Candidate, FMinValue, std::max(FMinValue, FMaxValue));
+    return FMaxValue == FMinValue ? Candidate
+                                  : std::clamp(Candidate, FMinValue, std::max(FMinValue, FMaxValue));
 }
 
 void TSpinEdit::Step(int Change)

@@ -6,8 +6,7 @@
 #include "framework/forms/Timers.h"
 
 // Two arrows, one above the other.
-class TSpinButton : public TCustomControl
-{
+class TSpinButton : public TCustomControl {
     OBX_CLASS(TCustomControl)
 public:
     explicit TSpinButton(TComponent* Owner);
@@ -37,8 +36,7 @@ private:
 
 // An edit for a number with a spin button inside. The range is in force when
 // MaxValue and MinValue differ.
-class TSpinEdit : public TCustomEdit
-{
+class TSpinEdit : public TCustomEdit {
     OBX_CLASS(TCustomEdit)
 public:
     explicit TSpinEdit(TComponent* Owner);

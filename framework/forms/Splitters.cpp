@@ -15,7 +15,8 @@ const TMetaClass& TSplitter::MetaClass()
                OBX_ROW(TSplitter, Color).Default(clWindow).Stored<&TSplitter::IsColorStored>(),
                OBX_ROW(TSplitter, Constraints), OBX_ROW(TSplitter, Cursor).Default(crHSplit),
                OBX_ROW(TSplitter, MinSize).Default(30), OBX_ROW(TSplitter, ParentColor).Default(true),
-               OBX_ROW(TSplitter, ParentShowHint).Default(true), OBX_ROW(TSplitter, ResizeStyle).Default(rsPattern),
+               OBX_ROW(TSplitter, ParentShowHint).Default(true),
+               OBX_ROW(TSplitter, ResizeStyle).Default(rsPattern),
                OBX_ROW(TSplitter, ShowHint).Stored<&TSplitter::IsShowHintStored>(),
                OBX_ROW(TSplitter, Visible).Default(true).Stored<&TSplitter::IsVisibleStored>(),
                Prop<&TSplitter::OnCanResize>("OnCanResize"), Prop<&TSplitter::OnMoved>("OnMoved"),
@@ -144,7 +145,8 @@ void TSplitter::Paint()
     Canvas()->Brush()->SetColor(Color());
     Canvas()->FillRect(Area);
     if (Beveled())
-        DrawEdge(Canvas()->Handle(), &Area, BDR_RAISEDINNER, IsVertical() ? BF_LEFT | BF_RIGHT : BF_TOP | BF_BOTTOM);
+        DrawEdge(Canvas()->Handle(), &Area, BDR_RAISEDINNER,
+                 IsVertical() ? BF_LEFT | BF_RIGHT : BF_TOP | BF_BOTTOM);
     if (OnPaint)
         OnPaint(this);
 }

@@ -10,8 +10,7 @@ OBX_EVENT(TSplitterCanResizeEvent, TObject*, int&, bool&)
 using TNaturalNumber = int;
 
 // Resizes the control on the side that the splitter is aligned to.
-class TSplitter : public TGraphicControl
-{
+class TSplitter : public TGraphicControl {
     OBX_CLASS(TGraphicControl)
 public:
     explicit TSplitter(TComponent* Owner);
@@ -40,7 +39,7 @@ private:
     int SizeAt(int X, int Y) const;
     void ApplySize();
 
-    TControl* FControl = nullptr;  // while dragging
+    TControl* FControl = nullptr; // while dragging
     TPoint FDownPos{};
     int FOldSize = 0;
     int FNewSize = 0;

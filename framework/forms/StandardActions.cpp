@@ -14,7 +14,7 @@ std::vector<TPropInfo> EnabledWithoutHandler()
     return {OBX_ROW(TStandardAction, DisableIfNoHandler).Default(false)};
 }
 
-}  // namespace
+} // namespace
 
 #define OBX_ACTION_CLASS(Name, Parent, Factory, ...)                                                         \
     const TMetaClass& Name::MetaClass()                                                                      \
@@ -45,7 +45,8 @@ OBX_ACTION_CLASS(THelpOnHelp, THelpAction, CreateComponent<THelpOnHelp>, {})
 OBX_ACTION_CLASS(TFileExit, TStandardAction, CreateComponent<TFileExit>, {})
 OBX_ACTION_CLASS(TCommonDialogAction, TStandardAction, nullptr,
                  {Prop<&TCommonDialogAction::BeforeExecute>("BeforeExecute"),
-                  Prop<&TCommonDialogAction::OnAccept>("OnAccept"), Prop<&TCommonDialogAction::OnCancel>("OnCancel")})
+                  Prop<&TCommonDialogAction::OnAccept>("OnAccept"),
+                  Prop<&TCommonDialogAction::OnCancel>("OnCancel")})
 OBX_ACTION_CLASS(TFileOpen, TCommonDialogAction, CreateComponent<TFileOpen>, {})
 OBX_ACTION_CLASS(TFileSaveAs, TCommonDialogAction, CreateComponent<TFileSaveAs>, {})
 #undef OBX_ACTION_CLASS
@@ -194,14 +195,14 @@ void TFileExit::ExecuteTarget(TObject*)
         Application->MainForm()->Close();
 }
 
-void RegisterStandardActions()
+void RegisterStandardActionClasses()
 {
     for (const TMetaClass* const Class :
-         {&TEditCut::MetaClass(), &TEditCopy::MetaClass(), &TEditPaste::MetaClass(), &TEditSelectAll::MetaClass(),
-          &TEditUndo::MetaClass(), &TEditDelete::MetaClass(), &TWindowClose::MetaClass(),
-          &TWindowCascade::MetaClass(), &TWindowTileHorizontal::MetaClass(), &TWindowTileVertical::MetaClass(),
-          &TWindowMinimizeAll::MetaClass(), &TWindowArrange::MetaClass(), &THelpContents::MetaClass(),
-          &THelpTopicSearch::MetaClass(), &THelpOnHelp::MetaClass(), &TFileExit::MetaClass(),
-          &TFileOpen::MetaClass(), &TFileSaveAs::MetaClass()})
+         {&TEditCut::MetaClass(), &TEditCopy::MetaClass(), &TEditPaste::MetaClass(),
+          &TEditSelectAll::MetaClass(), &TEditUndo::MetaClass(), &TEditDelete::MetaClass(),
+          &TWindowClose::MetaClass(), &TWindowCascade::MetaClass(), &TWindowTileHorizontal::MetaClass(),
+          &TWindowTileVertical::MetaClass(), &TWindowMinimizeAll::MetaClass(), &TWindowArrange::MetaClass(),
+          &THelpContents::MetaClass(), &THelpTopicSearch::MetaClass(), &THelpOnHelp::MetaClass(),
+          &TFileExit::MetaClass(), &TFileOpen::MetaClass(), &TFileSaveAs::MetaClass()})
         RegisterClass(*Class);
 }

@@ -6,16 +6,14 @@
 class TCustomEdit;
 
 // An action that never is disabled for want of a handler.
-class TStandardAction : public TAction
-{
+class TStandardAction : public TAction {
     OBX_CLASS(TAction)
 public:
     explicit TStandardAction(TComponent* Owner) : TAction(Owner) { FDisableIfNoHandler = false; }
 };
 
 // Acts on the edit that has the focus.
-class TEditAction : public TStandardAction
-{
+class TEditAction : public TStandardAction {
     OBX_CLASS(TStandardAction)
 public:
     using TStandardAction::TStandardAction;
@@ -29,8 +27,7 @@ protected:
 };
 
 #define OBX_EDIT_ACTION(Name)                                                                                \
-    class Name : public TEditAction                                                                          \
-    {                                                                                                        \
+    class Name : public TEditAction {                                                                        \
         OBX_CLASS(TEditAction)                                                                               \
     public:                                                                                                  \
         using TEditAction::TEditAction;                                                                      \
@@ -49,8 +46,7 @@ OBX_EDIT_ACTION(TEditDelete)
 #undef OBX_EDIT_ACTION
 
 // Acts on the documents of a form of style fsMDIForm.
-class TWindowAction : public TStandardAction
-{
+class TWindowAction : public TStandardAction {
     OBX_CLASS(TStandardAction)
 public:
     using TStandardAction::TStandardAction;
@@ -63,8 +59,7 @@ protected:
 };
 
 #define OBX_WINDOW_ACTION(Name)                                                                              \
-    class Name : public TWindowAction                                                                        \
-    {                                                                                                        \
+    class Name : public TWindowAction {                                                                      \
         OBX_CLASS(TWindowAction)                                                                             \
     public:                                                                                                  \
         using TWindowAction::TWindowAction;                                                                  \
@@ -82,8 +77,7 @@ OBX_WINDOW_ACTION(TWindowArrange)
 #undef OBX_WINDOW_ACTION
 
 // Opens the program's help.
-class THelpAction : public TStandardAction
-{
+class THelpAction : public TStandardAction {
     OBX_CLASS(TStandardAction)
 public:
     using TStandardAction::TStandardAction;
@@ -95,15 +89,13 @@ protected:
     virtual int HelpCommand() const { return HELP_FINDER; }
 };
 
-class THelpContents : public THelpAction
-{
+class THelpContents : public THelpAction {
     OBX_CLASS(THelpAction)
 public:
     using THelpAction::THelpAction;
 };
 
-class THelpTopicSearch : public THelpAction
-{
+class THelpTopicSearch : public THelpAction {
     OBX_CLASS(THelpAction)
 public:
     using THelpAction::THelpAction;
@@ -112,8 +104,7 @@ protected:
     int HelpCommand() const override { return HELP_PARTIALKEY; }
 };
 
-class THelpOnHelp : public THelpAction
-{
+class THelpOnHelp : public THelpAction {
     OBX_CLASS(THelpAction)
 public:
     using THelpAction::THelpAction;
@@ -123,8 +114,7 @@ protected:
 };
 
 // Closes the main form.
-class TFileExit : public TStandardAction
-{
+class TFileExit : public TStandardAction {
     OBX_CLASS(TStandardAction)
 public:
     using TStandardAction::TStandardAction;
@@ -133,8 +123,7 @@ public:
 };
 
 // Published for form files; the dialogs' own properties stay as the file has them.
-class TCommonDialogAction : public TStandardAction
-{
+class TCommonDialogAction : public TStandardAction {
     OBX_CLASS(TStandardAction)
 public:
     using TStandardAction::TStandardAction;
@@ -143,18 +132,16 @@ public:
     TNotifyEvent OnCancel;
 };
 
-class TFileOpen : public TCommonDialogAction
-{
+class TFileOpen : public TCommonDialogAction {
     OBX_CLASS(TCommonDialogAction)
 public:
     using TCommonDialogAction::TCommonDialogAction;
 };
 
-class TFileSaveAs : public TCommonDialogAction
-{
+class TFileSaveAs : public TCommonDialogAction {
     OBX_CLASS(TCommonDialogAction)
 public:
     using TCommonDialogAction::TCommonDialogAction;
 };
 
-void RegisterStandardActions();
+void RegisterStandardActionClasses();

@@ -8,19 +8,19 @@
 
 void RegisterComCtrls()
 {
-    RegisterImageLists();
-    RegisterMenus();
-    RegisterActions();
-    RegisterStatusBars();
-    RegisterToolBars();
-    RegisterCoolBars();
-    RegisterPageControls();
-    RegisterHeaderControls();
-    RegisterListViews();
-    RegisterTreeViews();
-    RegisterRangeControls();
-    RegisterDateControls();
-    RegisterRichEdits();
+    RegisterImageListClasses();
+    RegisterMenuClasses();
+    RegisterActionClasses();
+    RegisterStatusBarClasses();
+    RegisterToolBarClasses();
+    RegisterCoolBarClasses();
+    RegisterPageControlClasses();
+    RegisterHeaderControlClasses();
+    RegisterListViewClasses();
+    RegisterTreeViewClasses();
+    RegisterRangeControlClasses();
+    RegisterDateControlClasses();
+    RegisterRichEditClasses();
 }
 
 void RegisterStandardClasses()

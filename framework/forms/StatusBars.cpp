@@ -5,20 +5,21 @@ namespace {
 // The number of the part that stands for the whole bar.
 constexpr int SimplePart = 255;
 
-}  // namespace
+} // namespace
 
 const TMetaClass& TStatusPanel::MetaClass()
 {
-    static const TMetaClass Class("TStatusPanel", &TCollectionItem::MetaClass(), nullptr,
-                                  {
-                                      OBX_ROW(TStatusPanel, Alignment).Default(taLeftJustify),
-                                      OBX_ROW(TStatusPanel, Bevel).Default(pbLowered),
-                                      OBX_ROW(TStatusPanel, BiDiMode).Stored<&TStatusPanel::IsBiDiModeStored>(),
-                                      OBX_ROW(TStatusPanel, ParentBiDiMode).Default(true),
-                                      OBX_ROW(TStatusPanel, Style).Default(psText),
-                                      OBX_ROW(TStatusPanel, Text),
-                                      OBX_ROW(TStatusPanel, Width),
-                                  });
+    static const TMetaClass Class(
+        "TStatusPanel", &TCollectionItem::MetaClass(), nullptr,
+        {
+            OBX_ROW(TStatusPanel, Alignment).Default(taLeftJustify),
+            OBX_ROW(TStatusPanel, Bevel).Default(pbLowered),
+            OBX_ROW(TStatusPanel, BiDiMode).Stored<&TStatusPanel::IsBiDiModeStored>(),
+            OBX_ROW(TStatusPanel, ParentBiDiMode).Default(true),
+            OBX_ROW(TStatusPanel, Style).Default(psText),
+            OBX_ROW(TStatusPanel, Text),
+            OBX_ROW(TStatusPanel, Width),
+        });
     return Class;
 }
 
@@ -39,8 +40,9 @@ const TMetaClass& TStatusBar::MetaClass()
     using namespace ControlRows;
     static const TMetaClass Class(
         "TStatusBar", &TCustomStatusBar::MetaClass(), CreateComponent<TStatusBar>,
-        Sorted(Look(), Drag(), Mouse(), ControlRows::Resize(), Buffer(), ControlRows::Action(), OBX_ROW(TStatusBar, AutoHint).Default(false),
-               OBX_ROW(TControl, Align).Default(alBottom), OBX_ROW(TWinControl, BorderWidth).Default(0),
+        Sorted(Look(), Drag(), Mouse(), ControlRows::Resize(), Buffer(), ControlRows::Action(),
+               OBX_ROW(TStatusBar, AutoHint).Default(false), OBX_ROW(TControl, Align).Default(alBottom),
+               OBX_ROW(TWinControl, BorderWidth).Default(0),
                OBX_ROW(TControl, Color).Default(clBtnFace).Stored<&TControl::IsColorStored>(),
                OBX_ROW(TControl, ParentColor).Default(false), OBX_ROW(TControl, ParentFont).Default(false),
                OBX_ROW(TStatusBar, Panels), OBX_ROW(TStatusBar, SimplePanel).Default(false),
@@ -156,8 +158,8 @@ void TCustomStatusBar::ShowSimpleText()
 }
 
 // The window aligns what follows a tab in the middle and what follows two at the right.
-void TCustomStatusBar::ShowText(const std::string& Text, int Part, TAlignment Alignment, TStatusPanelBevel Bevel,
-                                bool OwnerDraw)
+void TCustomStatusBar::ShowText(const std::string& Text, int Part, TAlignment Alignment,
+                                TStatusPanelBevel Bevel, bool OwnerDraw)
 {
     static constexpr const char* Tabs[] = {"", "\t\t", "\t"};
     static constexpr WPARAM Borders[] = {SBT_NOBORDERS, 0, SBT_POPOUT};
@@ -191,7 +193,7 @@ void TCustomStatusBar::Dispatch(TMessage& Message)
         UpdatePanels();
 }
 
-void RegisterStatusBars()
+void RegisterStatusBarClasses()
 {
     RegisterClass(TStatusBar::MetaClass());
 }

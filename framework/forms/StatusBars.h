@@ -13,8 +13,7 @@ OBX_ENUM(TStatusPanelBevel, pbNone, pbLowered, pbRaised)
 
 OBX_EVENT(TDrawPanelEvent, TObject*, TStatusPanel*, const TRect&)
 
-class TStatusPanel : public TCollectionItem
-{
+class TStatusPanel : public TCollectionItem {
     OBX_CLASS(TCollectionItem)
 public:
     using TCollectionItem::TCollectionItem;
@@ -34,8 +33,7 @@ public:
     bool IsBiDiModeStored() const { return !FParentBiDiMode; }
 };
 
-class TStatusPanels : public TCollection
-{
+class TStatusPanels : public TCollection {
     OBX_CLASS(TCollection)
 public:
     explicit TStatusPanels(TCustomStatusBar* StatusBar);
@@ -49,8 +47,7 @@ private:
     TCustomStatusBar* FStatusBar;
 };
 
-class TCustomStatusBar : public TWinControl
-{
+class TCustomStatusBar : public TWinControl {
     OBX_CLASS(TWinControl)
 public:
     explicit TCustomStatusBar(TComponent* Owner);
@@ -85,7 +82,8 @@ protected:
 private:
     void UpdatePanels();
     void UpdatePanel(int Index);
-    void ShowText(const std::string& Text, int Part, TAlignment Alignment, TStatusPanelBevel Bevel, bool OwnerDraw);
+    void ShowText(const std::string& Text, int Part, TAlignment Alignment, TStatusPanelBevel Bevel,
+                  bool OwnerDraw);
     void ShowSimpleText();
 
     TStatusPanels FPanels;
@@ -96,11 +94,10 @@ private:
     bool FUseSystemFont = true;
 };
 
-class TStatusBar : public TCustomStatusBar
-{
+class TStatusBar : public TCustomStatusBar {
     OBX_CLASS(TCustomStatusBar)
 public:
     using TCustomStatusBar::TCustomStatusBar;
 };
 
-void RegisterStatusBars();
+void RegisterStatusBarClasses();

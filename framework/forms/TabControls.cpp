@@ -7,7 +7,7 @@ namespace {
 constexpr int TabPadding = 8;
 constexpr int PageFrame = 4;
 
-}  // namespace
+} // namespace
 
 const TMetaClass& TCustomTabControl::MetaClass()
 {
@@ -20,22 +20,24 @@ const TMetaClass& TTabControl::MetaClass()
     using namespace ControlRows;
     static const TMetaClass Class(
         "TTabControl", &TCustomTabControl::MetaClass(), CreateComponent<TTabControl>,
-        Sorted(CommonControlRows(true), Dock(), OBX_ROW(TControl, Font).Stored<&TControl::IsFontStored>(),
-               OBX_ROW(TControl, ParentFont).Default(true), OBX_ROW(TTabControl, HotTrack).Default(false),
-               OBX_ROW(TTabControl, Images), OBX_ROW(TTabControl, MultiLine).Default(false),
-               OBX_ROW(TTabControl, MultiSelect).Default(false), OBX_ROW(TTabControl, OwnerDraw).Default(false),
-               OBX_ROW(TTabControl, RaggedRight).Default(false),
-               OBX_ROW(TTabControl, ScrollOpposite).Default(false), OBX_ROW(TTabControl, Style).Default(tsTabs),
-               OBX_ROW(TTabControl, TabHeight).Default(0), OBX_ROW(TTabControl, TabPosition).Default(tpTop),
-               OBX_ROW(TTabControl, Tabs), OBX_ROW(TTabControl, TabIndex).Default(-1),
-               OBX_ROW(TTabControl, TabWidth).Default(0), Prop<&TTabControl::OnChange>("OnChange"),
-               Prop<&TTabControl::OnChanging>("OnChanging"), Prop<&TTabControl::OnDrawTab>("OnDrawTab"),
-               Prop<&TTabControl::OnGetImageIndex>("OnGetImageIndex")));
+        Sorted(
+            CommonControlRows(true), Dock(), OBX_ROW(TControl, Font).Stored<&TControl::IsFontStored>(),
+            OBX_ROW(TControl, ParentFont).Default(true), OBX_ROW(TTabControl, HotTrack).Default(false),
+            OBX_ROW(TTabControl, Images), OBX_ROW(TTabControl, MultiLine).Default(false),
+            OBX_ROW(TTabControl, MultiSelect).Default(false), OBX_ROW(TTabControl, OwnerDraw).Default(false),
+            OBX_ROW(TTabControl, RaggedRight).Default(false),
+            OBX_ROW(TTabControl, ScrollOpposite).Default(false), OBX_ROW(TTabControl, Style).Default(tsTabs),
+            OBX_ROW(TTabControl, TabHeight).Default(0), OBX_ROW(TTabControl, TabPosition).Default(tpTop),
+            OBX_ROW(TTabControl, Tabs), OBX_ROW(TTabControl, TabIndex).Default(-1),
+            OBX_ROW(TTabControl, TabWidth).Default(0), Prop<&TTabControl::OnChange>("OnChange"),
+            Prop<&TTabControl::OnChanging>("OnChanging"), Prop<&TTabControl::OnDrawTab>("OnDrawTab"),
+            Prop<&TTabControl::OnGetImageIndex>("OnGetImageIndex")));
     return Class;
 }
 
 TCustomTabControl::TCustomTabControl(TComponent* Owner)
-    : TWinControl(Owner), FTabs(std::make_unique<TTabStrings>(*this)), FCanvas(std::make_unique<TControlCanvas>(this))
+    : TWinControl(Owner), FTabs(std::make_unique<TTabStrings>(*this)),
+      FCanvas(std::make_unique<TControlCanvas>(this))
 {
     FControlStyle = {csAcceptsControls, csDoubleClicks};
     SetBounds(0, 0, 289, 193);
@@ -141,7 +143,7 @@ TRect TCustomTabControl::DisplayRect() const
     // As a window with one row of tabs leaves it.
     const int Tab = (FTabHeight > 0 ? FTabHeight : std::abs(Font()->Height()) + TabPadding) + PageFrame;
     int Margins[4] = {PageFrame, PageFrame, PageFrame, PageFrame};
-    static constexpr int Sides[] = {1, 3, 0, 2};  // of tpTop, tpBottom, tpLeft, tpRight
+    static constexpr int Sides[] = {1, 3, 0, 2}; // of tpTop, tpBottom, tpLeft, tpRight
     Margins[Sides[FTabPosition]] = Tab;
     Result.left += Margins[0];
     Result.top += Margins[1];

@@ -3,8 +3,7 @@
 
 #include "framework/forms/PageControls.h"
 
-class TCustomTabControl::TTabStrings : public TStringList
-{
+class TCustomTabControl::TTabStrings : public TStringList {
 public:
     explicit TTabStrings(TCustomTabControl& Control) : FControl(Control) {}
 

@@ -13,7 +13,7 @@ std::map<UINT_PTR, TTimer*>& RunningTimers()
     return Timers;
 }
 
-}  // namespace
+} // namespace
 
 const TMetaClass& TTimer::MetaClass()
 {

@@ -6,8 +6,7 @@
 
 // Runs while it is enabled, has a handler and Interval is not 0; never while its
 // form is read or edited.
-class TTimer : public TComponent
-{
+class TTimer : public TComponent {
     OBX_CLASS(TComponent)
 public:
     explicit TTimer(TComponent* Owner) : TComponent(Owner) {}

@@ -33,14 +33,15 @@ const TMetaClass& TToolBar::MetaClass()
         "TToolBar", &TToolWindow::MetaClass(), CreateComponent<TToolBar>,
         Sorted(CommonControlRows(false), ControlRows::Dock(), ControlRows::Caption(), ControlRows::Ctl3D(),
                ControlRows::AutoSize(false), OBX_ROW(TControl, Align).Default(alTop),
-               OBX_ROW(TToolBar, AllowTextButtons).Default(false), OBX_ROW(TToolBar, ButtonHeight).Default(22),
-               OBX_ROW(TToolBar, ButtonWidth).Default(23),
+               OBX_ROW(TToolBar, AllowTextButtons).Default(false),
+               OBX_ROW(TToolBar, ButtonHeight).Default(22), OBX_ROW(TToolBar, ButtonWidth).Default(23),
                OBX_ROW(TControl, Color).Stored<&TControl::IsColorStored>(),
                OBX_ROW(TToolBar, Customizable).Default(false), OBX_ROW(TToolBar, DisabledImages),
                OBX_ROW(TToolBar, DrawingStyle).Default(dsTBNormal),
                OBX_ROW(TToolBar, EdgeBorders).Default(TEdgeBorders{}),
-               OBX_ROW(TToolBar, EdgeInner).Default(esRaised), OBX_ROW(TToolBar, EdgeOuter).Default(esLowered),
-               OBX_ROW(TToolBar, Flat).Default(true), OBX_ROW(TControl, Font).Stored<&TControl::IsFontStored>(),
+               OBX_ROW(TToolBar, EdgeInner).Default(esRaised),
+               OBX_ROW(TToolBar, EdgeOuter).Default(esLowered), OBX_ROW(TToolBar, Flat).Default(true),
+               OBX_ROW(TControl, Font).Stored<&TControl::IsFontStored>(),
                OBX_ROW(TControl, Height).Default(29), OBX_ROW(TToolBar, HideClippedButtons).Default(false),
                OBX_ROW(TToolBar, HotImages), OBX_ROW(TToolBar, Images), OBX_ROW(TToolBar, Indent).Default(0),
                OBX_ROW(TToolBar, List).Default(false), OBX_ROW(TToolBar, Menu),
@@ -52,7 +53,8 @@ const TMetaClass& TToolBar::MetaClass()
 
 TToolBar::TToolBar(TComponent* Owner) : TToolWindow(Owner)
 {
-    FControlStyle = {csAcceptsControls, csCaptureMouse, csClickEvents, csDoubleClicks, csMenuEvents, csSetCaption};
+    FControlStyle = {csAcceptsControls, csCaptureMouse, csClickEvents,
+                     csDoubleClicks,    csMenuEvents,   csSetCaption};
     SetBounds(0, 0, 150, 29);
     SetAlign(alTop);
 }
@@ -228,7 +230,9 @@ void TToolBar::InsertWindowButton(int Index)
     const TToolButton& Button = *FButtons[static_cast<size_t>(Index)];
     TBBUTTON Entry{};
     const bool IsSeparator = Button.Style() == tbsSeparator || Button.Style() == tbsDivider;
-    Entry.iBitmap = IsSeparator ? Button.Width() : Button.ImageIndex() < 0 ? I_IMAGENONE : Button.ImageIndex();
+    Entry.iBitmap = IsSeparator               ? Button.Width()
+                    : Button.ImageIndex() < 0 ? I_IMAGENONE
+                                              : Button.ImageIndex();
     Entry.idCommand = Button.FCommand;
     Entry.fsState = Button.WindowState();
     Entry.fsStyle = Button.WindowStyle();
@@ -268,7 +272,8 @@ void TToolBar::TakePositions()
     FTakingPositions = true;
     for (int I = 0; I < ButtonCount(); ++I) {
         TRect Place{};
-        if (SendMessageA(Handle(), TB_GETITEMRECT, static_cast<WPARAM>(I), Param(&Place)) && Place.right > Place.left)
+        if (SendMessageA(Handle(), TB_GETITEMRECT, static_cast<WPARAM>(I), Param(&Place)) &&
+            Place.right > Place.left)
             FButtons[static_cast<size_t>(I)]->SetBoundsRect(Place);
     }
     FTakingPositions = false;
@@ -295,7 +300,8 @@ bool TToolBar::CanAutoSize(int&, int& NewHeight)
 void TToolBar::WndProc(TMessage& Message)
 {
     // The window reacts to the mouse itself; its buttons only hear of it.
-    const bool Mouse = Message.Msg >= WM_MOUSEFIRST && Message.Msg <= WM_MOUSELAST && Message.Msg != WM_MOUSEWHEEL;
+    const bool Mouse =
+        Message.Msg >= WM_MOUSEFIRST && Message.Msg <= WM_MOUSELAST && Message.Msg != WM_MOUSEWHEEL;
     if (Mouse && !HasState(csDesigning) &&
         dynamic_cast<TToolButton*>(ControlAtPos(Point(Message.X(), Message.Y()), false))) {
         TMessage ForButton = Message;

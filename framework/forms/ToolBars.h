@@ -15,8 +15,7 @@ OBX_ENUM(TToolButtonStyle, tbsButton, tbsCheck, tbsDropDown, tbsSeparator, tbsDi
 OBX_ENUM(TTBDrawingStyle, dsTBNormal, dsTBGradient)
 
 // A window with a drawn edge.
-class TToolWindow : public TWinControl
-{
+class TToolWindow : public TWinControl {
     OBX_CLASS(TWinControl)
 public:
     explicit TToolWindow(TComponent* Owner);
@@ -30,8 +29,7 @@ protected:
     void AdjustClientRect(TRect& Rect) const override;
 };
 
-class TToolButtonActionLink : public TControlActionLink
-{
+class TToolButtonActionLink : public TControlActionLink {
     OBX_CLASS(TControlActionLink)
 public:
     explicit TToolButtonActionLink(TToolButton* Client);
@@ -45,8 +43,7 @@ private:
 };
 
 // A button of a tool bar's window.
-class TToolButton : public TGraphicControl
-{
+class TToolButton : public TGraphicControl {
     OBX_CLASS(TGraphicControl)
 public:
     explicit TToolButton(TComponent* Owner);
@@ -102,8 +99,7 @@ private:
     TMenuItem* FMenuItem = nullptr;
 };
 
-class TToolBar : public TToolWindow
-{
+class TToolBar : public TToolWindow {
     OBX_CLASS(TToolWindow)
 public:
     explicit TToolBar(TComponent* Owner);
@@ -185,4 +181,4 @@ private:
     TMainMenu* FMenu = nullptr;
 };
 
-void RegisterToolBars();
+void RegisterToolBarClasses();

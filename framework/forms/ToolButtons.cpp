@@ -8,7 +8,10 @@ const TMetaClass& TToolButtonActionLink::MetaClass()
     return Class;
 }
 
-TToolButtonActionLink::TToolButtonActionLink(TToolButton* Client) : TControlActionLink(Client), FButton(Client) {}
+TToolButtonActionLink::TToolButtonActionLink(TToolButton* Client)
+    : TControlActionLink(Client), FButton(Client)
+{
+}
 
 bool TToolButtonActionLink::IsCheckedLinked() const
 {
@@ -51,8 +54,8 @@ const TMetaClass& TToolButton::MetaClass()
             OBX_ROW(TControl, PopupMenu), OBX_ROW(TToolButton, Wrap).Default(false),
             OBX_ROW(TControl, ShowHint).Stored<&TControl::IsShowHintStored>(),
             OBX_ROW(TToolButton, Style).Default(tbsButton),
-            OBX_ROW(TControl, Visible).Default(true).Stored<&TControl::IsVisibleStored>(), ControlRows::Mouse(),
-            ControlRows::Drag()));
+            OBX_ROW(TControl, Visible).Default(true).Stored<&TControl::IsVisibleStored>(),
+            ControlRows::Mouse(), ControlRows::Drag()));
     return Class;
 }
 

@@ -15,14 +15,14 @@ constexpr const char* WideProperty = "NodeData";
 constexpr char WideVersion = 3;
 constexpr int DeepestLevel = 1000;
 
-}  // namespace
+} // namespace
 
 // How the versions of "NodeData" differ.
-struct TTreeNodes::TLayout
-{
-    bool Wide;       // 16-bit characters and a picture for expanded nodes
-    int Flags;       // bytes before the text, the last of which says enabled
-    int Trailer;     // bytes behind the text
+struct TTreeNodes::TLayout {
+    bool Wide;      // 16-bit characters and a picture for expanded nodes
+    int Flags;      // bytes before the text, the last of which says enabled
+    bool ClassName; // before each node; empty when it is that of the node before
+    int Trailer;    // bytes behind the text
     int Depth = 0;
 };
 
@@ -55,7 +55,8 @@ TTreeNode* TTreeNode::Item(int Index) const
 int TTreeNode::Index() const
 {
     const auto& All = Siblings();
-    const auto Found = std::find_if(All.begin(), All.end(), [this](const auto& Node) { return Node.get() == this; });
+    const auto Found =
+        std::find_if(All.begin(), All.end(), [this](const auto& Node) { return Node.get() == this; });
     return static_cast<int>(Found - All.begin());
 }
 
@@ -325,31 +326,32 @@ void TTreeNodes::Read(TStream& Stream, const char* Property)
 }
 
 // The number of topmost nodes, then each node followed by those below it. Wide:
-// after a version byte; later versions name the class of the nodes first.
+// after a version byte; later versions name the class of each node.
 bool TTreeNodes::Decode(const std::string& Bytes, bool Wide)
 {
-    static constexpr TLayout Layouts[] = {{true, 1, 0}, {true, 0, 0}, {true, 2, 2}, {true, 2, 0}, {true, 1, 2}};
-    static constexpr TLayout Narrow[] = {{false, 0, 0}};
-    for (const bool HasClassName : {false, true})
-        for (const TLayout& Layout : Wide ? std::span<const TLayout>(Layouts) : std::span<const TLayout>(Narrow)) {
-            TItemBytesReader Reader(Bytes);
-            Clear();
-            if (Wide)
-                Reader.Byte();
-            const int Total = Reader.Integer();
-            if (HasClassName)
-                Reader.Text(true);
-            bool Fits = true;
-            for (int I = 0; I < Total && Fits; ++I)
-                Fits = DecodeNode(Reader, Layout, nullptr);
-            if (Fits && Reader.Ok() && Reader.Left() == 0)
-                return true;
-        }
+    static constexpr TLayout WideLayouts[] = {
+        {true, 1, false, 0}, {true, 0, false, 0}, {true, 2, true, 1}, {true, 1, true, 0}, {true, 2, true, 0}};
+    static constexpr TLayout NarrowLayouts[] = {{false, 0, false, 0}};
+    for (const TLayout& Layout :
+         Wide ? std::span<const TLayout>(WideLayouts) : std::span<const TLayout>(NarrowLayouts)) {
+        TItemBytesReader Reader(Bytes);
+        Clear();
+        if (Wide)
+            Reader.Byte();
+        const int Total = Reader.Integer();
+        bool Fits = true;
+        for (int I = 0; I < Total && Fits; ++I)
+            Fits = DecodeNode(Reader, Layout, nullptr);
+        if (Fits && Reader.Ok() && Reader.Left() == 0)
+            return true;
+    }
     return false;
 }
 
 bool TTreeNodes::DecodeNode(TItemBytesReader& Reader, const TLayout& Layout, TTreeNode* Parent)
 {
+    if (Layout.ClassName)
+        Reader.Text(true);
     const int Size = Reader.Integer();
     const size_t Start = Reader.Position();
     const int Image = Reader.Integer();
@@ -385,7 +387,8 @@ bool TTreeNodes::DecodeNode(TItemBytesReader& Reader, const TLayout& Layout, TTr
 void TTreeNodes::EncodeNode(const TTreeNode& Node, std::string& Bytes)
 {
     std::string Own;
-    for (const int Number : {Node.FImageIndex, Node.FSelectedIndex, Node.FStateIndex, -1, -1, 0, Node.Count()})
+    for (const int Number :
+         {Node.FImageIndex, Node.FSelectedIndex, Node.FStateIndex, -1, -1, 0, Node.Count()})
         PutInteger(Own, Number);
     Own += Node.FEnabled ? '\1' : '\0';
     PutWideText(Own, Node.FText);

@@ -17,8 +17,7 @@ class TTreeNodes;
 OBX_ENUM(TNodeAttachMode, naAdd, naAddFirst, naAddChild, naAddChildFirst, naInsert)
 
 // Owned by the node above, the topmost ones by their TTreeNodes.
-class TTreeNode : public TPersistent
-{
+class TTreeNode : public TPersistent {
     OBX_CLASS(TPersistent)
 public:
     explicit TTreeNode(TTreeNodes* Owner) : FOwner(Owner) {}
@@ -86,8 +85,7 @@ private:
 // The nodes, kept with and without a window. Form files carry them as the binary
 // property "Data" or, newer, "NodeData"; as long as nothing changes, the bytes
 // are written as they were read.
-class TTreeNodes : public TPersistent
-{
+class TTreeNodes : public TPersistent {
     OBX_CLASS(TPersistent)
 public:
     explicit TTreeNodes(TCustomTreeView* Owner) : FTreeView(Owner) {}
@@ -129,5 +127,5 @@ private:
     TCustomTreeView* FTreeView;
     std::vector<std::unique_ptr<TTreeNode>> FRoots;
     std::string FStored;
-    std::string FStoredAs;  // the property that FStored was read from
+    std::string FStoredAs; // the property that FStored was read from
 };

@@ -11,7 +11,7 @@ LPARAM ItemParam(HTREEITEM Item)
     return reinterpret_cast<LPARAM>(Item);
 }
 
-}  // namespace
+} // namespace
 
 const TMetaClass& TCustomTreeView::MetaClass()
 {
@@ -24,26 +24,29 @@ const TMetaClass& TTreeView::MetaClass()
     using namespace ControlRows;
     static const TMetaClass Class(
         "TTreeView", &TCustomTreeView::MetaClass(), CreateComponent<TTreeView>,
-        Sorted(Look(), Drag(), Mouse(), Focus(true), Bevel(), ControlRows::Ctl3D(), Buffer(), ControlRows::Resize(),
-               OBX_ROW(TControl, ParentColor).Default(false), OBX_ROW(TWinControl, BorderWidth).Default(0),
-               OBX_ROW(TTreeView, AutoExpand).Default(false), OBX_ROW(TTreeView, BorderStyle).Default(bsSingle),
-               OBX_ROW(TTreeView, ChangeDelay).Default(0), OBX_ROW(TTreeView, HideSelection).Default(true),
-               OBX_ROW(TTreeView, HotTrack).Default(false), OBX_ROW(TTreeView, Images), OBX_ROW(TTreeView, Indent),
-               OBX_ROW(TTreeView, Items), OBX_ROW(TTreeView, MultiSelect).Default(false),
-               OBX_ROW(TTreeView, MultiSelectStyle).Default(TMultiSelectStyles{msControlSelect}),
-               OBX_ROW(TTreeView, ReadOnly).Default(false), OBX_ROW(TTreeView, RightClickSelect).Default(false),
-               OBX_ROW(TTreeView, RowSelect).Default(false), OBX_ROW(TTreeView, ShowButtons).Default(true),
-               OBX_ROW(TTreeView, ShowLines).Default(true), OBX_ROW(TTreeView, ShowRoot).Default(true),
-               OBX_ROW(TTreeView, SortType).Default(stNone), OBX_ROW(TTreeView, StateImages),
-               OBX_ROW(TTreeView, ToolTips).Default(true), Prop<&TTreeView::OnAddition>("OnAddition"),
-               Prop<&TTreeView::OnCustomDraw>("OnCustomDraw"),
-               Prop<&TTreeView::OnCustomDrawItem>("OnCustomDrawItem"), Prop<&TTreeView::OnChange>("OnChange"),
-               Prop<&TTreeView::OnChanging>("OnChanging"), Prop<&TTreeView::OnCollapsed>("OnCollapsed"),
-               Prop<&TTreeView::OnCollapsing>("OnCollapsing"), Prop<&TTreeView::OnCompare>("OnCompare"),
-               Prop<&TTreeView::OnDeletion>("OnDeletion"), Prop<&TTreeView::OnEdited>("OnEdited"),
-               Prop<&TTreeView::OnEditing>("OnEditing"), Prop<&TTreeView::OnExpanded>("OnExpanded"),
-               Prop<&TTreeView::OnExpanding>("OnExpanding"), Prop<&TTreeView::OnGetImageIndex>("OnGetImageIndex"),
-               Prop<&TTreeView::OnGetSelectedIndex>("OnGetSelectedIndex"), Prop<&TTreeView::OnHint>("OnHint")));
+        Sorted(
+            Look(), Drag(), Mouse(), Focus(true), Bevel(), ControlRows::Ctl3D(), Buffer(),
+            ControlRows::Resize(), OBX_ROW(TControl, ParentColor).Default(false),
+            OBX_ROW(TWinControl, BorderWidth).Default(0), OBX_ROW(TTreeView, AutoExpand).Default(false),
+            OBX_ROW(TTreeView, BorderStyle).Default(bsSingle), OBX_ROW(TTreeView, ChangeDelay).Default(0),
+            OBX_ROW(TTreeView, HideSelection).Default(true), OBX_ROW(TTreeView, HotTrack).Default(false),
+            OBX_ROW(TTreeView, Images), OBX_ROW(TTreeView, Indent), OBX_ROW(TTreeView, Items),
+            OBX_ROW(TTreeView, MultiSelect).Default(false),
+            OBX_ROW(TTreeView, MultiSelectStyle).Default(TMultiSelectStyles{msControlSelect}),
+            OBX_ROW(TTreeView, ReadOnly).Default(false), OBX_ROW(TTreeView, RightClickSelect).Default(false),
+            OBX_ROW(TTreeView, RowSelect).Default(false), OBX_ROW(TTreeView, ShowButtons).Default(true),
+            OBX_ROW(TTreeView, ShowLines).Default(true), OBX_ROW(TTreeView, ShowRoot).Default(true),
+            OBX_ROW(TTreeView, SortType).Default(stNone), OBX_ROW(TTreeView, StateImages),
+            OBX_ROW(TTreeView, ToolTips).Default(true), Prop<&TTreeView::OnAddition>("OnAddition"),
+            Prop<&TTreeView::OnCustomDraw>("OnCustomDraw"),
+            Prop<&TTreeView::OnCustomDrawItem>("OnCustomDrawItem"), Prop<&TTreeView::OnChange>("OnChange"),
+            Prop<&TTreeView::OnChanging>("OnChanging"), Prop<&TTreeView::OnCollapsed>("OnCollapsed"),
+            Prop<&TTreeView::OnCollapsing>("OnCollapsing"), Prop<&TTreeView::OnCompare>("OnCompare"),
+            Prop<&TTreeView::OnDeletion>("OnDeletion"), Prop<&TTreeView::OnEdited>("OnEdited"),
+            Prop<&TTreeView::OnEditing>("OnEditing"), Prop<&TTreeView::OnExpanded>("OnExpanded"),
+            Prop<&TTreeView::OnExpanding>("OnExpanding"),
+            Prop<&TTreeView::OnGetImageIndex>("OnGetImageIndex"),
+            Prop<&TTreeView::OnGetSelectedIndex>("OnGetSelectedIndex"), Prop<&TTreeView::OnHint>("OnHint")));
     return Class;
 }
 
@@ -339,7 +342,7 @@ void TCustomTreeView::Dispatch(TMessage& Message)
         TWinControl::Dispatch(Message);
 }
 
-void RegisterTreeViews()
+void RegisterTreeViewClasses()
 {
     RegisterClass(TTreeView::MetaClass());
 }

@@ -19,8 +19,7 @@ OBX_EVENT(TTVHintEvent, TObject*, TTreeNode*, std::string&)
 OBX_EVENT(TTVCustomDrawEvent, TObject*, const TRect&, bool&)
 OBX_EVENT(TTVCustomDrawItemEvent, TObject*, TTreeNode*, TCustomDrawState, bool&)
 
-class TCustomTreeView : public TWinControl
-{
+class TCustomTreeView : public TWinControl {
     OBX_CLASS(TWinControl)
 public:
     explicit TCustomTreeView(TComponent* Owner);
@@ -124,7 +123,7 @@ private:
     TTreeNodes FItems;
     TTreeNode* FSelected = nullptr;
     std::unique_ptr<TControlCanvas> FCanvas;
-    int FUpdating = 0;  // above 0 while the program changes the window
+    int FUpdating = 0; // above 0 while the program changes the window
     TBorderStyle FBorderStyle = bsSingle;
     bool FHideSelection = true;
     bool FHotTrack = false;
@@ -139,11 +138,10 @@ private:
     TCustomImageList* FStateImages = nullptr;
 };
 
-class TTreeView : public TCustomTreeView
-{
+class TTreeView : public TCustomTreeView {
     OBX_CLASS(TCustomTreeView)
 public:
     using TCustomTreeView::TCustomTreeView;
 };
 
-void RegisterTreeViews();
+void RegisterTreeViewClasses();

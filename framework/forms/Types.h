@@ -62,8 +62,8 @@ OBX_ENUM(THelpType, htKeyword, htContext)
 OBX_ENUM(TDragMode, dmManual, dmAutomatic)
 OBX_ENUM(TDragKind, dkDrag, dkDock)
 OBX_ENUM(TDragState, dsDragEnter, dsDragLeave, dsDragMove)
-OBX_ENUM(TImeMode, imDisable, imClose, imOpen, imDontCare, imSAlpha, imAlpha, imHira, imSKata, imKata, imChinese,
-         imSHanguel, imHanguel)
+OBX_ENUM(TImeMode, imDisable, imClose, imOpen, imDontCare, imSAlpha, imAlpha, imHira, imSKata, imKata,
+         imChinese, imSHanguel, imHanguel)
 using TImeName = std::string;
 
 OBX_ENUM(TMouseButton, mbLeft, mbRight, mbMiddle)
@@ -77,8 +77,8 @@ OBX_ENUM(TBorderIcon, biSystemMenu, biMinimize, biMaximize, biHelp)
 OBX_SET(TBorderIcons, TBorderIcon)
 OBX_ENUM(TWindowState, wsNormal, wsMinimized, wsMaximized)
 OBX_ENUM(TFormStyle, fsNormal, fsMDIChild, fsMDIForm, fsStayOnTop)
-OBX_ENUM(TPosition, poDesigned, poDefault, poDefaultPosOnly, poDefaultSizeOnly, poScreenCenter, poDesktopCenter,
-         poMainFormCenter, poOwnerFormCenter)
+OBX_ENUM(TPosition, poDesigned, poDefault, poDefaultPosOnly, poDefaultSizeOnly, poScreenCenter,
+         poDesktopCenter, poMainFormCenter, poOwnerFormCenter)
 OBX_ENUM(TDefaultMonitor, dmDesktop, dmPrimary, dmMainForm, dmActiveForm)
 OBX_ENUM(TPrintScale, poNone, poProportional, poPrintToFit)
 OBX_ENUM(TCloseAction, caNone, caHide, caFree, caMinimize)

@@ -105,7 +105,8 @@ void TWinControl::Remove(TControl* AControl)
 TControl* TWinControl::ControlAtPos(const TPoint& Pos, bool AllowDisabled, bool AllowWinControls) const
 {
     const auto Hit = [&](TControl* Control) {
-        const TPoint Here = Point(static_cast<int>(Pos.x) - Control->Left(), static_cast<int>(Pos.y) - Control->Top());
+        const TPoint Here =
+            Point(static_cast<int>(Pos.x) - Control->Left(), static_cast<int>(Pos.y) - Control->Top());
         const TRect Inside = Control->ClientRect();
         return PtInRect(&Inside, Here) && (Control->Visible() || Control->HasState(csDesigning)) &&
                (Control->Enabled() || AllowDisabled) &&
@@ -236,7 +237,8 @@ void TWinControl::GetTabOrderList(std::vector<TWinControl*>& List) const
     }
 }
 
-TWinControl* TWinControl::FindNextControl(TWinControl* CurControl, bool GoForward, bool CheckTabStop, bool CheckParent)
+TWinControl* TWinControl::FindNextControl(TWinControl* CurControl, bool GoForward, bool CheckTabStop,
+                                          bool CheckParent)
 {
     std::vector<TWinControl*> List;
     GetTabOrderList(List);
@@ -244,7 +246,9 @@ TWinControl* TWinControl::FindNextControl(TWinControl* CurControl, bool GoForwar
         return nullptr;
     const auto Count = static_cast<int>(List.size());
     const auto Found = std::find(List.begin(), List.end(), CurControl);
-    const int Start = Found != List.end() ? static_cast<int>(Found - List.begin()) : GoForward ? Count - 1 : 0;
+    const int Start = Found != List.end() ? static_cast<int>(Found - List.begin())
+                      : GoForward         ? Count - 1
+                                          : 0;
     for (int Index = Start, Left = Count; Left > 0; --Left) {
         Index = (Index + (GoForward ? 1 : Count - 1)) % Count;
         TWinControl* const Control = List[static_cast<size_t>(Index)];
@@ -373,7 +377,8 @@ TRect TWinControl::ClientRect() const
         return Result;
     }
     const TSize Frame = FrameSize();
-    return Rect(0, 0, std::max(Width() - static_cast<int>(Frame.cx), 0), std::max(Height() - static_cast<int>(Frame.cy), 0));
+    return Rect(0, 0, std::max(Width() - static_cast<int>(Frame.cx), 0),
+                std::max(Height() - static_cast<int>(Frame.cy), 0));
 }
 
 TSize TWinControl::FrameSize() const
@@ -399,9 +404,10 @@ void TWinControl::ScaleControl(TControl& Control, int M, int D)
 {
     const int L = MulDiv(Control.Left(), M, D);
     const int T = MulDiv(Control.Top(), M, D);
-    const int W = Control.HasStyle(csFixedWidth) ? Control.Width() : MulDiv(Control.Left() + Control.Width(), M, D) - L;
-    const int H =
-        Control.HasStyle(csFixedHeight) ? Control.Height() : MulDiv(Control.Top() + Control.Height(), M, D) - T;
+    const int W =
+        Control.HasStyle(csFixedWidth) ? Control.Width() : MulDiv(Control.Left() + Control.Width(), M, D) - L;
+    const int H = Control.HasStyle(csFixedHeight) ? Control.Height()
+                                                  : MulDiv(Control.Top() + Control.Height(), M, D) - T;
     Control.SetBounds(L, T, W, H);
     if (!Control.ParentFont())
         Control.Font()->SetHeight(MulDiv(Control.Font()->Height(), M, D));

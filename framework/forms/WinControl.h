@@ -9,8 +9,7 @@
 #include "framework/forms/Control.h"
 
 // What a window is created from; CreateParams fills it in.
-struct TCreateParams
-{
+struct TCreateParams {
     std::string Caption;
     DWORD Style = 0;
     DWORD ExStyle = 0;
@@ -21,7 +20,7 @@ struct TCreateParams
     HWND WndParent = nullptr;
     void* Param = nullptr;
     WNDCLASSA WindowClass{};
-    std::string WinClassName;  // the control's class name unless changed
+    std::string WinClassName; // the control's class name unless changed
 };
 
 // The window is created when it is first needed (Handle) and destroyed and made
@@ -29,8 +28,7 @@ struct TCreateParams
 //
 // Containing and owning are two things: a control is destroyed with its parent
 // as well as with its owner.
-class TWinControl : public TControl
-{
+class TWinControl : public TControl {
     OBX_CLASS(TControl)
 public:
     explicit TWinControl(TComponent* Owner);
@@ -115,7 +113,8 @@ public:
     void GetTabOrderList(std::vector<TWinControl*>& List) const;
     // Moves the focus to the next control (CheckTabStop: that wants Tab).
     void SelectNext(TWinControl* CurControl, bool GoForward, bool CheckTabStop);
-    TWinControl* FindNextControl(TWinControl* CurControl, bool GoForward, bool CheckTabStop, bool CheckParent);
+    TWinControl* FindNextControl(TWinControl* CurControl, bool GoForward, bool CheckTabStop,
+                                 bool CheckParent);
 
     void SetBounds(int ALeft, int ATop, int AWidth, int AHeight) override;
     TRect ClientRect() const override;

@@ -42,7 +42,7 @@ size_t FindHotkey(std::string_view Caption)
     return std::string_view::npos;
 }
 
-}  // namespace
+} // namespace
 
 bool IsAccel(uint16_t Char, const std::string& Caption)
 {
@@ -128,8 +128,9 @@ void TWinControl::CNKeyDown(TMessage& Message)
             if (Perform(CM_CHILDKEY, Message.WParam, reinterpret_cast<LPARAM>(this)) != 0)
                 return;
             const LRESULT Mask = WantedKeyMask(Message.WParam);
-            if (Mask != 0 && Perform(CM_WANTSPECIALKEY, Message.WParam) == 0 && (Perform(WM_GETDLGCODE) & Mask) == 0 &&
-                Form && Form->Perform(CM_DIALOGKEY, Message.WParam, Message.LParam) != 0)
+            if (Mask != 0 && Perform(CM_WANTSPECIALKEY, Message.WParam) == 0 &&
+                (Perform(WM_GETDLGCODE) & Mask) == 0 && Form &&
+                Form->Perform(CM_DIALOGKEY, Message.WParam, Message.LParam) != 0)
                 return;
         }
     }
@@ -150,15 +151,16 @@ void TWinControl::CNChar(TMessage& Message)
     if (HasState(csDesigning))
         return;
     TCustomForm* const Form = GetParentForm(this);
-    const bool Offered = Message.Msg == CN_CHAR ? (Perform(WM_GETDLGCODE) & DLGC_WANTCHARS) == 0
-                                                : Message.WParam != VK_SPACE;
+    const bool Offered =
+        Message.Msg == CN_CHAR ? (Perform(WM_GETDLGCODE) & DLGC_WANTCHARS) == 0 : Message.WParam != VK_SPACE;
     if (Offered && Form && Form->Perform(CM_DIALOGCHAR, Message.WParam, Message.LParam) != 0)
         Message.Result = 1;
 }
 
 bool TWinControl::DoKeyDown(TMessage& Message)
 {
-    if (TCustomForm* const Form = GetParentForm(this); Form && Form != this && Form->KeyPreview() && Form->DoKeyDown(Message))
+    if (TCustomForm* const Form = GetParentForm(this);
+        Form && Form != this && Form->KeyPreview() && Form->DoKeyDown(Message))
         return true;
     if (HasStyle(csNoStdEvents))
         return false;
@@ -170,7 +172,8 @@ bool TWinControl::DoKeyDown(TMessage& Message)
 
 bool TWinControl::DoKeyUp(TMessage& Message)
 {
-    if (TCustomForm* const Form = GetParentForm(this); Form && Form != this && Form->KeyPreview() && Form->DoKeyUp(Message))
+    if (TCustomForm* const Form = GetParentForm(this);
+        Form && Form != this && Form->KeyPreview() && Form->DoKeyUp(Message))
         return true;
     if (HasStyle(csNoStdEvents))
         return false;
@@ -182,7 +185,8 @@ bool TWinControl::DoKeyUp(TMessage& Message)
 
 bool TWinControl::DoKeyPress(TMessage& Message)
 {
-    if (TCustomForm* const Form = GetParentForm(this); Form && Form != this && Form->KeyPreview() && Form->DoKeyPress(Message))
+    if (TCustomForm* const Form = GetParentForm(this);
+        Form && Form != this && Form->KeyPreview() && Form->DoKeyPress(Message))
         return true;
     if (HasStyle(csNoStdEvents))
         return false;

@@ -30,13 +30,14 @@ HWND NotifyingWindow(const TMessage& Message)
         return reinterpret_cast<const COMPAREITEMSTRUCT*>(Message.LParam)->hwndItem;
     case WM_MEASUREITEM:
         // Windows of controls have their handle as identifier.
-        return WindowOf(static_cast<LPARAM>(reinterpret_cast<const MEASUREITEMSTRUCT*>(Message.LParam)->CtlID));
+        return WindowOf(
+            static_cast<LPARAM>(reinterpret_cast<const MEASUREITEMSTRUCT*>(Message.LParam)->CtlID));
     default:
         return WindowOf(Message.LParam);
     }
 }
 
-}  // namespace
+} // namespace
 
 void TWinControl::MainWndProc(TMessage& Message)
 {
@@ -61,7 +62,8 @@ void TWinControl::WndProc(TMessage& Message)
         break;
     case WM_NCHITTEST:
         inherited::WndProc(Message);
-        if (Message.Result == HTTRANSPARENT && ControlAtPos(ScreenToClient(Point(Message.X(), Message.Y())), false))
+        if (Message.Result == HTTRANSPARENT &&
+            ControlAtPos(ScreenToClient(Point(Message.X(), Message.Y())), false))
             Message.Result = HTCLIENT;
         return;
     case WM_CANCELMODE:
@@ -91,8 +93,8 @@ bool TWinControl::IsControlMouseMessage(TMessage& Message)
     }
     if (!Control)
         return false;
-    Message.Result = Control->Perform(Message.Msg, Message.WParam,
-                                      MAKELPARAM(Message.X() - Control->Left(), Message.Y() - Control->Top()));
+    Message.Result = Control->Perform(
+        Message.Msg, Message.WParam, MAKELPARAM(Message.X() - Control->Left(), Message.Y() - Control->Top()));
     return true;
 }
 

@@ -55,7 +55,7 @@ void RegisterWindowClass(const TCreateParams& Params)
         throw EOutOfResources(SWindowClass);
 }
 
-}  // namespace
+} // namespace
 
 HINSTANCE ModuleInstance()
 {
@@ -152,9 +152,9 @@ void TWinControl::CreateSubClass(TCreateParams& Params, const char* ControlClass
 
 void TWinControl::CreateWindowHandle(const TCreateParams& Params)
 {
-    CreateWindowExA(Params.ExStyle, Params.WinClassName.c_str(), Params.Caption.c_str(), Params.Style, Params.X,
-                    Params.Y, Params.Width, Params.Height, Params.WndParent, nullptr, Params.WindowClass.hInstance,
-                    Params.Param);
+    CreateWindowExA(Params.ExStyle, Params.WinClassName.c_str(), Params.Caption.c_str(), Params.Style,
+                    Params.X, Params.Y, Params.Width, Params.Height, Params.WndParent, nullptr,
+                    Params.WindowClass.hInstance, Params.Param);
 }
 
 void TWinControl::CreateWnd()
@@ -310,7 +310,8 @@ std::string TWinControl::GetText() const
     if (!FHandle)
         return inherited::GetText();
     std::string Result(static_cast<size_t>(GetWindowTextLengthA(FHandle)) + 1, '\0');
-    Result.resize(static_cast<size_t>(GetWindowTextA(FHandle, Result.data(), static_cast<int>(Result.size()))));
+    Result.resize(
+        static_cast<size_t>(GetWindowTextA(FHandle, Result.data(), static_cast<int>(Result.size()))));
     return Result;
 }
 

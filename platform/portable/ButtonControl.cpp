@@ -13,9 +13,9 @@ bool IsAuto(DWORD Kind)
     return Kind == BS_AUTOCHECKBOX || Kind == BS_AUTO3STATE || Kind == BS_AUTORADIOBUTTON;
 }
 
-class TButton final : public TControl {
+class TButton final : public TSystemControl {
 public:
-    using TControl::TControl;
+    using TSystemControl::TSystemControl;
     LRESULT Handle(UINT Message, WPARAM WParam, LPARAM LParam) override;
 
 protected:
@@ -102,13 +102,13 @@ LRESULT TButton::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
             Release(true);
         return 0;
     case WM_SETFOCUS:
-        TControl::Handle(Message, WParam, LParam);
+        TSystemControl::Handle(Message, WParam, LParam);
         if (Style() & BS_NOTIFY)
             Command(BN_SETFOCUS);
         return 0;
     case WM_KILLFOCUS:
         SetPushed(false);
-        TControl::Handle(Message, WParam, LParam);
+        TSystemControl::Handle(Message, WParam, LParam);
         if (Style() & BS_NOTIFY)
             Command(BN_KILLFOCUS);
         return 0;
@@ -143,7 +143,7 @@ LRESULT TButton::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
     case WM_NCHITTEST:
         return Kind() == BS_GROUPBOX ? HTTRANSPARENT : Default(Message, WParam, LParam);
     default:
-        return TControl::Handle(Message, WParam, LParam);
+        return TSystemControl::Handle(Message, WParam, LParam);
     }
 }
 
@@ -384,7 +384,7 @@ void TButton::PaintOwner(HDC Dc, RECT Rect)
 }
 } // namespace
 
-void RegisterButtons()
+void RegisterSystemButtons()
 {
     RegisterControl<TButton>("Button");
 }

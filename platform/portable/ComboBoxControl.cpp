@@ -11,9 +11,9 @@ constexpr int EditId = 1001;
 constexpr int Edge = 2;
 constexpr int ButtonWidth = 17;
 
-class TComboBox final : public TControl {
+class TComboBox final : public TSystemControl {
 public:
-    using TControl::TControl;
+    using TSystemControl::TSystemControl;
     LRESULT Handle(UINT Message, WPARAM WParam, LPARAM LParam) override;
 
 protected:
@@ -104,14 +104,14 @@ LRESULT TComboBox::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
     case WM_CTLCOLORLISTBOX:
         return SendMessageA(GetParent(Window()), Message, WParam, LParam);
     case WM_SETFOCUS:
-        TControl::Handle(Message, WParam, LParam);
+        TSystemControl::Handle(Message, WParam, LParam);
         if (FEdit)
             SetFocus(FEdit);
         else
             Command(CBN_SETFOCUS);
         return 0;
     case WM_KILLFOCUS:
-        TControl::Handle(Message, WParam, LParam);
+        TSystemControl::Handle(Message, WParam, LParam);
         if (!FEdit) {
             Drop(false, false);
             if (Alive())
@@ -121,7 +121,7 @@ LRESULT TComboBox::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
     case WM_ENABLE:
         if (FEdit)
             EnableWindow(FEdit, WParam != 0);
-        return TControl::Handle(Message, WParam, LParam);
+        return TSystemControl::Handle(Message, WParam, LParam);
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK:
         SetFocus(Window());
@@ -137,7 +137,7 @@ LRESULT TComboBox::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
     case WM_CLEAR:
         return Edit(Message, WParam, LParam);
     default:
-        return TControl::Handle(Message, WParam, LParam);
+        return TSystemControl::Handle(Message, WParam, LParam);
     }
 }
 
@@ -263,6 +263,9 @@ LRESULT TComboBox::HandleText(UINT Message, WPARAM WParam, LPARAM LParam)
 
 void TComboBox::Start()
 {
+    // The scroll bar that the style asks for is the list's.
+    SetWindowLongA(Window(), GWL_STYLE, static_cast<LONG>(Style() & ~static_cast<DWORD>(WS_VSCROLL | WS_HSCROLL)));
+    SetWindowPos(Window(), nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
     DWORD ListStyle = WS_POPUP | WS_BORDER | LBS_HASSTRINGS * (!OwnerDrawn() || (Style() & CBS_HASSTRINGS));
     if (Style() & CBS_SORT)
         ListStyle |= LBS_SORT;
@@ -518,7 +521,7 @@ BOOL TComboBox::GetInfo(COMBOBOXINFO& Info) const
 }
 } // namespace
 
-void RegisterComboBoxes()
+void RegisterSystemComboBoxes()
 {
     RegisterControl<TComboBox>("ComboBox", CS_DBLCLKS | CS_PARENTDC);
 }

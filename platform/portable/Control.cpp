@@ -105,7 +105,7 @@ TMeasure::~TMeasure()
     ReleaseDC(FWindow, FDc);
 }
 
-LRESULT TControl::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
+LRESULT TSystemControl::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
 {
     switch (Message) {
     case WM_SETFONT:
@@ -148,38 +148,38 @@ LRESULT TControl::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
     }
 }
 
-RECT TControl::ClientRect() const
+RECT TSystemControl::ClientRect() const
 {
     RECT Rect{};
     GetClientRect(FWindow, &Rect);
     return Rect;
 }
 
-std::string TControl::Text() const
+std::string TSystemControl::Text() const
 {
     TWindow* const Known = WindowOf(FWindow);
     return Known ? Known->Text : std::string();
 }
 
-LRESULT TControl::Command(int Code)
+LRESULT TSystemControl::Command(int Code)
 {
     return SendMessageA(GetParent(FWindow), WM_COMMAND, MAKEWPARAM(Id(), Code),
                         reinterpret_cast<LPARAM>(FWindow));
 }
 
-LRESULT TControl::Notify(UINT Code)
+LRESULT TSystemControl::Notify(UINT Code)
 {
     NMHDR Header{};
     return NotifyWith(Header, Code);
 }
 
-LRESULT TControl::NotifyWith(NMHDR& Header, UINT Code)
+LRESULT TSystemControl::NotifyWith(NMHDR& Header, UINT Code)
 {
     Header = {FWindow, static_cast<UINT_PTR>(Id()), Code};
     return SendMessageA(GetParent(FWindow), WM_NOTIFY, Header.idFrom, reinterpret_cast<LPARAM>(&Header));
 }
 
-HBRUSH TControl::ParentColors(HDC Dc, UINT Message) const
+HBRUSH TSystemControl::ParentColors(HDC Dc, UINT Message) const
 {
     const auto Answer = SendMessageA(GetParent(FWindow), Message, reinterpret_cast<WPARAM>(Dc),
                                      reinterpret_cast<LPARAM>(FWindow));
@@ -189,7 +189,7 @@ HBRUSH TControl::ParentColors(HDC Dc, UINT Message) const
     return GetSysColorBrush(Field ? COLOR_WINDOW : COLOR_BTNFACE);
 }
 
-UINT TControl::TextFlags(UINT Format) const
+UINT TSystemControl::TextFlags(UINT Format) const
 {
     const DWORD Extended = ExStyle();
     if (RightToLeft())
@@ -200,26 +200,26 @@ UINT TControl::TextFlags(UINT Format) const
     return Format;
 }
 
-void TControl::DrawItemText(HDC Dc, const std::string& Text, RECT Rect, UINT Format) const
+void TSystemControl::DrawItemText(HDC Dc, const std::string& Text, RECT Rect, UINT Format) const
 {
     DrawTextA(Dc, Text.c_str(), static_cast<int>(Text.size()), &Rect, TextFlags(Format));
 }
 
-int TControl::LineHeight() const
+int TSystemControl::LineHeight() const
 {
     TEXTMETRICA Metrics{};
     GetTextMetricsA(TMeasure(FWindow, FFont), &Metrics);
     return Metrics.tmHeight;
 }
 
-int TControl::WidthOf(const std::string& Text) const
+int TSystemControl::WidthOf(const std::string& Text) const
 {
     SIZE Size{};
     GetTextExtentPoint32A(TMeasure(FWindow, FFont), Text.c_str(), static_cast<int>(Text.size()), &Size);
     return Size.cx;
 }
 
-int TControl::MnemonicWidthOf(const std::string& Text) const
+int TSystemControl::MnemonicWidthOf(const std::string& Text) const
 {
     RECT Rect{};
     DrawTextA(TMeasure(FWindow, FFont), Text.c_str(), static_cast<int>(Text.size()), &Rect,
@@ -229,22 +229,22 @@ int TControl::MnemonicWidthOf(const std::string& Text) const
 
 void RegisterBuiltInClasses()
 {
-    RegisterButtons();
-    RegisterStatics();
-    RegisterEdits();
-    RegisterListBoxes();
-    RegisterComboBoxes();
-    RegisterScrollBars();
-    RegisterStatusBars();
-    RegisterTabs();
-    RegisterHeaders();
-    RegisterListViews();
-    RegisterTreeViews();
-    RegisterToolBars();
-    RegisterProgressBars();
-    RegisterTrackBars();
-    RegisterUpDowns();
-    RegisterDates();
+    RegisterSystemButtons();
+    RegisterSystemStatics();
+    RegisterSystemEdits();
+    RegisterSystemListBoxes();
+    RegisterSystemComboBoxes();
+    RegisterSystemScrollBars();
+    RegisterSystemStatusBars();
+    RegisterSystemTabs();
+    RegisterSystemHeaders();
+    RegisterSystemListViews();
+    RegisterSystemTreeViews();
+    RegisterSystemToolBars();
+    RegisterSystemProgressBars();
+    RegisterSystemTrackBars();
+    RegisterSystemUpDowns();
+    RegisterSystemDates();
 }
 
 void InitCommonControls() {}

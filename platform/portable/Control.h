@@ -1,4 +1,4 @@
-// Base of the built-in controls. A control class derives from TControl, answers
+// Base of the built-in controls. A control class derives from TSystemControl, answers
 // its messages in Handle and leaves the rest to the base; RegisterControl makes
 // it a window class. Its object lives as long as a message is being handled,
 // even when a notification destroys the window: check Alive() after notifying.
@@ -10,12 +10,12 @@
 #include "platform/portable/Window.h"
 #include "platform/portable/commctrl.h"
 
-class TControl {
+class TSystemControl {
 public:
-    explicit TControl(HWND Handle) : FWindow(Handle) {}
-    TControl(const TControl&) = delete;
-    TControl& operator=(const TControl&) = delete;
-    virtual ~TControl() = default;
+    explicit TSystemControl(HWND Handle) : FWindow(Handle) {}
+    TSystemControl(const TSystemControl&) = delete;
+    TSystemControl& operator=(const TSystemControl&) = delete;
+    virtual ~TSystemControl() = default;
     virtual LRESULT Handle(UINT Message, WPARAM WParam, LPARAM LParam);
 
 protected:
@@ -75,7 +75,7 @@ private:
 };
 
 template<class T>
-struct TControlHolder final : TControlState {
+struct TControlHolder final : TSystemControlState {
     explicit TControlHolder(HWND Handle) : Control(std::make_shared<T>(Handle)) {}
     std::shared_ptr<T> Control;
 };
@@ -125,19 +125,19 @@ bool SortsBefore(const std::string& First, const std::string& Second);
 bool StartsWithText(const std::string& Text, const std::string& Start);
 bool SameText(const std::string& First, const std::string& Second);
 
-void RegisterButtons();
-void RegisterStatics();
-void RegisterEdits();
-void RegisterListBoxes();
-void RegisterComboBoxes();
-void RegisterScrollBars();
-void RegisterStatusBars();
-void RegisterTabs();
-void RegisterHeaders();
-void RegisterListViews();
-void RegisterTreeViews();
-void RegisterToolBars();
-void RegisterProgressBars();
-void RegisterTrackBars();
-void RegisterUpDowns();
-void RegisterDates();
+void RegisterSystemButtons();
+void RegisterSystemStatics();
+void RegisterSystemEdits();
+void RegisterSystemListBoxes();
+void RegisterSystemComboBoxes();
+void RegisterSystemScrollBars();
+void RegisterSystemStatusBars();
+void RegisterSystemTabs();
+void RegisterSystemHeaders();
+void RegisterSystemListViews();
+void RegisterSystemTreeViews();
+void RegisterSystemToolBars();
+void RegisterSystemProgressBars();
+void RegisterSystemTrackBars();
+void RegisterSystemUpDowns();
+void RegisterSystemDates();

@@ -31,9 +31,9 @@ std::string MonthOf(const SYSTEMTIME& Date)
     return Digits(Date.wYear, 4) + '-' + Digits(Date.wMonth, 2);
 }
 
-class TDateControl : public TControl {
+class TDateControl : public TSystemControl {
 public:
-    explicit TDateControl(HWND Handle) : TControl(Handle) { GetLocalTime(&FDate); }
+    explicit TDateControl(HWND Handle) : TSystemControl(Handle) { GetLocalTime(&FDate); }
 
 protected:
     bool SetDate(const SYSTEMTIME& Value)
@@ -72,7 +72,7 @@ public:
         case DTM_SETRANGE:
             return TRUE;
         default:
-            return TControl::Handle(Message, WParam, LParam);
+            return TSystemControl::Handle(Message, WParam, LParam);
         }
     }
 
@@ -119,7 +119,7 @@ public:
             Structure<RECT>(LParam) = {0, 0, 7 * CellWidth() + 8, 9 * (LineHeight() + 2) + 8};
             return TRUE;
         default:
-            return TControl::Handle(Message, WParam, LParam);
+            return TSystemControl::Handle(Message, WParam, LParam);
         }
     }
 
@@ -151,7 +151,7 @@ private:
 };
 } // namespace
 
-void RegisterDates()
+void RegisterSystemDates()
 {
     RegisterControl<TDatePicker>(DATETIMEPICK_CLASSA);
     RegisterControl<TMonthCalendar>(MONTHCAL_CLASSA);

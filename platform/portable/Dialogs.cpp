@@ -11,7 +11,7 @@ void RegisterOwnClasses();
 
 namespace {
 
-struct TDialog : TControlState {
+struct TDialog : TSystemControlState {
     DLGPROC Proc = nullptr;
     bool Ended = false;
     INT_PTR Result = 0;

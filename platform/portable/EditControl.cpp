@@ -13,9 +13,9 @@ constexpr int Margin = 2;
 constexpr std::size_t NoLimit = 0x7FFFFFFE;
 constexpr std::size_t FirstLimit = 30000;
 
-class TEdit : public TControl {
+class TEdit : public TSystemControl {
 public:
-    using TControl::TControl;
+    using TSystemControl::TSystemControl;
     LRESULT Handle(UINT Message, WPARAM WParam, LPARAM LParam) override;
 
 protected:
@@ -94,7 +94,7 @@ LRESULT TEdit::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
                                    &TEdit::HandleOptions, &TEdit::HandleInput, &TEdit::HandleRich})
         if (const auto Result = (this->*Handler)(Message, WParam, LParam))
             return *Result;
-    return TControl::Handle(Message, WParam, LParam);
+    return TSystemControl::Handle(Message, WParam, LParam);
 }
 
 std::optional<LRESULT> TEdit::HandleText(UINT Message, WPARAM WParam, LPARAM LParam)
@@ -248,7 +248,7 @@ std::optional<LRESULT> TEdit::HandleInput(UINT Message, WPARAM WParam, LPARAM LP
         return TRUE;
     case WM_SETFOCUS:
     case WM_KILLFOCUS:
-        TControl::Handle(Message, WParam, LParam);
+        TSystemControl::Handle(Message, WParam, LParam);
         Command(Message == WM_SETFOCUS ? EN_SETFOCUS : EN_KILLFOCUS);
         return 0;
     case WM_LBUTTONDOWN: {
@@ -635,7 +635,7 @@ protected:
 };
 } // namespace
 
-void RegisterEdits()
+void RegisterSystemEdits()
 {
     RegisterControl<TEdit>("Edit", CS_DBLCLKS | CS_PARENTDC, IDC_IBEAM);
     for (const char* const Name : {"RICHEDIT", "RichEdit20A", "RichEdit20W", "RICHEDIT50W"})

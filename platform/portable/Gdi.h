@@ -125,10 +125,10 @@ cairo_surface_t* SurfaceOfDib(const BITMAPINFO& Info, const void* Bits);
 void ReadBitmapBits(TGdiBitmap& Bitmap);
 void WriteBitmapBits(TGdiBitmap& Bitmap);
 
-struct TColor {
+struct TGdiColor {
     double Red, Green, Blue;
 };
-TColor ColorOf(COLORREF Color);
+TGdiColor ColorOf(COLORREF Color);
 
 // While it lives, a Cairo context on the device context's surface, in logical
 // coordinates and clipped as the device context is. False when there is nothing

@@ -155,7 +155,7 @@ bool SurfacePoint(const TGdiContext& Context, int X, int Y, POINT& Point)
 }
 } // namespace
 
-TColor ColorOf(COLORREF Color)
+TGdiColor ColorOf(COLORREF Color)
 {
     return {GetRValue(Color) / 255.0, GetGValue(Color) / 255.0, GetBValue(Color) / 255.0};
 }

@@ -12,9 +12,9 @@ struct TSection {
     LPARAM Data = 0;
 };
 
-class THeader final : public TControl {
+class THeader final : public TSystemControl {
 public:
-    using TControl::TControl;
+    using TSystemControl::TSystemControl;
     LRESULT Handle(UINT Message, WPARAM WParam, LPARAM LParam) override;
 
 protected:
@@ -86,7 +86,7 @@ LRESULT THeader::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
         return 0;
     }
     default:
-        return TControl::Handle(Message, WParam, LParam);
+        return TSystemControl::Handle(Message, WParam, LParam);
     }
 }
 
@@ -169,7 +169,7 @@ void THeader::Paint(HDC Dc)
 }
 } // namespace
 
-void RegisterHeaders()
+void RegisterSystemHeaders()
 {
     RegisterControl<THeader>(WC_HEADERA);
 }

@@ -15,9 +15,9 @@ struct TListItem {
     int Height = 0;
 };
 
-class TListBox final : public TControl {
+class TListBox final : public TSystemControl {
 public:
-    using TControl::TControl;
+    using TSystemControl::TSystemControl;
     LRESULT Handle(UINT Message, WPARAM WParam, LPARAM LParam) override;
 
 protected:
@@ -75,7 +75,7 @@ LRESULT TListBox::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
         return DLGC_WANTARROWS | DLGC_WANTCHARS;
     case WM_SETFOCUS:
     case WM_KILLFOCUS:
-        TControl::Handle(Message, WParam, LParam);
+        TSystemControl::Handle(Message, WParam, LParam);
         Note(Message == WM_SETFOCUS ? LBN_SETFOCUS : LBN_KILLFOCUS);
         return 0;
     case WM_LBUTTONDOWN:
@@ -128,7 +128,7 @@ LRESULT TListBox::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
         return 0;
     }
     default:
-        return TControl::Handle(Message, WParam, LParam);
+        return TSystemControl::Handle(Message, WParam, LParam);
     }
 }
 
@@ -530,7 +530,7 @@ void TListBox::PaintItem(HDC Dc, int Index)
 }
 } // namespace
 
-void RegisterListBoxes()
+void RegisterSystemListBoxes()
 {
     RegisterControl<TListBox>("ListBox");
     RegisterControl<TListBox>("ComboLBox", CS_DBLCLKS | CS_SAVEBITS);

@@ -21,9 +21,9 @@ struct TListRow {
     int Indent = 0;
 };
 
-class TListView final : public TControl {
+class TListView final : public TSystemControl {
 public:
-    using TControl::TControl;
+    using TSystemControl::TSystemControl;
     LRESULT Handle(UINT Message, WPARAM WParam, LPARAM LParam) override;
 
 protected:
@@ -107,7 +107,7 @@ LRESULT TListView::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
     }
     case WM_SETFOCUS:
     case WM_KILLFOCUS:
-        TControl::Handle(Message, WParam, LParam);
+        TSystemControl::Handle(Message, WParam, LParam);
         Notify(static_cast<UINT>(Message == WM_SETFOCUS ? NM_SETFOCUS : NM_KILLFOCUS));
         return 0;
     case WM_LBUTTONDOWN:
@@ -141,7 +141,7 @@ LRESULT TListView::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
         return 0;
     }
     default:
-        return TControl::Handle(Message, WParam, LParam);
+        return TSystemControl::Handle(Message, WParam, LParam);
     }
 }
 
@@ -385,7 +385,7 @@ bool TListView::SetSubItem(int Index, int Column, LPCSTR Text)
         Texts.resize(static_cast<std::size_t>(Column) + 1);
     auto& Kept = Texts[static_cast<std::size_t>(Column)];
     if (Kept == (Text ? Text : ""))
-        return true;  // asked, but not changed
+        return true; // asked, but not changed
     Kept = Text ? Text : "";
     Invalidate();
     Tell(static_cast<UINT>(LVN_ITEMCHANGED), Index, 0, 0, LVIF_TEXT);
@@ -707,7 +707,7 @@ void TListView::PaintIcon(HDC Dc, int Index)
 }
 } // namespace
 
-void RegisterListViews()
+void RegisterSystemListViews()
 {
     RegisterControl<TListView>(WC_LISTVIEWA);
 }

@@ -8,7 +8,7 @@ namespace {
 
 constexpr UINT MaximumListed = 9;
 
-bool IsListed(const TMdiClient& State, const TMenuItem& Item)
+bool IsListed(const TMdiClient& State, const TMenuEntry& Item)
 {
     return Item.Id >= State.FirstId && Item.Id <= State.FirstId + MaximumListed && !Item.SubMenu;
 }
@@ -36,12 +36,12 @@ void ClearWindowList(HWND Client)
 {
     TStateLock Lock;
     const TMdiClient* const State = MdiClientOf(Client);
-    TMenu* const Menu = State && State->WindowMenu ? MenuOf(State->WindowMenu) : nullptr;
+    TMenuData* const Menu = State && State->WindowMenu ? MenuOf(State->WindowMenu) : nullptr;
     if (!Menu || !State->FirstId)
         return;
     const std::size_t Before = Menu->Items.size();
     std::erase_if(Menu->Items,
-                  [&](const TMenuItem& Item) { return !Item.IsSeparator() && IsListed(*State, Item); });
+                  [&](const TMenuEntry& Item) { return !Item.IsSeparator() && IsListed(*State, Item); });
     if (Menu->Items.size() < Before && !Menu->Items.empty() && Menu->Items.back().IsSeparator())
         Menu->Items.pop_back();
 }

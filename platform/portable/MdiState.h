@@ -6,7 +6,7 @@
 
 #include "platform/portable/Window.h"
 
-struct TMdiClient : TControlState {
+struct TMdiClient : TSystemControlState {
     std::vector<HWND> Documents; // in the order of creation
     HWND Active = nullptr;
     std::string FrameTitle; // of the frame, without a document's

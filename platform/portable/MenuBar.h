@@ -7,7 +7,7 @@
 
 #include "platform/portable/Window.h"
 
-struct TMenuItem {
+struct TMenuEntry {
     UINT Type = 0;  // MFT_ flags
     UINT State = 0; // MFS_ flags
     UINT Id = 0;
@@ -23,9 +23,9 @@ struct TMenuItem {
     bool IsEnabled() const { return (State & (MF_GRAYED | MF_DISABLED)) == 0; }
 };
 
-struct TMenu {
+struct TMenuData {
     HMENU Handle = nullptr;
-    std::vector<TMenuItem> Items;
+    std::vector<TMenuEntry> Items;
     bool Popup = false;
     bool System = false; // what is chosen arrives as WM_SYSCOMMAND
     MENUINFO Info{};
@@ -33,15 +33,15 @@ struct TMenu {
 
 // The menu of a handle; null, with ERROR_INVALID_MENU_HANDLE set, without one.
 // Lives until the next message is sent.
-TMenu* MenuOf(HMENU Handle);
+TMenuData* MenuOf(HMENU Handle);
 
 // Where an item is found: the menu that holds it and its position there.
 struct TItemPlace {
-    TMenu* Menu = nullptr;
+    TMenuData* Menu = nullptr;
     std::size_t Position = 0;
 
     explicit operator bool() const { return Menu != nullptr; }
-    TMenuItem& Item() const { return Menu->Items[Position]; }
+    TMenuEntry& Item() const { return Menu->Items[Position]; }
 };
 
 // Finds by position in the menu itself, or by command also in its submenus; a

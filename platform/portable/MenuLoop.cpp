@@ -92,7 +92,7 @@ void TMenuLoop::Announce(UINT Flags, UINT Number, HMENU Menu)
 void TMenuLoop::Open(HMENU Menu, int Position)
 {
     if (Notify()) {
-        const TMenu* const Record = MenuOf(Menu);
+        const TMenuData* const Record = MenuOf(Menu);
         SendMessageA(FOwner, WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(Menu),
                      MAKELPARAM(Position, Record && Record->System));
     }
@@ -104,7 +104,7 @@ void TMenuLoop::CloseTop()
 {
     const HMENU Menu = Top().Menu;
     FLevels.pop_back();
-    const TMenu* const Record = MenuOf(Menu);
+    const TMenuData* const Record = MenuOf(Menu);
     if (Notify() && Record && Record->Popup)
         SendMessageA(FOwner, WM_UNINITMENUPOPUP, reinterpret_cast<WPARAM>(Menu), 0);
 }
@@ -116,7 +116,7 @@ void TMenuLoop::Select(int Position)
     const TItemPlace Place = FindItem(Menu, static_cast<UINT>(Position), MF_BYPOSITION);
     if (!Place)
         return;
-    const TMenuItem& Item = Place.Item();
+    const TMenuEntry& Item = Place.Item();
     const UINT Number = Item.SubMenu ? static_cast<UINT>(Position) : Item.Id;
     UINT Flags = Item.Type | Item.State | MF_HILITE | (Item.SubMenu ? MF_POPUP : 0u);
     if (Place.Menu->System)
@@ -126,7 +126,7 @@ void TMenuLoop::Select(int Position)
 
 void TMenuLoop::Step(int By)
 {
-    const TMenu* const Menu = MenuOf(Top().Menu);
+    const TMenuData* const Menu = MenuOf(Top().Menu);
     const int Count = Menu ? static_cast<int>(Menu->Items.size()) : 0;
     int Position = Top().Selected;
     if (Position == Nothing && By < 0)
@@ -161,7 +161,7 @@ void TMenuLoop::Type(char Character)
 {
     const std::string Typed{'&', Character};
     const char Wanted = MnemonicOf(Typed);
-    const TMenu* const Menu = MenuOf(Top().Menu);
+    const TMenuData* const Menu = MenuOf(Top().Menu);
     for (std::size_t Position = 0; Menu && Position < Menu->Items.size(); ++Position)
         if (MnemonicOf(Menu->Items[Position].Text) == Wanted) {
             Select(static_cast<int>(Position));
@@ -181,7 +181,7 @@ void TMenuLoop::Type(char Character)
 
 void TMenuLoop::Press(WPARAM Key)
 {
-    const TMenu* const Menu = MenuOf(Top().Menu);
+    const TMenuData* const Menu = MenuOf(Top().Menu);
     const bool Bar = Menu && !Menu->Popup;
     switch (Key) {
     case VK_DOWN:
@@ -252,7 +252,7 @@ void TMenuLoop::Run()
 
 void SendChosen(HWND Owner, const TMenuLoop& Loop)
 {
-    const TMenu* const Menu = Loop.Chosen() ? MenuOf(Loop.ChosenMenu()) : nullptr;
+    const TMenuData* const Menu = Loop.Chosen() ? MenuOf(Loop.ChosenMenu()) : nullptr;
     if (!Menu)
         return;
     if (Menu->System)

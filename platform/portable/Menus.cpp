@@ -14,7 +14,7 @@ constexpr UINT TypeFlags = MFT_BITMAP | MFT_OWNERDRAW | MFT_SEPARATOR | MFT_MENU
                            MFT_RADIOCHECK | MFT_RIGHTORDER | MFT_RIGHTJUSTIFY;
 constexpr UINT StateFlags = MFS_GRAYED | MFS_CHECKED | MFS_HILITE | MFS_DEFAULT;
 
-using TMenuTable = THandleTable<TMenu, THandleKind::Menu>;
+using TMenuTable = THandleTable<TMenuData, THandleKind::Menu>;
 
 TMenuTable& Table()
 {
@@ -25,8 +25,8 @@ TMenuTable& Table()
 HMENU MakeMenu(bool Popup)
 {
     TStateLock Lock;
-    auto Menu = std::make_unique<TMenu>();
-    TMenu* const Result = Menu.get();
+    auto Menu = std::make_unique<TMenuData>();
+    TMenuData* const Result = Menu.get();
     Result->Popup = Popup;
     Result->Handle = reinterpret_cast<HMENU>(Table().Add(std::move(Menu)));
     return Result->Handle;
@@ -34,10 +34,10 @@ HMENU MakeMenu(bool Popup)
 
 } // namespace
 
-TMenu* MenuOf(HMENU Handle)
+TMenuData* MenuOf(HMENU Handle)
 {
     TStateLock Lock;
-    TMenu* const Menu = Table().Find(Handle);
+    TMenuData* const Menu = Table().Find(Handle);
     if (!Menu)
         SetLastError(ERROR_INVALID_MENU_HANDLE);
     return Menu;
@@ -45,13 +45,13 @@ TMenu* MenuOf(HMENU Handle)
 
 namespace {
 
-TItemPlace FindCommand(TMenu& Menu, UINT Id, int Depth)
+TItemPlace FindCommand(TMenuData& Menu, UINT Id, int Depth)
 {
     TItemPlace Fallback;
     constexpr int MaximumDepth = 25; // a menu may be put into itself
     for (std::size_t Position = 0; Position < Menu.Items.size(); ++Position) {
-        const TMenuItem& Item = Menu.Items[Position];
-        TMenu* const Sub = Item.SubMenu ? MenuOf(Item.SubMenu) : nullptr;
+        const TMenuEntry& Item = Menu.Items[Position];
+        TMenuData* const Sub = Item.SubMenu ? MenuOf(Item.SubMenu) : nullptr;
         if (Sub && Depth < MaximumDepth)
             if (const TItemPlace Inner = FindCommand(*Sub, Id, Depth + 1))
                 return Inner;
@@ -68,7 +68,7 @@ TItemPlace FindCommand(TMenu& Menu, UINT Id, int Depth)
 TItemPlace FindItem(HMENU Handle, UINT Item, UINT Flags)
 {
     TStateLock Lock;
-    TMenu* const Menu = MenuOf(Handle);
+    TMenuData* const Menu = MenuOf(Handle);
     if (!Menu)
         return {};
     TItemPlace Place;
@@ -99,12 +99,12 @@ BOOL IsMenu(HMENU Handle)
 BOOL DestroyMenu(HMENU Handle)
 {
     TStateLock Lock;
-    const std::unique_ptr<TMenu> Menu = Table().Take(Handle);
+    const std::unique_ptr<TMenuData> Menu = Table().Take(Handle);
     if (!Menu) {
         SetLastError(ERROR_INVALID_MENU_HANDLE);
         return FALSE;
     }
-    for (const TMenuItem& Item : Menu->Items)
+    for (const TMenuEntry& Item : Menu->Items)
         if (Item.SubMenu)
             DestroyMenu(Item.SubMenu);
     return TRUE;
@@ -113,9 +113,9 @@ BOOL DestroyMenu(HMENU Handle)
 namespace {
 
 // An item as the flags of AppendMenuA and its kin describe it.
-TMenuItem ItemFromFlags(UINT Flags, UINT_PTR Id, LPCSTR Text)
+TMenuEntry ItemFromFlags(UINT Flags, UINT_PTR Id, LPCSTR Text)
 {
-    TMenuItem Item;
+    TMenuEntry Item;
     Item.Type = Flags & TypeFlags & ~static_cast<UINT>(MFT_BITMAP | MFT_RADIOCHECK);
     Item.State = Flags & (MF_GRAYED | MF_DISABLED | MF_CHECKED);
     Item.Id = static_cast<UINT>(Id);
@@ -136,7 +136,7 @@ TMenuItem ItemFromFlags(UINT Flags, UINT_PTR Id, LPCSTR Text)
     return Item;
 }
 
-void ApplyInfo(TMenuItem& Item, const MENUITEMINFOA& Info)
+void ApplyInfo(TMenuEntry& Item, const MENUITEMINFOA& Info)
 {
     UINT Mask = Info.fMask;
     UINT Type = Info.fType;
@@ -175,10 +175,10 @@ void ApplyInfo(TMenuItem& Item, const MENUITEMINFOA& Info)
         Item.State |= MFS_GRAYED;
 }
 
-BOOL Insert(HMENU Handle, UINT Where, UINT Flags, const TMenuItem& Item)
+BOOL Insert(HMENU Handle, UINT Where, UINT Flags, const TMenuEntry& Item)
 {
     TStateLock Lock;
-    TMenu* Menu = MenuOf(Handle);
+    TMenuData* Menu = MenuOf(Handle);
     if (!Menu)
         return FALSE;
     std::size_t Position = Menu->Items.size();
@@ -218,7 +218,7 @@ BOOL ModifyMenuA(HMENU Menu, UINT Item, UINT Flags, UINT_PTR Id, LPCSTR Text)
     const TItemPlace Place = FindItem(Menu, Item, Flags);
     if (!Place)
         return FALSE;
-    TMenuItem New = ItemFromFlags(Flags, Id, Text);
+    TMenuEntry New = ItemFromFlags(Flags, Id, Text);
     const HMENU Old = Place.Item().SubMenu;
     New.Checked = Place.Item().Checked;
     New.Unchecked = Place.Item().Unchecked;
@@ -255,7 +255,7 @@ BOOL InsertMenuItemA(HMENU Menu, UINT Item, BOOL ByPosition, const MENUITEMINFOA
 {
     if (!GoodSize(Info))
         return FALSE;
-    TMenuItem New;
+    TMenuEntry New;
     ApplyInfo(New, *Info);
     return Insert(Menu, Item, ByPosition ? MF_BYPOSITION : MF_BYCOMMAND, New);
 }
@@ -274,7 +274,7 @@ BOOL SetMenuItemInfoA(HMENU Menu, UINT Item, BOOL ByPosition, const MENUITEMINFO
 
 namespace {
 
-void GiveText(const TMenuItem& Item, MENUITEMINFOA& Info)
+void GiveText(const TMenuEntry& Item, MENUITEMINFOA& Info)
 {
     const auto Length = static_cast<UINT>(Item.Text.size());
     if (!Item.HasText) {
@@ -298,7 +298,7 @@ BOOL GetMenuItemInfoA(HMENU Menu, UINT Position, BOOL ByPosition, MENUITEMINFOA*
     const TItemPlace Place = FindItem(Menu, Position, ByPosition ? MF_BYPOSITION : MF_BYCOMMAND);
     if (!Place)
         return FALSE;
-    const TMenuItem& Item = Place.Item();
+    const TMenuEntry& Item = Place.Item();
     const UINT Mask = Info->fMask;
     if (Mask & (MIIM_TYPE | MIIM_FTYPE))
         Info->fType = Item.Type | (Mask & MIIM_TYPE && Item.Bitmap ? MFT_BITMAP : 0u);
@@ -342,14 +342,14 @@ UINT GetMenuState(HMENU Menu, UINT Item, UINT Flags)
     const UINT State = Place.Item().State | Place.Item().Type;
     if (!Place.Item().SubMenu)
         return State;
-    const TMenu* const Sub = MenuOf(Place.Item().SubMenu);
+    const TMenuData* const Sub = MenuOf(Place.Item().SubMenu);
     return Sub ? static_cast<UINT>(Sub->Items.size()) << 8 | ((State | MF_POPUP) & 0xff) : ~0u;
 }
 
 int GetMenuItemCount(HMENU Handle)
 {
     TStateLock Lock;
-    const TMenu* const Menu = MenuOf(Handle);
+    const TMenuData* const Menu = MenuOf(Handle);
     return Menu ? static_cast<int>(Menu->Items.size()) : -1;
 }
 
@@ -402,13 +402,13 @@ BOOL CheckMenuRadioItem(HMENU Menu, UINT First, UINT Last, UINT Checked, UINT Fl
 {
     TStateLock Lock;
     BOOL Done = FALSE;
-    const TMenu* Holder = nullptr;
+    const TMenuData* Holder = nullptr;
     for (UINT Number = First; Number <= Last; ++Number) {
         const TItemPlace Place = FindItem(Menu, Number, Flags);
         if (!Place || Place.Item().IsSeparator() || (Holder && Place.Menu != Holder))
             continue;
         Holder = Place.Menu;
-        TMenuItem& Item = Place.Item();
+        TMenuEntry& Item = Place.Item();
         if (Number == Checked) {
             Item.Type |= MFT_RADIOCHECK;
             Item.State |= MFS_CHECKED;
@@ -423,12 +423,12 @@ BOOL CheckMenuRadioItem(HMENU Menu, UINT First, UINT Last, UINT Checked, UINT Fl
 BOOL SetMenuDefaultItem(HMENU Handle, UINT Item, UINT ByPosition)
 {
     TStateLock Lock;
-    TMenu* const Menu = MenuOf(Handle);
+    TMenuData* const Menu = MenuOf(Handle);
     if (!Menu)
         return FALSE;
     BOOL Found = Item == ~0u;
     for (std::size_t Position = 0; Position < Menu->Items.size(); ++Position) {
-        TMenuItem& Each = Menu->Items[Position];
+        TMenuEntry& Each = Menu->Items[Position];
         Each.State &= ~static_cast<UINT>(MFS_DEFAULT);
         if (!Found && Item == (ByPosition ? static_cast<UINT>(Position) : Each.Id)) {
             Each.State |= MFS_DEFAULT;
@@ -441,7 +441,7 @@ BOOL SetMenuDefaultItem(HMENU Handle, UINT Item, UINT ByPosition)
 UINT GetMenuDefaultItem(HMENU Handle, UINT ByPosition, UINT)
 {
     TStateLock Lock;
-    const TMenu* const Menu = MenuOf(Handle);
+    const TMenuData* const Menu = MenuOf(Handle);
     if (Menu)
         for (std::size_t Position = 0; Position < Menu->Items.size(); ++Position)
             if (Menu->Items[Position].State & MFS_DEFAULT)
@@ -463,7 +463,7 @@ BOOL SetMenuItemBitmaps(HMENU Menu, UINT Item, UINT Flags, HBITMAP Unchecked, HB
 BOOL GetMenuInfo(HMENU Handle, MENUINFO* Info)
 {
     TStateLock Lock;
-    const TMenu* const Menu = MenuOf(Handle);
+    const TMenuData* const Menu = MenuOf(Handle);
     if (!Menu || !Info || Info->cbSize != sizeof(MENUINFO))
         return FALSE;
     const DWORD Mask = Info->fMask;
@@ -476,7 +476,7 @@ BOOL GetMenuInfo(HMENU Handle, MENUINFO* Info)
 BOOL SetMenuInfo(HMENU Handle, const MENUINFO* Info)
 {
     TStateLock Lock;
-    TMenu* const Menu = MenuOf(Handle);
+    TMenuData* const Menu = MenuOf(Handle);
     if (!Menu || !Info || Info->cbSize != sizeof(MENUINFO))
         return FALSE;
     MENUINFO& Mine = Menu->Info;

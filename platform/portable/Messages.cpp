@@ -63,8 +63,8 @@ bool TakeTimer(TThread& Thread, const TFilter& Filter, bool Remove, MSG& Message
     if (!Filter.Fits(WM_TIMER))
         return false;
     const auto Now = TClock::now();
-    TTimer* Next = nullptr;
-    for (TTimer& Timer : Thread.Timers)
+    TThreadTimer* Next = nullptr;
+    for (TThreadTimer& Timer : Thread.Timers)
         if (Timer.Due <= Now && Filter.Fits(Timer.Window) && (!Next || Timer.Due < Next->Due))
             Next = &Timer;
     if (!Next)
@@ -121,7 +121,7 @@ void WaitForWork(DWORD Milliseconds)
     auto Until = TClock::time_point::max();
     if (Milliseconds != INFINITE)
         Until = TClock::now() + std::chrono::milliseconds(Milliseconds);
-    for (const TTimer& Timer : Thread.Timers)
+    for (const TThreadTimer& Timer : Thread.Timers)
         Until = std::min(Until, Timer.Due);
     if (Until == TClock::time_point::max())
         StateChanged().wait(Lock, Arrived);
@@ -308,7 +308,7 @@ void ForgetWindow(HWND Handle)
     const auto IsOf = [&](const auto& Each) { return Each.hwnd == Handle; };
     std::erase_if(Thread.Posted, IsOf);
     std::erase_if(Thread.Input, IsOf);
-    std::erase_if(Thread.Timers, [&](const TTimer& Timer) { return Timer.Window == Handle; });
+    std::erase_if(Thread.Timers, [&](const TThreadTimer& Timer) { return Timer.Window == Handle; });
     for (HWND* const Slot : {&Thread.Active, &Thread.Focus, &Thread.Capture, &Thread.MenuOwner})
         if (*Slot == Handle)
             *Slot = nullptr;

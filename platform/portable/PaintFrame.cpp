@@ -167,7 +167,7 @@ void PaintBorder(HDC Dc, const TWindow& Window, RECT& Rect)
     }
 }
 
-int ThumbLength(int Room, const TScrollBar& Bar)
+int ThumbLength(int Room, const TWindowScrollBar& Bar)
 {
     const long long Span = static_cast<long long>(Bar.Maximum) - Bar.Minimum + 1;
     if (Bar.Page == 0 || Span <= 0)
@@ -177,7 +177,7 @@ int ThumbLength(int Room, const TScrollBar& Bar)
 }
 } // namespace
 
-void PaintScrollBar(HDC Dc, const RECT& Rect, bool Vertical, const TScrollBar& Bar, bool Enabled)
+void PaintScrollBar(HDC Dc, const RECT& Rect, bool Vertical, const TWindowScrollBar& Bar, bool Enabled)
 {
     FillRect(Dc, &Rect, GetSysColorBrush(COLOR_SCROLLBAR));
     const int Thick = Vertical ? Rect.right - Rect.left : Rect.bottom - Rect.top;

@@ -32,4 +32,4 @@ HDC WindowContext(const TWindow& Window, TPaintArea Area);
 void PaintFrame(const TWindow& Window, HDC Dc);
 
 // A scroll bar, standing or lying, inside Rect.
-void PaintScrollBar(HDC Dc, const RECT& Rect, bool Vertical, const TScrollBar& Bar, bool Enabled);
+void PaintScrollBar(HDC Dc, const RECT& Rect, bool Vertical, const TWindowScrollBar& Bar, bool Enabled);

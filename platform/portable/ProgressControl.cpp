@@ -4,9 +4,9 @@
 #include "platform/portable/Control.h"
 
 namespace {
-class TProgress final : public TControl {
+class TProgress final : public TSystemControl {
 public:
-    using TControl::TControl;
+    using TSystemControl::TSystemControl;
     LRESULT Handle(UINT Message, WPARAM WParam, LPARAM LParam) override;
 
 protected:
@@ -58,7 +58,7 @@ LRESULT TProgress::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
         Invalidate();
         return static_cast<LRESULT>(std::exchange(FBack, static_cast<COLORREF>(LParam)));
     default:
-        return TControl::Handle(Message, WParam, LParam);
+        return TSystemControl::Handle(Message, WParam, LParam);
     }
 }
 
@@ -103,7 +103,7 @@ void TProgress::Paint(HDC Dc)
 }
 } // namespace
 
-void RegisterProgressBars()
+void RegisterSystemProgressBars()
 {
     RegisterControl<TProgress>(PROGRESS_CLASSA);
 }

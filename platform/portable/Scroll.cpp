@@ -6,14 +6,14 @@
 
 namespace {
 
-TScrollBar* BarOf(HWND Handle, int Bar)
+TWindowScrollBar* BarOf(HWND Handle, int Bar)
 {
     TWindow* const Window = WindowOf(Handle);
     return Window && (Bar == SB_HORZ || Bar == SB_VERT) ? &Window->Scroll[static_cast<std::size_t>(Bar)]
                                                         : nullptr;
 }
 
-void Clamp(TScrollBar& Bar)
+void Clamp(TWindowScrollBar& Bar)
 {
     const int Range = Bar.Maximum - Bar.Minimum + 1;
     Bar.Page = std::min(Bar.Page, static_cast<UINT>(std::max(Range, 0)));
@@ -28,7 +28,7 @@ int SetScrollInfo(HWND Handle, int Kind, const SCROLLINFO* Info, BOOL Redraw)
     if (Kind == SB_CTL)
         return static_cast<int>(SendMessageA(Handle, SBM_SETSCROLLINFO, static_cast<WPARAM>(Redraw),
                                              reinterpret_cast<LPARAM>(Info)));
-    TScrollBar* const Bar = BarOf(Handle, Kind);
+    TWindowScrollBar* const Bar = BarOf(Handle, Kind);
     if (!Bar || !Info)
         return 0;
     if (Info->fMask & SIF_PAGE)
@@ -54,7 +54,7 @@ BOOL GetScrollInfo(HWND Handle, int Kind, SCROLLINFO* Info)
         SendMessageA(Handle, SBM_GETSCROLLINFO, 0, reinterpret_cast<LPARAM>(Info));
         return TRUE;
     }
-    const TScrollBar* const Bar = BarOf(Handle, Kind);
+    const TWindowScrollBar* const Bar = BarOf(Handle, Kind);
     if (!Bar || !Info)
         return FALSE;
     if (Info->fMask & SIF_PAGE)
@@ -74,7 +74,7 @@ int SetScrollPos(HWND Handle, int Kind, int Position, BOOL Redraw)
 {
     if (Kind == SB_CTL)
         return static_cast<int>(SendMessageA(Handle, SBM_SETPOS, static_cast<WPARAM>(Position), Redraw));
-    TScrollBar* const Bar = BarOf(Handle, Kind);
+    TWindowScrollBar* const Bar = BarOf(Handle, Kind);
     if (!Bar)
         return 0;
     const int Old = Bar->Position;
@@ -87,7 +87,7 @@ int GetScrollPos(HWND Handle, int Kind)
 {
     if (Kind == SB_CTL)
         return static_cast<int>(SendMessageA(Handle, SBM_GETPOS, 0, 0));
-    const TScrollBar* const Bar = BarOf(Handle, Kind);
+    const TWindowScrollBar* const Bar = BarOf(Handle, Kind);
     return Bar ? Bar->Position : 0;
 }
 
@@ -132,7 +132,7 @@ BOOL EnableScrollBar(HWND Handle, UINT Bar, UINT Arrows)
 {
     BOOL Changed = FALSE;
     for (const int Kind : {SB_HORZ, SB_VERT}) {
-        TScrollBar* const Each = BarOf(Handle, Kind);
+        TWindowScrollBar* const Each = BarOf(Handle, Kind);
         if (!Each || (Bar != SB_BOTH && static_cast<int>(Bar) != Kind))
             continue;
         Changed |= Each->Arrows != Arrows;

@@ -4,9 +4,9 @@
 #include "platform/portable/PaintWindow.h"
 
 namespace {
-class TScrollBarControl final : public TControl {
+class TScrollBarControl final : public TSystemControl {
 public:
-    explicit TScrollBarControl(HWND Handle) : TControl(Handle) { FBar.Maximum = 0; }
+    explicit TScrollBarControl(HWND Handle) : TSystemControl(Handle) { FBar.Maximum = 0; }
     LRESULT Handle(UINT Message, WPARAM WParam, LPARAM LParam) override;
 
 protected:
@@ -20,7 +20,7 @@ private:
     void Scroll(int Code);
     void Click(POINT Point);
 
-    TScrollBar FBar;
+    TWindowScrollBar FBar;
 };
 
 LRESULT TScrollBarControl::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
@@ -89,7 +89,7 @@ LRESULT TScrollBarControl::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
         }
         return 0;
     default:
-        return TControl::Handle(Message, WParam, LParam);
+        return TSystemControl::Handle(Message, WParam, LParam);
     }
 }
 
@@ -154,7 +154,7 @@ void TScrollBarControl::Paint(HDC Dc)
 }
 } // namespace
 
-void RegisterScrollBars()
+void RegisterSystemScrollBars()
 {
     RegisterControl<TScrollBarControl>("ScrollBar");
 }

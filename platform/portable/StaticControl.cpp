@@ -5,9 +5,9 @@
 
 // Static texts, images, frames and filled rectangles.
 namespace {
-class TStatic final : public TControl {
+class TStatic final : public TSystemControl {
 public:
-    using TControl::TControl;
+    using TSystemControl::TSystemControl;
     LRESULT Handle(UINT Message, WPARAM WParam, LPARAM LParam) override;
 
 protected:
@@ -47,7 +47,7 @@ LRESULT TStatic::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
     case WM_ERASEBKGND:
         return TRUE;
     default:
-        return TControl::Handle(Message, WParam, LParam);
+        return TSystemControl::Handle(Message, WParam, LParam);
     }
 }
 
@@ -140,7 +140,7 @@ void TStatic::PaintImage(HDC Dc, const RECT& Rect) const
 }
 } // namespace
 
-void RegisterStatics()
+void RegisterSystemStatics()
 {
     RegisterControl<TStatic>("Static");
 }

@@ -15,9 +15,9 @@ struct TPart {
     std::string Tip;
 };
 
-class TStatusBar final : public TControl {
+class TStatusBar final : public TSystemControl {
 public:
-    explicit TStatusBar(HWND Handle) : TControl(Handle), FParts(1) {}
+    explicit TStatusBar(HWND Handle) : TSystemControl(Handle), FParts(1) {}
     LRESULT Handle(UINT Message, WPARAM WParam, LPARAM LParam) override;
 
 protected:
@@ -52,7 +52,7 @@ LRESULT TStatusBar::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
         return TRUE;
     case WM_SETTEXT:
         FParts[0].Text = LParam ? reinterpret_cast<LPCSTR>(LParam) : "";
-        return TControl::Handle(Message, WParam, LParam);
+        return TSystemControl::Handle(Message, WParam, LParam);
     case WM_GETTEXT:
         return CopyText(FParts[0].Text, reinterpret_cast<LPSTR>(LParam), static_cast<int>(WParam));
     case WM_GETTEXTLENGTH:
@@ -107,7 +107,7 @@ LRESULT TStatusBar::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
         Notify(NM_CLICK);
         return 0;
     default:
-        return TControl::Handle(Message, WParam, LParam);
+        return TSystemControl::Handle(Message, WParam, LParam);
     }
 }
 
@@ -203,7 +203,7 @@ void TStatusBar::PaintPart(HDC Dc, const TPart& Part, std::size_t Index, RECT Re
 }
 } // namespace
 
-void RegisterStatusBars()
+void RegisterSystemStatusBars()
 {
     RegisterControl<TStatusBar>(STATUSCLASSNAMEA);
 }

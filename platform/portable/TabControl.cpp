@@ -16,9 +16,9 @@ struct TTab {
     DWORD State = 0;
 };
 
-class TTabs final : public TControl {
+class TTabs final : public TSystemControl {
 public:
-    using TControl::TControl;
+    using TSystemControl::TSystemControl;
     LRESULT Handle(UINT Message, WPARAM WParam, LPARAM LParam) override;
 
 protected:
@@ -83,7 +83,7 @@ LRESULT TTabs::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
         return 0;
     }
     default:
-        return TControl::Handle(Message, WParam, LParam);
+        return TSystemControl::Handle(Message, WParam, LParam);
     }
 }
 
@@ -339,7 +339,7 @@ void TTabs::PaintTab(HDC Dc, int Index)
 }
 } // namespace
 
-void RegisterTabs()
+void RegisterSystemTabs()
 {
     RegisterControl<TTabs>(WC_TABCONTROLA, CS_DBLCLKS | CS_PARENTDC);
 }

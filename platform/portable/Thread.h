@@ -24,7 +24,7 @@ struct TSent {
     bool Replied = false;
 };
 
-struct TTimer {
+struct TThreadTimer {
     HWND Window;
     UINT_PTR Id;
     TIMERPROC Proc;
@@ -44,7 +44,7 @@ struct TThread {
     std::deque<MSG> Input; // keys and mouse
     std::deque<std::shared_ptr<TSent>> Sent;
     std::vector<std::shared_ptr<TSent>> Receiving; // innermost last
-    std::vector<TTimer> Timers;
+    std::vector<TThreadTimer> Timers;
     std::array<std::vector<THook>, 16> Hooks; // by kind + 1; the newest last
     HHOOK CurrentHook = nullptr;              // the one that runs, and its kind
     int CurrentKind = 0;

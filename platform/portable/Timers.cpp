@@ -7,7 +7,7 @@ namespace {
 auto FindTimer(TThread& Thread, HWND Window, UINT_PTR Id)
 {
     return std::find_if(Thread.Timers.begin(), Thread.Timers.end(),
-                        [&](const TTimer& Timer) { return Timer.Window == Window && Timer.Id == Id; });
+                        [&](const TThreadTimer& Timer) { return Timer.Window == Window && Timer.Id == Id; });
 }
 
 } // namespace
@@ -28,7 +28,7 @@ UINT_PTR SetTimer(HWND Handle, UINT_PTR Id, UINT Milliseconds, TIMERPROC Proc)
     if (Timer == Thread->Timers.end()) {
         if (!Handle)
             Id = Thread->NextTimer++;
-        Timer = Thread->Timers.insert(Timer, TTimer{Handle, Id, Proc, Period, {}});
+        Timer = Thread->Timers.insert(Timer, TThreadTimer{Handle, Id, Proc, Period, {}});
     }
     Timer->Proc = Proc;
     Timer->Period = Period;

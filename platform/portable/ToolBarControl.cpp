@@ -13,9 +13,9 @@ struct TToolButton {
     int Width = 0; // 0: from the text
 };
 
-class TToolBar final : public TControl {
+class TToolBar final : public TSystemControl {
 public:
-    using TControl::TControl;
+    using TSystemControl::TSystemControl;
     LRESULT Handle(UINT Message, WPARAM WParam, LPARAM LParam) override;
 
 protected:
@@ -80,7 +80,7 @@ LRESULT TToolBar::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
         return 0;
     }
     default:
-        return TControl::Handle(Message, WParam, LParam);
+        return TSystemControl::Handle(Message, WParam, LParam);
     }
 }
 
@@ -446,7 +446,7 @@ void TToolBar::PaintButton(HDC Dc, int Index)
 }
 } // namespace
 
-void RegisterToolBars()
+void RegisterSystemToolBars()
 {
     RegisterControl<TToolBar>(TOOLBARCLASSNAMEA);
 }

@@ -8,9 +8,9 @@ constexpr int ThumbLength = 21;
 constexpr int ThumbWidth = 11;
 constexpr int Indent = 8;
 
-class TTrackBar final : public TControl {
+class TTrackBar final : public TSystemControl {
 public:
-    using TControl::TControl;
+    using TSystemControl::TSystemControl;
     LRESULT Handle(UINT Message, WPARAM WParam, LPARAM LParam) override;
 
 protected:
@@ -123,7 +123,7 @@ LRESULT TTrackBar::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
         }
         return 0;
     default:
-        return TControl::Handle(Message, WParam, LParam);
+        return TSystemControl::Handle(Message, WParam, LParam);
     }
 }
 
@@ -221,7 +221,7 @@ void TTrackBar::Paint(HDC Dc)
 }
 } // namespace
 
-void RegisterTrackBars()
+void RegisterSystemTrackBars()
 {
     RegisterControl<TTrackBar>(TRACKBAR_CLASSA);
 }

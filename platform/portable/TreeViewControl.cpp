@@ -24,9 +24,9 @@ struct _TREEITEM {
 namespace {
 constexpr int BoxSide = 9;
 
-class TTreeView final : public TControl {
+class TTreeView final : public TSystemControl {
 public:
-    using TControl::TControl;
+    using TSystemControl::TSystemControl;
     LRESULT Handle(UINT Message, WPARAM WParam, LPARAM LParam) override;
 
 protected:
@@ -88,7 +88,7 @@ LRESULT TTreeView::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
         return DLGC_WANTARROWS | DLGC_WANTCHARS;
     case WM_SETFOCUS:
     case WM_KILLFOCUS:
-        TControl::Handle(Message, WParam, LParam);
+        TSystemControl::Handle(Message, WParam, LParam);
         Notify(static_cast<UINT>(Message == WM_SETFOCUS ? NM_SETFOCUS : NM_KILLFOCUS));
         return 0;
     case WM_LBUTTONDOWN:
@@ -110,7 +110,7 @@ LRESULT TTreeView::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
             Delete(FRoot.Children.back().get());
         return 0;
     default:
-        return TControl::Handle(Message, WParam, LParam);
+        return TSystemControl::Handle(Message, WParam, LParam);
     }
 }
 
@@ -582,7 +582,7 @@ void TTreeView::PaintRow(HDC Dc, TNode& Node, int Level, int Top)
 }
 } // namespace
 
-void RegisterTreeViews()
+void RegisterSystemTreeViews()
 {
     RegisterControl<TTreeView>(WC_TREEVIEWA);
 }

@@ -5,9 +5,9 @@
 #include "platform/portable/Control.h"
 
 namespace {
-class TUpDown final : public TControl {
+class TUpDown final : public TSystemControl {
 public:
-    using TControl::TControl;
+    using TSystemControl::TSystemControl;
     LRESULT Handle(UINT Message, WPARAM WParam, LPARAM LParam) override;
 
 protected:
@@ -91,7 +91,7 @@ LRESULT TUpDown::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
             Step(WParam == VK_UP ? 1 : -1);
         return 0;
     default:
-        return TControl::Handle(Message, WParam, LParam);
+        return TSystemControl::Handle(Message, WParam, LParam);
     }
 }
 
@@ -185,7 +185,7 @@ void TUpDown::Paint(HDC Dc)
 }
 } // namespace
 
-void RegisterUpDowns()
+void RegisterSystemUpDowns()
 {
     RegisterControl<TUpDown>(UPDOWN_CLASSA);
 }

@@ -15,8 +15,8 @@ struct TWindow;
 struct TThread;
 
 // Base of what a built-in control class keeps for each of its windows.
-struct TControlState {
-    virtual ~TControlState() = default;
+struct TSystemControlState {
+    virtual ~TSystemControlState() = default;
 };
 
 struct TWindowClass {
@@ -43,7 +43,7 @@ struct TUpdate {
     RECT Rect{};
 };
 
-struct TScrollBar {
+struct TWindowScrollBar {
     int Minimum = 0;
     int Maximum = 100;
     int Position = 0;
@@ -74,8 +74,8 @@ struct TWindow {
     LONG_PTR UserData = 0;
     std::vector<BYTE> Extra; // cbWndExtra bytes
     std::map<std::string, HANDLE> Props;
-    std::unique_ptr<TControlState> State;
-    std::array<TScrollBar, 2> Scroll; // SB_HORZ, SB_VERT
+    std::unique_ptr<TSystemControlState> State;
+    std::array<TWindowScrollBar, 2> Scroll; // SB_HORZ, SB_VERT
     TUpdate Update;
     HWND LastActive = nullptr; // last active popup
     HWND SavedFocus = nullptr; // of a dialog

@@ -94,7 +94,7 @@ namespace {
 // Without a display every item of a bar is as wide as its characters are many.
 constexpr int CharacterWidth = 7;
 
-RECT ItemRect(const TMenu& Menu, std::size_t Position, POINT Origin)
+RECT ItemRect(const TMenuData& Menu, std::size_t Position, POINT Origin)
 {
     const int Height = GetSystemMetrics(SM_CYMENU) - 1;
     if (Menu.Popup) {
@@ -132,7 +132,7 @@ BOOL GetMenuItemRect(HWND Window, HMENU Menu, UINT Item, LPRECT Rect)
 int MenuItemFromPoint(HWND Window, HMENU Handle, POINT Point)
 {
     TStateLock Lock;
-    const TMenu* const Menu = MenuOf(Handle);
+    const TMenuData* const Menu = MenuOf(Handle);
     for (std::size_t Position = 0; Menu && Position < Menu->Items.size(); ++Position) {
         const RECT Rect = ItemRect(*Menu, Position, BarOrigin(Window));
         if (PtInRect(&Rect, Point))
