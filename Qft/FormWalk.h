@@ -104,7 +104,7 @@ private:
     std::vector<TIndexed> CollectIndexed(TLineRange Range, char End) const;
     bool FindOrdered(int First, int& Index) const;
 
-    void TranslateMenuItem(HMENU Menu, UINT Command, const char* Key, int Index);
+    void TranslateMenuItem(TForm& Form, UINT Command, const char* Key, int Index);
 
     TFormTranslator& FTranslator;
     TStrings& FList;

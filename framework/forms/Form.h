@@ -2,6 +2,7 @@
 // TForm publishes it.
 #pragma once
 
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -155,6 +156,11 @@ public:
     void SetParentComponent(TComponent* Value) override;
     // Tells the menu bar of the MDI frame or of this window what it shows now.
     void RefreshMenu();
+    // The text of a command of the window menu (SC_CLOSE...), empty when the menu
+    // does not have it. A form without a window answers with the text that the
+    // system gives to all windows, and keeps what is set for the window to come.
+    std::string SystemMenuText(UINT Command);
+    void SetSystemMenuText(UINT Command, const std::string& Text);
     // A form inside another control has no frame, menu or place of its own.
     bool IsEmbedded() const { return Parent() != nullptr || ParentWindow() != nullptr; }
 
@@ -236,6 +242,7 @@ private:
     // Whether the form file gives the client area's size or the window's.
     enum { SizeUnknown, SizeOfWindow, SizeOfClient } FSizeKind = SizeUnknown;
     TTileMode FTileMode = tbHorizontal;
+    std::map<UINT, std::string> FSystemMenuTexts; // those that were set, by command
     bool FActive = false;
     bool FConstructed = false;
     bool FDestroyed = false;

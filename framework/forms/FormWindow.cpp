@@ -119,7 +119,31 @@ void TCustomForm::CompleteWindow()
         for (const UINT Command : {SC_TASKLIST, SC_RESTORE, SC_SIZE, SC_MINIMIZE, SC_MAXIMIZE})
             DeleteMenu(Menu, Command, MF_BYCOMMAND);
     }
+    for (const auto& [Command, Text] : FSystemMenuTexts)
+        ModifyMenuA(GetSystemMenu(WindowHandle(), FALSE), Command, MF_BYCOMMAND | MF_STRING, Command, Text.c_str());
     RefreshMenu();
+}
+
+std::string TCustomForm::SystemMenuText(UINT Command)
+{
+    const auto Kept = FSystemMenuTexts.find(Command);
+    if (!HandleAllocated() && Kept != FSystemMenuTexts.end())
+        return Kept->second;
+    // Only an MDI child in its frame has commands that other windows do not have.
+    const TForm* const Frame = Application ? Application->MainForm() : nullptr;
+    const bool NeedsWindow = FFormStyle == fsMDIChild && Frame && Frame->ClientHandle();
+    const bool AskOther = Application && Application->Handle() && !HandleAllocated() && !NeedsWindow;
+    const HWND Window = AskOther ? Application->Handle() : Handle();
+    char Text[1024];
+    const int Size = GetMenuStringA(GetSystemMenu(Window, FALSE), Command, Text, sizeof Text, MF_BYCOMMAND);
+    return {Text, static_cast<size_t>(std::max(Size, 0))};
+}
+
+void TCustomForm::SetSystemMenuText(UINT Command, const std::string& Text)
+{
+    FSystemMenuTexts[Command] = Text;
+    if (HandleAllocated())
+        ModifyMenuA(GetSystemMenu(WindowHandle(), FALSE), Command, MF_BYCOMMAND | MF_STRING, Command, Text.c_str());
 }
 
 void TCustomForm::CreateWnd()

@@ -369,7 +369,8 @@ bool TTreeNodes::DecodeNode(TItemBytesReader& Reader, const TLayout& Layout, TTr
     // The size of each node is the proof that the layout is the right one.
     if (!Reader.Ok() || Layout.Depth > DeepestLevel || Reader.Position() != Start + static_cast<size_t>(Size))
         return false;
-    Reader.Seek(Reader.Position() + static_cast<size_t>(Layout.Trailer));
+    if (Reader.Left() > 0) // the last node has none
+        Reader.Seek(Reader.Position() + static_cast<size_t>(Layout.Trailer));
     TTreeNode* const Node = AddChild(Parent, Text);
     Node->FImageIndex = Image;
     Node->FSelectedIndex = Selected;

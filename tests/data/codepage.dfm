@@ -1,5 +1,5 @@
 object Okno: TOkno
   Left = 0
   Top = 0
-  Caption = 'Za¿ó³æ gê¶l¹ ja¼ñ'
+  Caption = 'Za¿ó³æ gêœl¹ jaŸñ'
 end
