@@ -28,6 +28,41 @@ TFormWalk::~TFormWalk()
         FTranslator.FlushDefaults();
 }
 
+void TFormWalk::NoteFormerValues()
+{
+    if (!FOrdered || !ChangesMaySpread())
+        return;
+    FNoted.assign(static_cast<size_t>(FList.Count()), std::nullopt);
+    FNotedVersion = FOrdered->Version();
+    FNoting = true;
+    WalkOwner();
+    WalkComponents();
+    FComponents.clear();
+    FNoting = false;
+}
+
+// Texts of ordinary components are seen nowhere else. An action's are taken over
+// by its controls, and fonts, colours and directions by the controls inside;
+// longer paths may lead to another component that has lines of its own.
+bool TFormWalk::ChangesMaySpread() const
+{
+    for (int I = 0; I < FList.Count(); ++I) {
+        const std::string_view Line = FList.Get(I);
+        const size_t Equals = Line.find('=');
+        if (Equals == Line.npos)
+            continue;
+        const bool IsText = Equals + 1 == Line.size() || Line[Equals + 1] == '\'' || Line[Equals + 1] == '#';
+        const std::string_view Key = Line.substr(0, Equals);
+        if (!IsText || std::count(Key.begin(), Key.end(), '.') > 1)
+            return true;
+    }
+    const TComponent* const Owner = FTranslator.Owner();
+    for (int I = 0; Owner && I < Owner->ComponentCount(); ++I)
+        if (Owner->Components(I)->ChangesOthers())
+            return true;
+    return false;
+}
+
 void TFormWalk::WalkOwner()
 {
     TComponent* const Owner = FTranslator.Owner();
@@ -54,7 +89,7 @@ void TFormWalk::WalkComponents()
         if (!Component || Component == &FTranslator || Component->Name().empty())
             continue;
         bool Skip = false;
-        if (FTranslator.OnTranslateComponent) {
+        if (FTranslator.OnTranslateComponent && !FNoting) {
             FTranslator.OnTranslateComponent(&FTranslator, Component, &FList, Skip);
             if (FIsOver)
                 return;
@@ -232,6 +267,11 @@ void TFormWalk::WalkItems(TCollection& Items, int From, int Count)
 
 bool TFormWalk::ApplyTo(TObject& Object, const TPropInfo& Prop, int Index)
 {
+    if (FNoting) {
+        const bool IsLiteral = IsLiteralKind(Prop.Kind());
+        FNoted[static_cast<size_t>(Index)] = IsLiteral ? GetStrProp(Object, Prop) : GetPropertyText(Object, Prop);
+        return true;
+    }
     if (FTranslator.OnTranslateProperty) {
         bool Skip = false;
         FTranslator.OnTranslateProperty(&FTranslator, std::string(), &Prop, &FList, Skip);
@@ -251,6 +291,10 @@ bool TFormWalk::ApplyTo(TObject& Object, const TPropInfo& Prop, int Index)
 
 void TFormWalk::ApplyToLine(TStrings& Lines, int Line, int Index)
 {
+    if (FNoting) {
+        FNoted[static_cast<size_t>(Index)] = Lines.Get(Line);
+        return;
+    }
     if (FTranslator.OnTranslateProperty) {
         bool Skip = false;
         FTranslator.OnTranslateProperty(&FTranslator, FKey, nullptr, &FList, Skip);
@@ -279,5 +323,9 @@ std::string_view TFormWalk::Value(int Index) const
 
 void TFormWalk::Remember(std::string_view Former, bool AsLiteral, int Index)
 {
+    const bool IsNoted = FOrdered && FOrdered->Version() == FNotedVersion &&
+                         static_cast<size_t>(Index) < FNoted.size() && FNoted[static_cast<size_t>(Index)];
+    if (IsNoted)
+        Former = *FNoted[static_cast<size_t>(Index)];
     FTranslator.FPending.Add(FKey, Former, AsLiteral, Index, FList.Objects(Index));
 }

@@ -10,6 +10,7 @@
 // component is done.
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -19,6 +20,8 @@
 #include "Qft/Qft.h"
 #include "framework/rtl/Collection.h"
 #include "platform/winapi.h"
+
+class TForm;
 
 class TFormWalk {
 public:
@@ -33,6 +36,9 @@ public:
     bool IsOver() const { return FIsOver; }
 
     // The owner's properties, the window menu, the components it owns.
+    // Notes the values that the lines will replace before the first is replaced.
+    // Only when one change can show in another value that has a line as well.
+    void NoteFormerValues();
     void WalkOwner();
     void WalkSystemMenu();
     void WalkComponents();
@@ -88,6 +94,7 @@ private:
     bool FindAgain(int& Index) const;
     std::string_view Value(int Index) const;
     void Remember(std::string_view Former, bool AsLiteral, int Index);
+    bool ChangesMaySpread() const;
 
     std::span<const TPropInfo* const> PublishedHere() const;
     int PropertyHere(std::string_view Name);
@@ -113,6 +120,9 @@ private:
     TFormWalk* FOuter;
     TStrings* FOuterLookup;
     bool FIsOver = false;
+    bool FNoting = false;
+    std::vector<std::optional<std::string>> FNoted; // by line
+    uint64_t FNotedVersion = 0;
     bool FIsOrdered = false;
     uint64_t FVersion = 0;
     TLineIndex FIndex;

@@ -116,6 +116,8 @@ bool TFormTranslator::TranslateForm(TStrings* List, bool ReadMode)
 bool TFormTranslator::WalkForm(TStrings& List, bool ReadMode)
 {
     TFormWalk Walk(*this, List, ReadMode);
+    if (!ReadMode && !FRestoring)
+        Walk.NoteFormerValues();
     Walk.WalkOwner();
     if (!Walk.IsOver())
         Walk.WalkSystemMenu();
@@ -171,12 +173,14 @@ void TFormTranslator::RestoreForm()
     TSortList List;
     MoveDefaultsTo(List);
     FTranslated = false;
+    FRestoring = true;
     const TLife Life(*this);
     bool Restored = false;
     try {
         Restored = TranslateForm(&List, false);
     } catch (...) {
         if (!Life.IsOver()) {
+            FRestoring = false;
             FlushDefaults();
             FLookup = nullptr;
         }
@@ -184,6 +188,7 @@ void TFormTranslator::RestoreForm()
     }
     if (Life.IsOver())
         return;
+    FRestoring = false;
     if (!Restored)
         FlushDefaults();
     else

@@ -126,6 +126,7 @@ private:
 
     bool FTranslateEmpty = false;
     bool FTranslated = false;
+    bool FRestoring = false;
     std::unique_ptr<TSortList> FTranslations;
     std::unique_ptr<TSortList> FDefaults;
     // Defaults on their way into the list; Defaults() takes them in when asked.

@@ -65,6 +65,7 @@ public:
     // Calls OnExecute; true when there was a handler.
     virtual bool Execute();
     virtual bool Update();
+    bool ChangesOthers() const override { return true; }
     // For actions that act on a target, such as the control with the focus.
     virtual bool HandlesTarget(TObject*) { return false; }
     virtual void UpdateTarget(TObject*) {}

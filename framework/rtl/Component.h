@@ -81,6 +81,10 @@ public:
     bool IsSubComponent() const { return FIsSubComponent; }
     void SetSubComponent(bool Value) { FIsSubComponent = Value; }
 
+    // Whether a change of this component's texts changes other components: an
+    // action's controls show its caption.
+    virtual bool ChangesOthers() const { return false; }
+
     // Called around reading; for the readers of form files.
     virtual void SetLoading(bool Value);
     void SetStateFlag(TComponentStateFlag Flag, bool Value);
