@@ -125,6 +125,12 @@ void TWinControl::CreateParams(TCreateParams& Params)
         Params.Style |= WS_DISABLED;
     if (FTabStop)
         Params.Style |= WS_TABSTOP;
+    if (UseRightToLeftReading())
+        Params.ExStyle |= WS_EX_RTLREADING;
+    if (UseRightToLeftReading() && BiDiMode() != bdRightToLeftReadingOnly)
+        Params.ExStyle |= WS_EX_LEFTSCROLLBAR;
+    if (UseRightToLeftAlignment())
+        Params.ExStyle |= WS_EX_RIGHT;
     Params.X = Left();
     Params.Y = Top();
     Params.Width = Width();

@@ -64,9 +64,8 @@ WORD TileWindows(HWND Parent, UINT How, const RECT* Rect, UINT Count, const HWND
     const auto Total = static_cast<int>(Windows.size());
     if (Total == 0)
         return 0;
-    const bool Rows = (How & MDITILE_HORIZONTAL) != 0;
     int Columns = static_cast<int>(std::sqrt(Total));
-    if (Rows)
+    if (!(How & MDITILE_HORIZONTAL))
         Columns = Total / Columns;
     const int Width = (Space.right - Space.left) / Columns;
     int Index = 0;

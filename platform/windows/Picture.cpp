@@ -47,6 +47,24 @@ std::wstring Wide(const std::string& Text)
     return Result;
 }
 
+// Brings the window to the front with everything in it drawn, so that it can be
+// taken from the screen. (PrintWindow leaves out child windows under Wine.)
+void ShowWhole(HWND Window)
+{
+    const HWND Root = GetAncestor(Window, GA_ROOT);
+    SetWindowPos(Root, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    RedrawWindow(Root, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    GdiFlush();
+    // What is drawn reaches the screen while the program waits for messages.
+    const DWORD End = GetTickCount() + 150;
+    while (GetTickCount() < End) {
+        MsgWaitForMultipleObjects(0, nullptr, FALSE, 30, QS_PAINT);
+        MSG Message;
+        while (PeekMessageA(&Message, nullptr, WM_PAINT, WM_PAINT, PM_REMOVE))
+            DispatchMessageA(&Message);
+    }
+}
+
 } // namespace
 
 bool SaveWindowPicture(HWND Window, const std::string& FileName)
@@ -60,9 +78,8 @@ bool SaveWindowPicture(HWND Window, const std::string& FileName)
     const HDC Memory = CreateCompatibleDC(Screen);
     const HBITMAP Bitmap = CreateCompatibleBitmap(Screen, Width, Height);
     const HGDIOBJ Old = SelectObject(Memory, Bitmap);
-    UpdateWindow(Window);
-    const bool Drawn = PrintWindow(Window, Memory, 0) ||
-                       BitBlt(Memory, 0, 0, Width, Height, Screen, Rect.left, Rect.top, SRCCOPY);
+    ShowWhole(Window);
+    const bool Drawn = BitBlt(Memory, 0, 0, Width, Height, Screen, Rect.left, Rect.top, SRCCOPY);
     SelectObject(Memory, Old);
     bool Saved = false;
     if (const TGdiplus Gdi; Drawn && Gdi.Started()) {
