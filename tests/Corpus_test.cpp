@@ -43,12 +43,13 @@ TProperties PropertiesOf(const TFormTranslator& Translator)
     return Result;
 }
 
-// A text of the form; not a component's own name, which admits few texts.
+// A text of the form; not a component's own name, which admits few texts, nor a
+// single character.
 bool IsTranslatable(const std::string& Key, const std::string& Value)
 {
     const bool IsText = !Value.empty() && (Value[0] == '\'' || Value[0] == '#') && Value != "''";
-    const bool IsOwnName = Key == "Name" || (Key.ends_with(".Name") && !Key.ends_with("Font.Name"));
-    return IsText && !IsOwnName && Value.size() < 4000 && !Key.starts_with("SystemMenu");
+    const bool IsOwnName = Key == "Name" || (Key.ends_with(".Name") && !Key.ends_with(".Font.Name"));
+    return IsText && !IsOwnName && !Key.ends_with("PasswordChar") && Value.size() < 4000 && !Key.starts_with("SystemMenu");
 }
 
 std::string MadeUp(const std::string& Text)

@@ -125,7 +125,6 @@ TEST_F(TForms, ReadsItsFormFile)
         EXPECT_EQ(Form->Created, "Order/3");
         EXPECT_EQ(Form->ClientWidth(), 234);
         EXPECT_EQ(Form->ClientHeight(), 123);
-        EXPECT_FALSE(Form->HandleAllocated());
         Form->Show();
         Application->ProcessMessages();
         EXPECT_EQ(Form->Shown, 1);

@@ -279,6 +279,10 @@ private:
     void MouseButtonUp(const TMessage& Message, TMouseButton Button);
     void ContextMenu(TMessage& Message);
     void ConstrainSize(int& NewWidth, int& NewHeight);
+    enum TParentValue { pvFont, pvColor, pvShowHint, pvBiDiMode };
+    void LeaveParent(bool& Follows, TParentValue Which);
+    bool RejoinParent(bool& Follows, TParentValue Which);
+    bool IsParentValue(TParentValue Which) const;
     void TakeParentFont();
     void TakeParentColor();
     void TakeParentShowHint();
@@ -307,6 +311,7 @@ private:
     TBiDiMode FBiDiMode = bdLeftToRight;
     bool FEnabled = true;
     bool FParentBiDiMode = true;
+    TSet<TParentValue> FLeftParent; // what it followed until it got a value of its own
     std::unique_ptr<TFont> FFont;
     std::unique_ptr<TSizeConstraints> FConstraints;
     std::unique_ptr<TMargins> FMargins;

@@ -18,7 +18,7 @@ void TControl::SetColor(TColor Value)
     if (FColor == Value)
         return;
     FColor = Value;
-    FParentColor = false;
+    LeaveParent(FParentColor, pvColor);
     Perform(CM_COLORCHANGED);
 }
 
@@ -52,7 +52,7 @@ void TControl::SetShowHint(bool Value)
     if (FShowHint == Value)
         return;
     FShowHint = Value;
-    FParentShowHint = false;
+    LeaveParent(FParentShowHint, pvShowHint);
     Perform(CM_SHOWHINTCHANGED);
 }
 
@@ -61,12 +61,13 @@ void TControl::SetBiDiMode(TBiDiMode Value)
     if (FBiDiMode == Value)
         return;
     FBiDiMode = Value;
-    FParentBiDiMode = false;
+    LeaveParent(FParentBiDiMode, pvBiDiMode);
     Perform(CM_BIDIMODECHANGED);
 }
 
 void TControl::SetParentBiDiMode(bool Value)
 {
+    FLeftParent.Exclude(pvBiDiMode);
     if (FParentBiDiMode == Value)
         return;
     FParentBiDiMode = Value;
@@ -76,6 +77,7 @@ void TControl::SetParentBiDiMode(bool Value)
 
 void TControl::SetParentColor(bool Value)
 {
+    FLeftParent.Exclude(pvColor);
     if (FParentColor == Value)
         return;
     FParentColor = Value;
@@ -85,6 +87,7 @@ void TControl::SetParentColor(bool Value)
 
 void TControl::SetParentFont(bool Value)
 {
+    FLeftParent.Exclude(pvFont);
     if (FParentFont == Value)
         return;
     FParentFont = Value;
@@ -94,6 +97,7 @@ void TControl::SetParentFont(bool Value)
 
 void TControl::SetParentShowHint(bool Value)
 {
+    FLeftParent.Exclude(pvShowHint);
     if (FParentShowHint == Value)
         return;
     FParentShowHint = Value;
@@ -119,13 +123,51 @@ void TControl::SetCustomHint(TComponent* Value)
 
 void TControl::FontChanged(TObject*)
 {
-    FParentFont = false;
+    LeaveParent(FParentFont, pvFont);
     Perform(CM_FONTCHANGED);
+}
+
+// A control that got a value of its own follows its parent again once both have
+// the same: undoing a change undoes all of it.
+void TControl::LeaveParent(bool& Follows, TParentValue Which)
+{
+    const bool Followed = Follows;
+    Follows = false;
+    if (HasState(csReading))
+        return;
+    if (Followed)
+        FLeftParent.Include(Which);
+    if (FParent)
+        RejoinParent(Follows, Which);
+}
+
+bool TControl::RejoinParent(bool& Follows, TParentValue Which)
+{
+    if (Follows || !FLeftParent.Contains(Which) || !IsParentValue(Which))
+        return false;
+    FLeftParent.Exclude(Which);
+    Follows = true;
+    return true;
+}
+
+bool TControl::IsParentValue(TParentValue Which) const
+{
+    switch (Which) {
+    case pvFont:
+        return FFont->Data() == FParent->Font()->Data() && FFont->Color() == FParent->Font()->Color();
+    case pvColor:
+        return FColor == FParent->Color();
+    case pvShowHint:
+        return FShowHint == FParent->ShowHint();
+    case pvBiDiMode:
+        return FBiDiMode == FParent->BiDiMode();
+    }
+    return false;
 }
 
 void TControl::TakeParentFont()
 {
-    if (!FParentFont || !FParent)
+    if (!FParent || RejoinParent(FParentFont, pvFont) || !FParentFont)
         return;
     FFont->Assign(FParent->Font());
     FParentFont = true;
@@ -133,7 +175,7 @@ void TControl::TakeParentFont()
 
 void TControl::TakeParentColor()
 {
-    if (!FParentColor || !FParent)
+    if (!FParent || RejoinParent(FParentColor, pvColor) || !FParentColor)
         return;
     SetColor(FParent->Color());
     FParentColor = true;
@@ -141,7 +183,7 @@ void TControl::TakeParentColor()
 
 void TControl::TakeParentShowHint()
 {
-    if (!FParentShowHint || !FParent)
+    if (!FParent || RejoinParent(FParentShowHint, pvShowHint) || !FParentShowHint)
         return;
     SetShowHint(FParent->ShowHint());
     FParentShowHint = true;
@@ -149,7 +191,7 @@ void TControl::TakeParentShowHint()
 
 void TControl::TakeParentBiDiMode()
 {
-    if (!FParentBiDiMode || !FParent)
+    if (!FParent || RejoinParent(FParentBiDiMode, pvBiDiMode) || !FParentBiDiMode)
         return;
     SetBiDiMode(FParent->BiDiMode());
     FParentBiDiMode = true;

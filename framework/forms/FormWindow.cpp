@@ -7,6 +7,7 @@
 
 namespace {
 
+constexpr UINT NotInDialogs[] = {SC_TASKLIST, SC_RESTORE, SC_SIZE, SC_MINIMIZE, SC_MAXIMIZE};
 constexpr int ShowCommands[] = {SW_SHOWNORMAL, SW_SHOWMINNOACTIVE, SW_SHOWMAXIMIZED};
 
 // The window that becomes active when Hidden goes: the next visible, enabled one
@@ -116,7 +117,7 @@ void TCustomForm::CompleteWindow()
     // The system menu of a form that cannot be minimized offers only what works.
     if (FBorderStyle == bsDialog) {
         const HMENU Menu = GetSystemMenu(WindowHandle(), FALSE);
-        for (const UINT Command : {SC_TASKLIST, SC_RESTORE, SC_SIZE, SC_MINIMIZE, SC_MAXIMIZE})
+        for (const UINT Command : NotInDialogs)
             DeleteMenu(Menu, Command, MF_BYCOMMAND);
     }
     for (const auto& [Command, Text] : FSystemMenuTexts)
@@ -129,6 +130,9 @@ std::string TCustomForm::SystemMenuText(UINT Command)
     const auto Kept = FSystemMenuTexts.find(Command);
     if (!HandleAllocated() && Kept != FSystemMenuTexts.end())
         return Kept->second;
+    const bool IsMissing = std::find(std::begin(NotInDialogs), std::end(NotInDialogs), Command) != std::end(NotInDialogs);
+    if (FBorderStyle == bsDialog && IsMissing)
+        return {};
     // Only an MDI child in its frame has commands that other windows do not have.
     const TForm* const Frame = Application ? Application->MainForm() : nullptr;
     const bool NeedsWindow = FFormStyle == fsMDIChild && Frame && Frame->ClientHandle();

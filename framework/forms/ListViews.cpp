@@ -405,9 +405,10 @@ void TCustomListView::WindowWantsText(NMLVDISPINFOA& Info)
 
 void TCustomListView::Notify(const NMHDR& Header, TMessage& Message)
 {
+    // What follows the header depends on the code.
     const auto& Notice = reinterpret_cast<const NMLISTVIEW&>(Header);
     auto& Info = *reinterpret_cast<NMLVDISPINFOA*>(Message.LParam);
-    const bool Known = Info.item.iItem >= 0 && Info.item.iItem < FItems.Count();
+    const auto IsKnown = [&] { return Info.item.iItem >= 0 && Info.item.iItem < FItems.Count(); };
     switch (static_cast<int>(Header.code)) {
     case static_cast<int>(LVN_ITEMCHANGED):
         WindowItemChanged(Notice);
@@ -420,10 +421,10 @@ void TCustomListView::Notify(const NMHDR& Header, TMessage& Message)
         WindowWantsText(Info);
         break;
     case static_cast<int>(LVN_BEGINLABELEDITA):
-        Message.Result = Known && CanEdit(FItems.Item(Info.item.iItem)) ? 0 : 1;
+        Message.Result = IsKnown() && CanEdit(FItems.Item(Info.item.iItem)) ? 0 : 1;
         break;
     case static_cast<int>(LVN_ENDLABELEDITA):
-        if (Known && Info.item.pszText) {
+        if (IsKnown() && Info.item.pszText) {
             std::string Text = Info.item.pszText;
             Edited(FItems.Item(Info.item.iItem), Text);
         }
