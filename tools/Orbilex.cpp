@@ -12,6 +12,8 @@ int RunOrbilex(int ArgumentCount, const char* const* Arguments)
                      "Exit code: 0 fine, 1 findings, 2 wrong use or bad input."};
     Program.name("orbilex");
     Program.require_subcommand(1);
+    // A name that begins with "/" is a file on every platform.
+    Program.allow_windows_style_options(false);
     auto Outcome = TOutcome::Fine;
     AddListCommand(Program, Outcome);
     AddRoundtripCommand(Program, Outcome);

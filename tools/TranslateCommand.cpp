@@ -39,9 +39,11 @@ int Apply(const TTranslateOptions& Options, TFormSession& Session)
 TOutcome Restore(const std::string& FileName, TFormSession& Session)
 {
     int Changed = 0;
-    for (TFormTranslator* const Translator : Session.Translators()) {
-        Changed += Translator->Defaults().Count();
-        Translator->SetTranslate(false);
+    // Last one first: a frame is translated with its form and once more by itself.
+    const auto& Translators = Session.Translators();
+    for (auto Each = Translators.rbegin(); Each != Translators.rend(); ++Each) {
+        Changed += (*Each)->Defaults().Count();
+        (*Each)->SetTranslate(false);
     }
     const bool Same = WriteForm(Session.Save()) == ReadWholeFile(FileName);
     std::cerr << FileName << ": " << Changed << " properties translated, restoring gives "

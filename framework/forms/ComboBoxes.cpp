@@ -173,7 +173,10 @@ void TCustomComboBox::StoreText(const std::string& Value)
         TWinControl::StoreText(Value);
         return;
     }
-    SetItemIndex(FItems->IndexOf(Value));
+    // A text that is no item changes nothing, as in the window itself.
+    const int Index = FItems->IndexOf(Value);
+    if (Index >= 0 || Value.empty())
+        SetItemIndex(Index);
 }
 
 void TCustomComboBox::CreateParams(TCreateParams& Params)

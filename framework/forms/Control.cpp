@@ -185,8 +185,9 @@ void TControl::SetHint(const std::string& Value)
 // Naming a page turns the kind of help to the one that is named.
 void TControl::SetHelpKeyword(const std::string& Value)
 {
-    if (!IsLoading())
-        FHelpType = htKeyword;
+    // The first keyword decides the kind of help, a changed one does not.
+    if (!IsLoading() && Value.empty() != FHelpKeyword.empty())
+        FHelpType = Value.empty() ? htContext : htKeyword;
     FHelpKeyword = Value;
 }
 
@@ -364,6 +365,11 @@ void TControl::SetName(const std::string& Value)
 
 void TControl::Loaded()
 {
+    // While it was being read it could not yet know whether it follows its parent.
+    if (FParent)
+        for (const UINT Change : {CM_PARENTCOLORCHANGED, CM_PARENTFONTCHANGED, CM_PARENTSHOWHINTCHANGED,
+                                  CM_PARENTBIDIMODECHANGED})
+            Perform(Change);
     inherited::Loaded();
     if (Action())
         ActionChange(Action(), true);

@@ -137,8 +137,7 @@ void TControl::LeaveParent(bool& Follows, TParentValue Which)
         return;
     if (Followed)
         FLeftParent.Include(Which);
-    if (FParent)
-        RejoinParent(Follows, Which);
+    RejoinParent(Follows, Which);
 }
 
 bool TControl::RejoinParent(bool& Follows, TParentValue Which)
@@ -150,8 +149,11 @@ bool TControl::RejoinParent(bool& Follows, TParentValue Which)
     return true;
 }
 
+// Without a parent there is only the font that every control begins with.
 bool TControl::IsParentValue(TParentValue Which) const
 {
+    if (!FParent)
+        return Which == pvFont && FFont->Data() == TFont().Data() && FFont->Color() == clWindowText;
     switch (Which) {
     case pvFont:
         return FFont->Data() == FParent->Font()->Data() && FFont->Color() == FParent->Font()->Color();
