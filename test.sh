@@ -32,6 +32,6 @@ both | windows)
         scripts/run-wine cmd /c exit
         "$@"; status=$?
         timeout 30 wineserver -k
-        exit $status' _ bash -c "$(declare -f run); set -eu; run windows 2"
+        exit $status' _ bash -c "$(declare -f run); set -eu; run windows 1"
     ;;
 esac

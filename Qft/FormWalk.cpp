@@ -269,7 +269,8 @@ bool TFormWalk::ApplyTo(TObject& Object, const TPropInfo& Prop, int Index)
 {
     if (FNoting) {
         const bool IsLiteral = IsLiteralKind(Prop.Kind());
-        FNoted[static_cast<size_t>(Index)] = IsLiteral ? GetStrProp(Object, Prop) : GetPropertyText(Object, Prop);
+        FNoted[static_cast<size_t>(Index)] =
+            IsLiteral ? GetStrProp(Object, Prop) : GetPropertyText(Object, Prop);
         return true;
     }
     if (FTranslator.OnTranslateProperty) {

@@ -9,10 +9,10 @@ namespace {
 
 // The last names of property paths whose texts are shown, counted in real forms.
 constexpr std::string_view ShownNames[] = {
-    "BalloonHint", "Caption",    "Categories", "Category", "Cells",      "CommandLinkHint", "Description",
-    "DialogTitle", "DisplayLabel", "Filter",   "Header",   "Hint",       "Items",           "Lines",
-    "Memo",        "Pages",      "PickList",   "SimpleText", "Tabs",     "Text",            "TextHint",
-    "Title"};
+    "BalloonHint", "Caption",     "Categories",   "Category", "Cells",    "CommandLinkHint",
+    "Description", "DialogTitle", "DisplayLabel", "Filter",   "Header",   "Hint",
+    "Items",       "Lines",       "Memo",         "Pages",    "PickList", "SimpleText",
+    "Tabs",        "Text",        "TextHint",     "Title"};
 
 // The name behind the last ".", without an index.
 std::string_view LastName(std::string_view Key)
@@ -36,7 +36,7 @@ bool HasLetter(std::string_view Text)
     });
 }
 
-}  // namespace
+} // namespace
 
 bool IsVisibleText(std::string_view Key, std::string_view Value)
 {

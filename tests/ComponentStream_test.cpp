@@ -4,8 +4,8 @@
 
 #include "framework/rtl/Collection.h"
 #include "framework/rtl/DynamicProps.h"
-#include "framework/rtl/SysUtils.h"
 #include "framework/rtl/Strings.h"
+#include "framework/rtl/SysUtils.h"
 #include "framework/streaming/ComponentReader.h"
 #include "framework/streaming/ComponentWriter.h"
 #include "framework/streaming/FormFile.h"
@@ -16,8 +16,7 @@ namespace {
 OBX_ENUM(TMood, mdGood, mdBad)
 OBX_SET(TMoods, TMood)
 
-class TSlot : public TCollectionItem
-{
+class TSlot : public TCollectionItem {
     OBX_CLASS(TCollectionItem)
 public:
     using TCollectionItem::TCollectionItem;
@@ -32,11 +31,11 @@ const TMetaClass& TSlot::MetaClass()
     return Class;
 }
 
-class TThing : public TComponent
-{
+class TThing : public TComponent {
     OBX_CLASS(TComponent)
 public:
-    explicit TThing(TComponent* Owner) : TComponent(Owner), FSlots(this, TSlot::MetaClass(), CreateItem<TSlot>)
+    explicit TThing(TComponent* Owner)
+        : TComponent(Owner), FSlots(this, TSlot::MetaClass(), CreateItem<TSlot>)
     {
         ++Alive;
     }
@@ -161,8 +160,7 @@ TEST(ComponentWriter, GivesBackTheFile)
 // nor leaked.
 TEST(ComponentReader, ErrorsNameThePlaceAndLeaveNothing)
 {
-    const struct
-    {
+    const struct {
         const char* Name;
         const char* Body;
         const char* Message;
@@ -180,9 +178,9 @@ TEST(ComponentReader, ErrorsNameThePlaceAndLeaveNothing)
         SCOPED_TRACE(Case.Name);
         const std::string Children = "  object A: TThing\n  end\n";
         const bool IsChild = std::string(Case.Body).find("object") != std::string::npos;
-        const std::string Text = "object Root: TThing\n  Tag = 1\n" +
-                                 (IsChild ? Children + Case.Body : "  Tag = 2\n  Tag = 3\n" + (Case.Body + Children)) +
-                                 "end\n";
+        const std::string Text =
+            "object Root: TThing\n  Tag = 1\n" +
+            (IsChild ? Children + Case.Body : "  Tag = 2\n  Tag = 3\n" + (Case.Body + Children)) + "end\n";
         const TFormDocument Document = ReadForm(Text);
         RegisterClass(TThing::MetaClass());
         TThing Root(nullptr);
@@ -236,8 +234,11 @@ TEST(ComponentReader, UnknownClassesGetTheirPropertiesFromTheFile)
     std::string Kinds;
     for (const TPropInfo* const Prop : GetPropList(*Grid))
         Kinds += Prop->Name + ":" + std::to_string(Prop->Kind()) + " ";
-    EXPECT_EQ(Kinds, "Name:10 Tag:1 Items:7 Panels:7 Font:7 Visible:3 Align:3 Source:0 OnClick:0 Cells:7 Glyph:7 Big:13 ");
-    const auto* const Panels = dynamic_cast<TCollection*>(GetObjectProp(*Grid, *GetPropInfo(*Grid, "Panels")));
+    EXPECT_EQ(
+        Kinds,
+        "Name:10 Tag:1 Items:7 Panels:7 Font:7 Visible:3 Align:3 Source:0 OnClick:0 Cells:7 Glyph:7 Big:13 ");
+    const auto* const Panels =
+        dynamic_cast<TCollection*>(GetObjectProp(*Grid, *GetPropInfo(*Grid, "Panels")));
     ASSERT_NE(Panels, nullptr);
     EXPECT_EQ(GetStrProp(*Panels->Items(0), *GetPropInfo(*Panels->Items(0), "Text")), "p");
     const auto* const Cells = dynamic_cast<TStrings*>(GetObjectProp(*Grid, *GetPropInfo(*Grid, "Cells")));
@@ -307,4 +308,4 @@ TEST(LoadedForm, SavesNothingButTheChanges)
     EXPECT_NE(WriteForm(Form.Save()).find("'deep'"), std::string::npos);
 }
 
-}  // namespace
+} // namespace

@@ -12,8 +12,7 @@ namespace {
 OBX_ENUM(TFruit, frApple, frPear, frPlum)
 OBX_SET(TFruits, TFruit)
 
-class TBasket : public TComponent
-{
+class TBasket : public TComponent {
     OBX_CLASS(TComponent)
 public:
     explicit TBasket(TComponent* Owner) : TComponent(Owner) {}
@@ -229,8 +228,7 @@ TEST(EnumNames, UnknownOnesAreMinusOne)
 
 TEST(Strings, TextIsSplitAtEveryKindOfLineEnd)
 {
-    const struct
-    {
+    const struct {
         const char* Name;
         const char* Text;
         std::vector<std::string> Lines;
@@ -295,4 +293,4 @@ TEST(Collections, ItemsKnowTheirPlace)
     EXPECT_EQ(Collection.FindItemID(0), A);
 }
 
-}  // namespace
+} // namespace

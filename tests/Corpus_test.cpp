@@ -49,7 +49,8 @@ bool IsTranslatable(const std::string& Key, const std::string& Value)
 {
     const bool IsText = !Value.empty() && (Value[0] == '\'' || Value[0] == '#') && Value != "''";
     const bool IsOwnName = Key == "Name" || (Key.ends_with(".Name") && !Key.ends_with(".Font.Name"));
-    return IsText && !IsOwnName && !Key.ends_with("PasswordChar") && Value.size() < 4000 && !Key.starts_with("SystemMenu");
+    return IsText && !IsOwnName && !Key.ends_with("PasswordChar") && Value.size() < 4000 &&
+           !Key.starts_with("SystemMenu");
 }
 
 // The text of a list without an edit is one of its items.
@@ -84,8 +85,7 @@ bool FollowsAnother(const std::string& After, const TProperties& Translations)
     return false;
 }
 
-struct TFigures
-{
+struct TFigures {
     int Forms = 0;
     int Properties = 0;
     int Texts = 0;
@@ -153,10 +153,11 @@ TEST(RealForms, AreTranslatedAndRestoredExactly)
         }
     }
     const std::chrono::duration<double> Time = std::chrono::steady_clock::now() - Start;
-    std::cout << Figures.Forms << " forms, " << Figures.Properties << " properties, " << Figures.Texts << " texts, "
-              << Figures.Followers << " followers, " << Figures.Refused << " refused, " << Time.count() << " s\n";
+    std::cout << Figures.Forms << " forms, " << Figures.Properties << " properties, " << Figures.Texts
+              << " texts, " << Figures.Followers << " followers, " << Figures.Refused << " refused, "
+              << Time.count() << " s\n";
     EXPECT_GT(Figures.Forms, 0);
     EXPECT_LE(Figures.Refused, 1);
 }
 
-}  // namespace
+} // namespace

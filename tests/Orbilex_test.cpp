@@ -10,8 +10,7 @@
 
 namespace {
 
-struct TAnswer
-{
+struct TAnswer {
     int Code;
     std::string Output;
     std::string Errors;
@@ -30,13 +29,13 @@ TAnswer RunTool(std::vector<const char*> Arguments)
     return {Code, Output.str(), Errors.str()};
 }
 
-class Orbilex : public testing::Test
-{
+class Orbilex : public testing::Test {
 protected:
     Orbilex()
     {
         FFolder = (std::filesystem::temp_directory_path() /
-                   testing::UnitTest::GetInstance()->current_test_info()->name()).generic_string();
+                   testing::UnitTest::GetInstance()->current_test_info()->name())
+                      .generic_string();
         std::filesystem::remove_all(FFolder);
         std::filesystem::create_directories(FFolder);
     }
@@ -63,11 +62,13 @@ TEST_F(Orbilex, ListsPropertiesWithTheirSection)
     EXPECT_EQ(Answer.Code, 0) << Answer.Errors;
     for (const char* const Line :
          {"\nBookingForm.Caption='Bookings for today'\n", "\nBookingForm.LblRoute.Caption='&Route:'\n",
-          "\nBookingForm.CbxRoute.Items[1]='Turku – Mariehamn'\n", "\nBookingForm.Status.Panels[0].Text='Ready'\n",
-          "\nBookingForm.Status.Panels[0].Width=120\n", "\nBookingForm.Notes.Lines[0]='It''s two lines'\n",
-          "\nBookingForm.Gauge.Title.Caption='Seats taken'\n", "\nBookingForm.Gauge.Marks[0].Caption='Half'\n",
-          "\nBookingForm.Gauge.Percent=12.5\n", "\nBookingForm.MnuExit.Caption='E&xit'\n",
-          "\nBookingForm.Font.Color=clWindowText\n", "\nBookingForm.SystemMenuClose="})
+          "\nBookingForm.CbxRoute.Items[1]='Turku – Mariehamn'\n",
+          "\nBookingForm.Status.Panels[0].Text='Ready'\n", "\nBookingForm.Status.Panels[0].Width=120\n",
+          "\nBookingForm.Notes.Lines[0]='It''s two lines'\n",
+          "\nBookingForm.Gauge.Title.Caption='Seats taken'\n",
+          "\nBookingForm.Gauge.Marks[0].Caption='Half'\n", "\nBookingForm.Gauge.Percent=12.5\n",
+          "\nBookingForm.MnuExit.Caption='E&xit'\n", "\nBookingForm.Font.Color=clWindowText\n",
+          "\nBookingForm.SystemMenuClose="})
         EXPECT_TRUE(Has("\n" + Answer.Output, Line)) << Line;
     EXPECT_FALSE(Has(Answer.Output, "OnCreate"));
     EXPECT_FALSE(Has(Answer.Output, "Glyph"));
@@ -89,8 +90,8 @@ TEST_F(Orbilex, TranslatesAndRestores)
                                                 "BookingForm.Nowhere.Caption%1053='x'\r\n"
                                                 "Other.Caption%1053='y'\r\n");
     const std::string Out = FFolder + "/out.dfm";
-    const TAnswer Answer = RunTool({"translate", FBooking.c_str(), "--translations", Lines.c_str(), "--locale", "1053", "-o",
-                                Out.c_str(), "--restore"});
+    const TAnswer Answer = RunTool({"translate", FBooking.c_str(), "--translations", Lines.c_str(),
+                                    "--locale", "1053", "-o", Out.c_str(), "--restore"});
     EXPECT_EQ(Answer.Code, 0) << Answer.Errors;
     EXPECT_TRUE(Has(Answer.Errors, "3 properties translated, restoring gives the original bytes"));
     std::string Expected = ReadWholeFile(FBooking);
@@ -113,10 +114,12 @@ TEST_F(Orbilex, BadInputIsNamedAndTheNextFileFollows)
     EXPECT_TRUE(Has(Answer.Output, "booking.dfm: same bytes")) << Answer.Output;
 
     const std::string Bad = Write("bad.txt", "BookingForm.Caption%1O53='x'\r\n");
-    const TAnswer BadLocale = RunTool({"translate", FBooking.c_str(), "--translations", Bad.c_str(), "--locale", "1053"});
+    const TAnswer BadLocale =
+        RunTool({"translate", FBooking.c_str(), "--translations", Bad.c_str(), "--locale", "1053"});
     EXPECT_EQ(BadLocale.Code, 2);
     EXPECT_TRUE(Has(BadLocale.Errors, "bad.txt:1")) << BadLocale.Errors;
-    const TAnswer Missing = RunTool({"translate", FBooking.c_str(), "--translations", "/no/lang.txt", "--locale", "1"});
+    const TAnswer Missing =
+        RunTool({"translate", FBooking.c_str(), "--translations", "/no/lang.txt", "--locale", "1"});
     EXPECT_EQ(Missing.Code, 2);
     EXPECT_TRUE(Has(Missing.Errors, "/no/lang.txt"));
     EXPECT_EQ(Missing.Output, "");
@@ -138,7 +141,8 @@ TEST_F(Orbilex, ConvertsBetweenTheFormats)
     const std::string Binary = ReadWholeFile(FFolder + "/booking.dfm");
     EXPECT_EQ(Binary.substr(0, 3), std::string("\xFF\x0A\x00", 3));
     const std::string Back = FFolder + "/back";
-    const TAnswer Again = RunTool({"roundtrip", "--text", "-o", Back.c_str(), (FFolder + "/booking.dfm").c_str()});
+    const TAnswer Again =
+        RunTool({"roundtrip", "--text", "-o", Back.c_str(), (FFolder + "/booking.dfm").c_str()});
     EXPECT_EQ(Again.Code, 0) << Again.Output << Again.Errors;
     EXPECT_EQ(ReadWholeFile(Back + "/booking.dfm"), ReadWholeFile(FBooking));
 }
@@ -150,4 +154,4 @@ TEST_F(Orbilex, CodePagesAreNamedByTheCaller)
     EXPECT_TRUE(Has(Answer.Output, "Okno.Caption='Zażółć gęślą jaźń'\n")) << Answer.Output;
 }
 
-}  // namespace
+} // namespace

@@ -31,7 +31,7 @@ bool IsFormFile(const std::string& Name)
     return Extension == ".dfm" || Extension == ".lfm" || Extension == ".xfm" || Extension == ".fmx";
 }
 
-}  // namespace
+} // namespace
 
 void TFormInput::Declare(CLI::App& Command)
 {

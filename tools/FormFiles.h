@@ -8,10 +8,9 @@
 #include "tools/Commands.h"
 
 // What every command that reads forms asks for.
-struct TFormInput
-{
-    std::vector<std::string> Paths;  // form files, or folders of them
-    int CodePage = 1252;             // of 8-bit texts in them
+struct TFormInput {
+    std::vector<std::string> Paths; // form files, or folders of them
+    int CodePage = 1252;            // of 8-bit texts in them
 
     void Declare(CLI::App& Command);
 };

@@ -11,7 +11,8 @@ namespace {
 
 bool HasAny(const TFormObject& Source, std::initializer_list<const char*> Names)
 {
-    return std::any_of(Names.begin(), Names.end(), [&](const char* Name) { return Source.Find(Name) != nullptr; });
+    return std::any_of(Names.begin(), Names.end(),
+                       [&](const char* Name) { return Source.Find(Name) != nullptr; });
 }
 
 // What a root of an unknown class is, told by the properties that only one kind
@@ -20,8 +21,9 @@ std::unique_ptr<TComponent> MakeRoot(const TFormObject& Source)
 {
     if (const TMetaClass* const Class = GetClass(Source.ClassName()); Class && Class->CanCreate())
         return std::unique_ptr<TComponent>(static_cast<TComponent*>(Class->Create(nullptr)));
-    const bool Visual = HasAny(Source, {"Caption", "ClientHeight", "ClientWidth", "BorderStyle", "Color", "Font.Name",
-                                        "Font.Height", "TextHeight", "Position", "FormStyle", "Align", "TabOrder"});
+    const bool Visual =
+        HasAny(Source, {"Caption", "ClientHeight", "ClientWidth", "BorderStyle", "Color", "Font.Name",
+                        "Font.Height", "TextHeight", "Position", "FormStyle", "Align", "TabOrder"});
     if (!Visual && HasAny(Source, {"OldCreateOrder", "HorizontalOffset", "VerticalOffset"}))
         return std::make_unique<TDataModule>(nullptr);
     if (HasAny(Source, {"TabOrder", "DesignLeft"}) && !HasAny(Source, {"Caption", "BorderStyle", "Position"}))
@@ -44,7 +46,7 @@ TFormDocument ReadDocument(const std::string& FileName, int CodePage)
     return ReadFormFile(FileName, Options);
 }
 
-}  // namespace
+} // namespace
 
 TFormSession::TFormSession(const std::string& FileName, int CodePage)
     : FForm(ReadDocument(FileName, CodePage), TUnknownClasses::Accept, MakeHiddenRoot)

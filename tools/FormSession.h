@@ -8,8 +8,7 @@
 #include "Qft/Qft.h"
 #include "framework/streaming/LoadedForm.h"
 
-class TFormSession
-{
+class TFormSession {
 public:
     // Loads a form with stand-ins for the classes that are not known here. No
     // window is shown. Errors: EFormFileError, EFOpenError.

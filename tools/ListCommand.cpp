@@ -9,16 +9,14 @@
 
 namespace {
 
-struct TListOptions
-{
+struct TListOptions {
     TFormInput Input;
     bool Texts = false;
     bool Json = false;
     std::string Locale;
 };
 
-class TLister
-{
+class TLister {
 public:
     explicit TLister(const TListOptions& Options) : FOptions(Options) {}
 
@@ -68,15 +66,18 @@ private:
     nlohmann::json FFiles = nlohmann::json::array();
 };
 
-}  // namespace
+} // namespace
 
 void AddListCommand(CLI::App& Program, TOutcome& Outcome)
 {
-    CLI::App* const Command = Program.add_subcommand("list", "Lists the properties of forms as a form translator reads them");
+    CLI::App* const Command =
+        Program.add_subcommand("list", "Lists the properties of forms as a form translator reads them");
     const auto Options = std::make_shared<TListOptions>();
     Options->Input.Declare(*Command);
     Command->add_flag("--texts", Options->Texts, "Only the texts that a user sees");
-    Command->add_option("--locale", Options->Locale, "Write lines of a translations file for this locale identifier (decimal)")
+    Command
+        ->add_option("--locale", Options->Locale,
+                     "Write lines of a translations file for this locale identifier (decimal)")
         ->check(CLI::Number);
     Command->add_flag("--json", Options->Json, "Write JSON");
     Command->callback([Options, &Outcome] {

@@ -10,8 +10,7 @@
 
 namespace {
 
-struct TRoundtripOptions
-{
+struct TRoundtripOptions {
     TFormInput Input;
     bool Binary = false;
     bool Text = false;
@@ -25,7 +24,8 @@ size_t FirstDifference(const std::string& A, const std::string& B)
 }
 
 // What the form is in the format asked for, and once more in its own.
-TOutcome Report(const std::string& FileName, const std::string& Before, const std::string& After, const char* Road)
+TOutcome Report(const std::string& FileName, const std::string& Before, const std::string& After,
+                const char* Road)
 {
     std::cout << FileName << ": ";
     if (Before == After) {
@@ -57,7 +57,8 @@ TOutcome Roundtrip(const TRoundtripOptions& Options, const std::string& FileName
             Again.Text = Document.Text;
         else
             Again.Binary = Document.Binary;
-        Outcome = Report(FileName, Original, WriteForm(Again), Options.Binary ? "binary and back: " : "text and back: ");
+        Outcome = Report(FileName, Original, WriteForm(Again),
+                         Options.Binary ? "binary and back: " : "text and back: ");
     } else {
         Written = WriteForm(Document);
         Outcome = Report(FileName, Original, Written, "");
@@ -69,18 +70,22 @@ TOutcome Roundtrip(const TRoundtripOptions& Options, const std::string& FileName
     return Outcome;
 }
 
-}  // namespace
+} // namespace
 
 void AddRoundtripCommand(CLI::App& Program, TOutcome& Outcome)
 {
     CLI::App* const Command = Program.add_subcommand(
-        "roundtrip", "Loads forms, writes them back and says whether the bytes are the same (exit code 1: not)");
+        "roundtrip",
+        "Loads forms, writes them back and says whether the bytes are the same (exit code 1: not)");
     const auto Options = std::make_shared<TRoundtripOptions>();
     Options->Input.Declare(*Command);
-    CLI::Option* const Binary = Command->add_flag("--binary", Options->Binary, "Go through a binary form file");
+    CLI::Option* const Binary =
+        Command->add_flag("--binary", Options->Binary, "Go through a binary form file");
     Command->add_flag("--text", Options->Text, "Go through a text form file")->excludes(Binary);
-    Command->add_option("-o,--output", Options->Folder, "Write the forms into this folder, under their own names");
+    Command->add_option("-o,--output", Options->Folder,
+                        "Write the forms into this folder, under their own names");
     Command->callback([Options, &Outcome] {
-        Outcome = ForEachFormFile(Options->Input, [&](const std::string& File) { return Roundtrip(*Options, File); });
+        Outcome = ForEachFormFile(Options->Input,
+                                  [&](const std::string& File) { return Roundtrip(*Options, File); });
     });
 }

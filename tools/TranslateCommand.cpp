@@ -10,8 +10,7 @@
 
 namespace {
 
-struct TTranslateOptions
-{
+struct TTranslateOptions {
     TFormInput Input;
     std::string Translations;
     int Locale = 0;
@@ -57,7 +56,8 @@ TOutcome Translate(const TTranslateOptions& Options, const std::string& FileName
     auto Outcome = TOutcome::Fine;
     if (Apply(Options, Session) == 0) {
         std::cerr << Options.Translations << ": no lines for form "
-                  << TFormSession::SectionOf(*Session.Translators()[0]) << " and locale " << Options.Locale << "\n";
+                  << TFormSession::SectionOf(*Session.Translators()[0]) << " and locale " << Options.Locale
+                  << "\n";
         Outcome = TOutcome::Findings;
     }
     const std::string Translated = WriteForm(Session.Save());
@@ -68,22 +68,26 @@ TOutcome Translate(const TTranslateOptions& Options, const std::string& FileName
     return Options.Restore ? std::max(Outcome, Restore(FileName, Session)) : Outcome;
 }
 
-}  // namespace
+} // namespace
 
 void AddTranslateCommand(CLI::App& Program, TOutcome& Outcome)
 {
-    CLI::App* const Command = Program.add_subcommand(
-        "translate", "Applies a translations file to a form and writes the translated form (exit code 1: no lines for it)");
+    CLI::App* const Command =
+        Program.add_subcommand("translate", "Applies a translations file to a form and writes the translated "
+                                            "form (exit code 1: no lines for it)");
     const auto Options = std::make_shared<TTranslateOptions>();
     Options->Input.Declare(*Command);
     Command->add_option("--translations", Options->Translations, "The translations file")->required();
-    Command->add_option("--locale", Options->Locale, "Locale identifier of the lines to apply, decimal")->required();
+    Command->add_option("--locale", Options->Locale, "Locale identifier of the lines to apply, decimal")
+        ->required();
     Command->add_option("-o,--output", Options->Output, "Where to write; without it, to standard output");
-    Command->add_flag("--restore", Options->Restore, "Also restore, and compare with the original byte by byte");
+    Command->add_flag("--restore", Options->Restore,
+                      "Also restore, and compare with the original byte by byte");
     Command->callback([Options, &Outcome] {
         const size_t Count = FormFilesOf(Options->Input.Paths).size();
         if (Count > 1)
             throw CLI::ValidationError("FORM", "one form at a time");
-        Outcome = ForEachFormFile(Options->Input, [&](const std::string& File) { return Translate(*Options, File); });
+        Outcome = ForEachFormFile(Options->Input,
+                                  [&](const std::string& File) { return Translate(*Options, File); });
     });
 }

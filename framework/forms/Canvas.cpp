@@ -13,8 +13,7 @@ constexpr int RasterOperations[] = {R2_BLACK,       R2_WHITE,      R2_NOP,      
 
 // A text for the drawing functions of the W kind: those of the A kind read it in
 // the code page of the font, whatever the program's is.
-class TWideText
-{
+class TWideText {
 public:
     explicit TWideText(const std::string& Text) : FText(Utf8ToUtf16(Text)) {}
     LPCWSTR Data() const { return reinterpret_cast<LPCWSTR>(FText.c_str()); }

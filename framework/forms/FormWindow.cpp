@@ -121,7 +121,8 @@ void TCustomForm::CompleteWindow()
             DeleteMenu(Menu, Command, MF_BYCOMMAND);
     }
     for (const auto& [Command, Text] : FSystemMenuTexts)
-        ModifyMenuA(GetSystemMenu(WindowHandle(), FALSE), Command, MF_BYCOMMAND | MF_STRING, Command, Text.c_str());
+        ModifyMenuA(GetSystemMenu(WindowHandle(), FALSE), Command, MF_BYCOMMAND | MF_STRING, Command,
+                    Text.c_str());
     RefreshMenu();
 }
 
@@ -130,7 +131,8 @@ std::string TCustomForm::SystemMenuText(UINT Command)
     const auto Kept = FSystemMenuTexts.find(Command);
     if (!HandleAllocated() && Kept != FSystemMenuTexts.end())
         return Kept->second;
-    const bool IsMissing = std::find(std::begin(NotInDialogs), std::end(NotInDialogs), Command) != std::end(NotInDialogs);
+    const bool IsMissing =
+        std::find(std::begin(NotInDialogs), std::end(NotInDialogs), Command) != std::end(NotInDialogs);
     if (FBorderStyle == bsDialog && IsMissing)
         return {};
     // Only an MDI child in its frame has commands that other windows do not have.
@@ -147,7 +149,8 @@ void TCustomForm::SetSystemMenuText(UINT Command, const std::string& Text)
 {
     FSystemMenuTexts[Command] = Text;
     if (HandleAllocated())
-        ModifyMenuA(GetSystemMenu(WindowHandle(), FALSE), Command, MF_BYCOMMAND | MF_STRING, Command, Text.c_str());
+        ModifyMenuA(GetSystemMenu(WindowHandle(), FALSE), Command, MF_BYCOMMAND | MF_STRING, Command,
+                    Text.c_str());
 }
 
 void TCustomForm::CreateWnd()

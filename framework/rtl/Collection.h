@@ -11,8 +11,7 @@
 class TCollection;
 
 // Owned by its collection.
-class TCollectionItem : public TPersistent
-{
+class TCollectionItem : public TPersistent {
     OBX_CLASS(TPersistent)
 public:
     // Adds itself to Collection, which may be null.
@@ -40,8 +39,7 @@ private:
     int FID = -1;
 };
 
-class TCollection : public TPersistent
-{
+class TCollection : public TPersistent {
     OBX_CLASS(TPersistent)
 public:
     using TItemFactory = TCollectionItem* (*)(TCollection& Collection);
@@ -89,22 +87,19 @@ TCollectionItem* CreateItem(TCollection& Collection)
 
 // Items of a collection whose class the program does not have: their properties
 // come from the form file.
-class TGenericItem : public TCollectionItem
-{
+class TGenericItem : public TCollectionItem {
     OBX_CLASS(TCollectionItem)
 public:
     using TCollectionItem::TCollectionItem;
 };
 
-class TGenericCollection : public TCollection
-{
+class TGenericCollection : public TCollection {
     OBX_CLASS(TCollection)
 public:
     explicit TGenericCollection(TPersistent* Owner);
 };
 
 // A sub-object, such as EditLabel of an unknown class, likewise.
-class TGenericPersistent : public TPersistent
-{
+class TGenericPersistent : public TPersistent {
     OBX_CLASS(TPersistent)
 };

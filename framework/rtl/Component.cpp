@@ -9,11 +9,12 @@ namespace {
 
 bool IsNameCharacter(unsigned char Byte, bool First)
 {
-    const bool Letter = (Byte >= 'A' && Byte <= 'Z') || (Byte >= 'a' && Byte <= 'z') || Byte == '_' || Byte >= 0x80;
+    const bool Letter =
+        (Byte >= 'A' && Byte <= 'Z') || (Byte >= 'a' && Byte <= 'z') || Byte == '_' || Byte >= 0x80;
     return Letter || (!First && Byte >= '0' && Byte <= '9');
 }
 
-}  // namespace
+} // namespace
 
 bool IsValidIdent(std::string_view Ident)
 {
@@ -220,7 +221,8 @@ void TComponent::ForgetName(const TComponent& Component)
 
 const TMetaClass& TGenericComponent::MetaClass()
 {
-    static const TMetaClass Class("TGenericComponent", &TComponent::MetaClass(), CreateComponent<TGenericComponent>);
+    static const TMetaClass Class("TGenericComponent", &TComponent::MetaClass(),
+                                  CreateComponent<TGenericComponent>);
     return Class;
 }
 

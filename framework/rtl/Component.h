@@ -8,8 +8,8 @@
 
 #include "framework/rtl/Persistent.h"
 
-OBX_ENUM(TComponentStateFlag, csLoading, csReading, csWriting, csDestroying, csDesigning, csAncestor, csUpdating,
-         csFixups, csFreeNotification, csInline, csDesignInstance)
+OBX_ENUM(TComponentStateFlag, csLoading, csReading, csWriting, csDestroying, csDesigning, csAncestor,
+         csUpdating, csFixups, csFreeNotification, csInline, csDesignInstance)
 OBX_SET(TComponentState, TComponentStateFlag)
 
 OBX_ENUM(TOperation, opInsert, opRemove)
@@ -17,8 +17,7 @@ OBX_ENUM(TOperation, opInsert, opRemove)
 // Created with new and an owner, which deletes it; a component without an owner
 // belongs to whoever made it. Destroying a component destroys what it owns, last
 // one first, and tells the components that asked to be told.
-class TComponent : public TPersistent
-{
+class TComponent : public TPersistent {
     OBX_CLASS(TPersistent)
 public:
     explicit TComponent(TComponent* Owner);
@@ -97,7 +96,8 @@ public:
 
 protected:
     // Before Component of this owner takes NewName.
-    virtual void ValidateRename(TComponent* Component, const std::string& CurName, const std::string& NewName);
+    virtual void ValidateRename(TComponent* Component, const std::string& CurName,
+                                const std::string& NewName);
 
 private:
     void Insert(TComponent* Component);
@@ -108,7 +108,7 @@ private:
     std::string FName;
     int FTag = 0;
     std::vector<TComponent*> FComponents;
-    std::unordered_map<std::string, TComponent*> FByName;  // by upper-case name
+    std::unordered_map<std::string, TComponent*> FByName; // by upper-case name
     std::vector<TComponent*> FFreeNotifies;
     TComponentState FComponentState;
     bool FIsSubComponent = false;
@@ -117,8 +117,7 @@ private:
 bool IsValidIdent(std::string_view Ident);
 
 // The stand-in for a component whose class the program does not have.
-class TGenericComponent : public TComponent
-{
+class TGenericComponent : public TComponent {
     OBX_CLASS(TComponent)
 public:
     explicit TGenericComponent(TComponent* Owner) : TComponent(Owner) {}

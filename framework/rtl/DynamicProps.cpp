@@ -20,11 +20,15 @@ TPropAccess AccessFor(TTypeKind Kind)
     case tkInt64:
     case tkEnumeration:
     case tkSet:
-        Access.GetOrd = [](const TPropInfo& Prop, const TObject&) { return std::get<int64_t>(Self(Prop).Value); };
+        Access.GetOrd = [](const TPropInfo& Prop, const TObject&) {
+            return std::get<int64_t>(Self(Prop).Value);
+        };
         Access.SetOrd = [](const TPropInfo& Prop, TObject&, int64_t Value) { Self(Prop).Value = Value; };
         break;
     case tkFloat:
-        Access.GetFloat = [](const TPropInfo& Prop, const TObject&) { return std::get<double>(Self(Prop).Value); };
+        Access.GetFloat = [](const TPropInfo& Prop, const TObject&) {
+            return std::get<double>(Self(Prop).Value);
+        };
         Access.SetFloat = [](const TPropInfo& Prop, TObject&, double Value) { Self(Prop).Value = Value; };
         break;
     case tkClass:
@@ -35,13 +39,17 @@ TPropAccess AccessFor(TTypeKind Kind)
     case tkUnknown:
         break;
     default:
-        Access.GetStr = [](const TPropInfo& Prop, const TObject&) { return std::get<std::string>(Self(Prop).Value); };
-        Access.SetStr = [](const TPropInfo& Prop, TObject&, const std::string& Value) { Self(Prop).Value = Value; };
+        Access.GetStr = [](const TPropInfo& Prop, const TObject&) {
+            return std::get<std::string>(Self(Prop).Value);
+        };
+        Access.SetStr = [](const TPropInfo& Prop, TObject&, const std::string& Value) {
+            Self(Prop).Value = Value;
+        };
     }
     return Access;
 }
 
-}  // namespace
+} // namespace
 
 TDynamicProperties::TDynamicProperties(const TPersistent& Object) : FObject(Object)
 {
@@ -107,7 +115,8 @@ TDynamicProp& TDynamicProperties::AddSet(const std::string& Name, const std::vec
     TTypeInfo Type = TTypeInfo::Simple(tkSet, Name);
     Type.Names = Idents;
     TDynamicProp& Result = Add(Name, std::move(Type));
-    Result.Value = static_cast<int64_t>(Idents.size() >= 64 ? ~uint64_t{0} : (uint64_t{1} << Idents.size()) - 1);
+    Result.Value =
+        static_cast<int64_t>(Idents.size() >= 64 ? ~uint64_t{0} : (uint64_t{1} << Idents.size()) - 1);
     return Result;
 }
 
@@ -162,8 +171,9 @@ void TDynamicProperties::Rebuild()
     const auto Declared = (FClass ? *FClass : FObject.DeclaredClass()).Properties();
     FAll.assign(Declared.begin(), Declared.end());
     for (const auto& Prop : FOwn) {
-        const auto Same = std::find_if(FAll.begin(), FAll.end(),
-                                       [&](const TPropInfo* Other) { return SameText(Other->Name, Prop->Name); });
+        const auto Same = std::find_if(FAll.begin(), FAll.end(), [&](const TPropInfo* Other) {
+            return SameText(Other->Name, Prop->Name);
+        });
         if (Same != FAll.end())
             *Same = Prop.get();
         else

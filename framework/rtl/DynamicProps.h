@@ -15,15 +15,13 @@
 class TPersistent;
 
 // The value lives in the property; its type is made for it.
-struct TDynamicProp : TPropInfo
-{
+struct TDynamicProp : TPropInfo {
     TTypeInfo OwnType;
     // Ordinals, floats, texts, and owned objects.
     mutable std::variant<int64_t, double, std::string, std::unique_ptr<TPersistent>> Value;
 };
 
-class TDynamicProperties
-{
+class TDynamicProperties {
 public:
     explicit TDynamicProperties(const TPersistent& Object);
     ~TDynamicProperties();

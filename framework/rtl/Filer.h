@@ -13,8 +13,7 @@ class TReader;
 class TStream;
 class TWriter;
 
-class TFiler : public TObject
-{
+class TFiler : public TObject {
 public:
     // Declares a property that is not published. A reader calls Read when the
     // file has the property; a writer calls Write when HasData is true.
@@ -27,8 +26,7 @@ public:
 
 // Takes the values of a property one after the other. A value of another kind
 // than the one asked for raises EReadError "Invalid property value".
-class TReader : public TFiler
-{
+class TReader : public TFiler {
 public:
     virtual bool ReadBoolean() = 0;
     virtual int64_t ReadInteger() = 0;
@@ -44,8 +42,7 @@ public:
     virtual TComponent* Root() const = 0;
 };
 
-class TWriter : public TFiler
-{
+class TWriter : public TFiler {
 public:
     virtual void WriteBoolean(bool Value) = 0;
     virtual void WriteInteger(int64_t Value) = 0;

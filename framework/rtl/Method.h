@@ -17,8 +17,7 @@ TMethodCode EraseMethod(void (TClass::*Code)(TArgs...))
     return reinterpret_cast<TMethodCode>(static_cast<void (TObject::*)(TArgs...)>(Code));
 }
 
-struct TMethod
-{
+struct TMethod {
     TObject* Data = nullptr;
     TMethodCode Code = nullptr;
     friend bool operator==(const TMethod&, const TMethod&) = default;
@@ -28,8 +27,7 @@ struct TMethod
 //     struct TNotifyEventName { static constexpr const char* Name = "TNotifyEvent"; };
 //     using TNotifyEvent = TEvent<TNotifyEventName, TObject*>;
 template<class TTag, class... TArgs>
-class TEvent
-{
+class TEvent {
 public:
     TEvent() = default;
     explicit TEvent(const TMethod& Method) : FMethod(Method) {}
@@ -44,7 +42,8 @@ public:
     void operator()(TArgs... Args) const
     {
         const TMethod Method = FMethod;
-        (Method.Data->*reinterpret_cast<void (TObject::*)(TArgs...)>(Method.Code))(std::forward<TArgs>(Args)...);
+        (Method.Data->*reinterpret_cast<void (TObject::*)(TArgs...)>(Method.Code))(
+            std::forward<TArgs>(Args)...);
     }
     void Clear() { FMethod = {}; }
     const TMethod& Method() const { return FMethod; }
@@ -57,8 +56,7 @@ private:
 
 // Declares the event type Type with the given parameters.
 #define OBX_EVENT(Type, ...)                                                                                 \
-    struct Type##Name                                                                                        \
-    {                                                                                                        \
+    struct Type##Name {                                                                                      \
         static constexpr const char* Name = #Type;                                                           \
     };                                                                                                       \
     using Type = TEvent<Type##Name, __VA_ARGS__>;

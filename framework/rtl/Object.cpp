@@ -11,8 +11,7 @@
 
 namespace {
 
-struct TNameLess
-{
+struct TNameLess {
     using is_transparent = void;
     bool operator()(std::string_view A, std::string_view B) const { return CompareText(A, B) < 0; }
 };
@@ -23,7 +22,7 @@ std::map<std::string, const TMetaClass*, TNameLess>& Registry()
     return Classes;
 }
 
-}  // namespace
+} // namespace
 
 const TMetaClass& TObject::MetaClass()
 {
@@ -46,14 +45,16 @@ TMetaClass::TMetaClass(std::string Name, const TMetaClass* Parent, TFactory Fact
 {
 }
 
-TMetaClass::TMetaClass(std::string Name, const TMetaClass* Parent, TFactory Factory, std::vector<TPropInfo> Published)
+TMetaClass::TMetaClass(std::string Name, const TMetaClass* Parent, TFactory Factory,
+                       std::vector<TPropInfo> Published)
     : TMetaClass(std::move(Name), Parent, Factory, std::move(Published), {})
 {
 }
 
-TMetaClass::TMetaClass(std::string Name, const TMetaClass* Parent, TFactory Factory, std::vector<TPropInfo> Published,
-                       std::vector<TPublishedMethod> Methods)
-    : FName(std::move(Name)), FParent(Parent), FFactory(Factory), FOwn(std::move(Published)), FMethods(std::move(Methods))
+TMetaClass::TMetaClass(std::string Name, const TMetaClass* Parent, TFactory Factory,
+                       std::vector<TPropInfo> Published, std::vector<TPublishedMethod> Methods)
+    : FName(std::move(Name)), FParent(Parent), FFactory(Factory), FOwn(std::move(Published)),
+      FMethods(std::move(Methods))
 {
     if (FParent) {
         FProperties = FParent->FProperties;

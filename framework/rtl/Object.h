@@ -15,8 +15,7 @@ class TMetaClass;
 struct TPropInfo;
 struct TPublishedMethod;
 
-class TObject
-{
+class TObject {
 public:
     TObject() = default;
     TObject(const TObject&) = delete;
@@ -50,15 +49,15 @@ private:
 
 // A class reference. There is one for each class, so that references are
 // compared by address; they live as long as the program.
-class TMetaClass
-{
+class TMetaClass {
 public:
     // Makes an instance for a form file; Owner may be null. Null for classes
     // that no file can create.
     using TFactory = TObject* (*)(TComponent* Owner);
 
     TMetaClass(std::string Name, const TMetaClass* Parent, TFactory Factory);
-    TMetaClass(std::string Name, const TMetaClass* Parent, TFactory Factory, std::vector<TPropInfo> Published);
+    TMetaClass(std::string Name, const TMetaClass* Parent, TFactory Factory,
+               std::vector<TPropInfo> Published);
     TMetaClass(std::string Name, const TMetaClass* Parent, TFactory Factory, std::vector<TPropInfo> Published,
                std::vector<TPublishedMethod> Methods);
     ~TMetaClass();

@@ -21,7 +21,8 @@ const TMetaClass& TPersistent::ClassType() const
 
 void TPersistent::Assign(const TPersistent* Source)
 {
-    throw EConvertError(Format(SAssignError, {Source ? Source->ClassName() : std::string("nil"), ClassName()}));
+    throw EConvertError(
+        Format(SAssignError, {Source ? Source->ClassName() : std::string("nil"), ClassName()}));
 }
 
 void TPersistent::DefineProperties(TFiler&) {}

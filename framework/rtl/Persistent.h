@@ -9,8 +9,7 @@
 class TDynamicProperties;
 class TFiler;
 
-class TPersistent : public TObject
-{
+class TPersistent : public TObject {
     OBX_CLASS(TObject)
 public:
     TPersistent();

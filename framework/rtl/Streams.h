@@ -10,8 +10,7 @@
 enum TSeekOrigin { soBeginning, soCurrent, soEnd };
 
 // Positions and sizes are in bytes from 0.
-class TStream : public TObject
-{
+class TStream : public TObject {
     OBX_CLASS(TObject)
 public:
     // Up to Count bytes; returns how many there were.
@@ -35,8 +34,7 @@ public:
     int64_t CopyFrom(TStream& Source, int64_t Count);
 };
 
-class TMemoryStream : public TStream
-{
+class TMemoryStream : public TStream {
     OBX_CLASS(TStream)
 public:
     TMemoryStream() = default;

@@ -23,7 +23,7 @@ void ForEachLine(std::string_view Text, TVisitor Visit)
     }
 }
 
-}  // namespace
+} // namespace
 
 const TMetaClass& TStrings::MetaClass()
 {
@@ -199,8 +199,8 @@ void TStrings::EndUpdate()
 void TStrings::DefineProperties(TFiler& Filer)
 {
     Filer.DefineProperty(
-        "Strings", [this](TReader& Reader) { ReadData(Reader); }, [this](TWriter& Writer) { WriteData(Writer); },
-        Count() > 0);
+        "Strings", [this](TReader& Reader) { ReadData(Reader); },
+        [this](TWriter& Writer) { WriteData(Writer); }, Count() > 0);
 }
 
 void TStrings::ReadData(TReader& Reader)
@@ -319,9 +319,10 @@ void TStringList::SetSorted(bool Value)
 
 bool TStringList::Find(std::string_view S, int& Index) const
 {
-    const auto Place = std::lower_bound(FItems.begin(), FItems.end(), S, [](const TItem& Item, std::string_view Text) {
-        return AnsiCompareText(Item.Text, Text) < 0;
-    });
+    const auto Place =
+        std::lower_bound(FItems.begin(), FItems.end(), S, [](const TItem& Item, std::string_view Text) {
+            return AnsiCompareText(Item.Text, Text) < 0;
+        });
     Index = static_cast<int>(Place - FItems.begin());
     return Place != FItems.end() && AnsiSameText(Place->Text, S);
 }

@@ -12,8 +12,7 @@ class TWriter;
 
 // Lines are counted from 0; an index outside the list raises EStringListError
 // "List index out of bounds (N)". Attached objects are not owned.
-class TStrings : public TPersistent
-{
+class TStrings : public TPersistent {
     OBX_CLASS(TPersistent)
 public:
     virtual int Count() const = 0;
@@ -77,8 +76,7 @@ private:
 
 enum TDuplicates { dupIgnore, dupAccept, dupError };
 
-class TStringList : public TStrings
-{
+class TStringList : public TStrings {
     OBX_CLASS(TStrings)
 public:
     TStringList() = default;
@@ -112,8 +110,7 @@ public:
     TNotifyEvent OnChange;
 
 protected:
-    struct TItem
-    {
+    struct TItem {
         std::string Text;
         TObject* Object = nullptr;
     };

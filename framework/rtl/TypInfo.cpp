@@ -33,7 +33,7 @@ T Need(T Accessor)
     return Accessor;
 }
 
-}  // namespace
+} // namespace
 
 TTypeInfo TTypeInfo::Enumeration(std::string Name, std::string_view Names)
 {

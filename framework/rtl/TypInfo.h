@@ -40,16 +40,14 @@ enum TTypeKind {
 };
 
 // Names for values of an integer type, such as clRed or crHourGlass.
-struct TIntegerIdents
-{
+struct TIntegerIdents {
     bool (*IdentToInt)(std::string_view Ident, int& Value);
     bool (*IntToIdent)(int Value, std::string& Ident);
 };
 
 // One published type. Instances live as long as the program, or, for types
 // made up while reading a form, as long as the property that has them.
-struct TTypeInfo
-{
+struct TTypeInfo {
     TTypeKind Kind = tkUnknown;
     std::string Name;
 
@@ -70,13 +68,13 @@ struct TTypeInfo
     // Names: the enumerators separated by commas.
     static TTypeInfo Enumeration(std::string Name, std::string_view Names);
     static TTypeInfo Set(std::string Name, const TTypeInfo& Element);
-    static TTypeInfo Integer(std::string Name, int64_t Min, int64_t Max, const TIntegerIdents* Idents = nullptr);
+    static TTypeInfo Integer(std::string Name, int64_t Min, int64_t Max,
+                             const TIntegerIdents* Idents = nullptr);
     static TTypeInfo Simple(TTypeKind Kind, std::string Name);
 };
 
 template<class T>
-struct TTypeTag
-{
+struct TTypeTag {
 };
 
 // Declares an enumeration together with its published type.
@@ -90,8 +88,7 @@ struct TTypeTag
 
 // A set of enumerators with ordinals 0 to 63.
 template<class TElement>
-class TSet
-{
+class TSet {
 public:
     constexpr TSet() = default;
     constexpr TSet(std::initializer_list<TElement> Elements)
@@ -149,16 +146,14 @@ const TTypeInfo& TypeInfoFor(TTypeTag<std::string>);
 const TTypeInfo& TypeInfoFor(TTypeTag<std::u16string>);
 
 // A text of at most 255 bytes.
-struct TShortString
-{
+struct TShortString {
     std::string Text;
     friend bool operator==(const TShortString&, const TShortString&) = default;
 };
 const TTypeInfo& TypeInfoFor(TTypeTag<TShortString>);
 
 // How one property is read and written; the members for its kind are set.
-struct TPropAccess
-{
+struct TPropAccess {
     int64_t (*GetOrd)(const TPropInfo&, const TObject&) = nullptr;
     void (*SetOrd)(const TPropInfo&, TObject&, int64_t) = nullptr;
     double (*GetFloat)(const TPropInfo&, const TObject&) = nullptr;
@@ -172,16 +167,15 @@ struct TPropAccess
 };
 
 // One published property.
-struct TPropInfo
-{
+struct TPropInfo {
     std::string Name;
     const TTypeInfo* PropType = nullptr;
     TPropAccess Access;
     bool HasDefault = false;
-    int64_t DefaultValue = 0;  // ordinal kinds; a value equal to it is not written
+    int64_t DefaultValue = 0; // ordinal kinds; a value equal to it is not written
     bool StoredAlways = true;
     bool (*StoredIf)(const TObject&) = nullptr;
-    bool IsDynamic = false;    // made from a form file (DynamicProps.h)
+    bool IsDynamic = false; // made from a form file (DynamicProps.h)
 
     TTypeKind Kind() const { return PropType->Kind; }
     bool CanWrite() const;
@@ -225,8 +219,7 @@ template<auto Reader, auto Writer = nullptr>
 TPropInfo Prop(const char* Name);
 
 // A published method, named by form files as an event's handler.
-struct TPublishedMethod
-{
+struct TPublishedMethod {
     std::string Name;
     TMethodCode Code = nullptr;
 };

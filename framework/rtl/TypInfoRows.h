@@ -11,19 +11,16 @@ namespace TypInfoRows {
 template<class T>
 struct TMember;
 template<class C, class R>
-struct TMember<R (C::*)() const>
-{
+struct TMember<R (C::*)() const> {
     using Class = C;
     using Value = std::remove_cvref_t<R>;
     static constexpr bool IsField = false;
 };
 template<class C, class R>
-struct TMember<R (C::*)() const noexcept> : TMember<R (C::*)() const>
-{
+struct TMember<R (C::*)() const noexcept> : TMember<R (C::*)() const> {
 };
 template<class C, class F>
-struct TMember<F C::*>
-{
+struct TMember<F C::*> {
     using Class = C;
     using Value = F;
     static constexpr bool IsField = true;
@@ -50,8 +47,11 @@ void Write(TObject& Object, TValue&& Value)
 }
 
 template<class T>
-concept TEventType = requires(T Event) {
-    { Event.Method() } -> std::same_as<const TMethod&>;
+concept TEventType = requires(T Event)
+{
+    {
+        Event.Method()
+        } -> std::same_as<const TMethod&>;
 };
 
 template<class T>
@@ -81,7 +81,9 @@ void AddAccess(TPropAccess& Access, bool CanWrite)
 {
     if constexpr (std::is_pointer_v<V>) {
         using T = std::remove_pointer_t<V>;
-        Access.GetObj = [](const TPropInfo&, const TObject& Object) -> TObject* { return Read<Reader>(Object); };
+        Access.GetObj = [](const TPropInfo&, const TObject& Object) -> TObject* {
+            return Read<Reader>(Object);
+        };
         if (CanWrite)
             Access.SetObj = [](const TPropInfo&, TObject& Object, TObject* Value) {
                 auto* const Typed = dynamic_cast<T*>(Value);
@@ -90,19 +92,25 @@ void AddAccess(TPropAccess& Access, bool CanWrite)
                 Write<Reader, Writer>(Object, Typed);
             };
     } else if constexpr (TEventType<V>) {
-        Access.GetMethod = [](const TPropInfo&, const TObject& Object) { return Read<Reader>(Object).Method(); };
+        Access.GetMethod = [](const TPropInfo&, const TObject& Object) {
+            return Read<Reader>(Object).Method();
+        };
         if (CanWrite)
             Access.SetMethod = [](const TPropInfo&, TObject& Object, const TMethod& Value) {
                 Write<Reader, Writer>(Object, V(Value));
             };
     } else if constexpr (std::is_same_v<V, std::string>) {
-        Access.GetStr = [](const TPropInfo&, const TObject& Object) { return std::string(Read<Reader>(Object)); };
+        Access.GetStr = [](const TPropInfo&, const TObject& Object) {
+            return std::string(Read<Reader>(Object));
+        };
         if (CanWrite)
             Access.SetStr = [](const TPropInfo&, TObject& Object, const std::string& Value) {
                 Write<Reader, Writer>(Object, Value);
             };
     } else if constexpr (std::is_same_v<V, std::u16string>) {
-        Access.GetStr = [](const TPropInfo&, const TObject& Object) { return Utf16ToUtf8(Read<Reader>(Object)); };
+        Access.GetStr = [](const TPropInfo&, const TObject& Object) {
+            return Utf16ToUtf8(Read<Reader>(Object));
+        };
         if (CanWrite)
             Access.SetStr = [](const TPropInfo&, TObject& Object, const std::string& Value) {
                 Write<Reader, Writer>(Object, Utf8ToUtf16(Value));
@@ -118,7 +126,9 @@ void AddAccess(TPropAccess& Access, bool CanWrite)
         Access.GetStr = [](const TPropInfo&, const TObject& Object) {
             return Utf16ToUtf8(std::u16string(1, Read<Reader>(Object)));
         };
-        Access.GetOrd = [](const TPropInfo&, const TObject& Object) -> int64_t { return Read<Reader>(Object); };
+        Access.GetOrd = [](const TPropInfo&, const TObject& Object) -> int64_t {
+            return Read<Reader>(Object);
+        };
         if (CanWrite) {
             Access.SetStr = [](const TPropInfo&, TObject& Object, const std::string& Value) {
                 const std::u16string Wide = Utf8ToUtf16(Value);
@@ -129,7 +139,9 @@ void AddAccess(TPropAccess& Access, bool CanWrite)
             };
         }
     } else if constexpr (std::is_floating_point_v<V>) {
-        Access.GetFloat = [](const TPropInfo&, const TObject& Object) -> double { return Read<Reader>(Object); };
+        Access.GetFloat = [](const TPropInfo&, const TObject& Object) -> double {
+            return Read<Reader>(Object);
+        };
         if (CanWrite)
             Access.SetFloat = [](const TPropInfo&, TObject& Object, double Value) {
                 Write<Reader, Writer>(Object, static_cast<V>(Value));
@@ -156,7 +168,7 @@ void AddAccess(TPropAccess& Access, bool CanWrite)
     }
 }
 
-}  // namespace TypInfoRows
+} // namespace TypInfoRows
 
 template<auto Reader, auto Writer>
 TPropInfo Prop(const char* Name)
@@ -172,7 +184,8 @@ TPropInfo Prop(const char* Name)
         Result.PropType = &EventTypeInfo<V>();
     else
         Result.PropType = &TypeInfoFor(TTypeTag<V>{});
-    AddAccess<Reader, Writer, V>(Result.Access, TReader::IsField || !std::is_same_v<decltype(Writer), std::nullptr_t>);
+    AddAccess<Reader, Writer, V>(Result.Access,
+                                 TReader::IsField || !std::is_same_v<decltype(Writer), std::nullptr_t>);
     return Result;
 }
 

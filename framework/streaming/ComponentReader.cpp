@@ -66,7 +66,7 @@ int64_t CharacterOf(const TFormValue& Value)
     RaiseInvalidValue();
 }
 
-}  // namespace
+} // namespace
 
 TComponentReader::TComponentReader(const TFormDocument& Document, TUnknownClasses UnknownClasses)
     : FDocument(Document), FUnknownClasses(UnknownClasses)
@@ -131,8 +131,7 @@ TComponent* TComponentReader::MakeChild(const TFormObject& Source, TComponent& P
         Generic->SetOwnsChildren(Source.Kind() == TFormObjectKind::Inline);
         Child = Generic;
     } else {
-        throw EClassNotFound(
-            FDocument.ErrorAt(Source, Format(SClassNotFound, {Source.ClassName()})).what());
+        throw EClassNotFound(FDocument.ErrorAt(Source, Format(SClassNotFound, {Source.ClassName()})).what());
     }
     FMade.push_back(Child);
     Child->SetLoading(true);
@@ -196,7 +195,8 @@ bool TComponentReader::ReadKnown(TPersistent& Instance, std::string_view Path, c
     }
     if (!Prop)
         return ReadDefined(Instance, Path, Source.Value);
-    auto* const Held = Prop->Kind() == tkClass ? dynamic_cast<TPersistent*>(GetObjectProp(Instance, *Prop)) : nullptr;
+    auto* const Held =
+        Prop->Kind() == tkClass ? dynamic_cast<TPersistent*>(GetObjectProp(Instance, *Prop)) : nullptr;
     return Held && ReadKnown(*Held, Path.substr(Dot + 1), Source);
 }
 
@@ -354,7 +354,8 @@ void TComponentReader::DefineProperty(const std::string& Name, const std::functi
     Read(*this);
 }
 
-void TComponentReader::DefineBinaryProperty(const std::string& Name, const std::function<void(TStream&)>& Read,
+void TComponentReader::DefineBinaryProperty(const std::string& Name,
+                                            const std::function<void(TStream&)>& Read,
                                             const std::function<void(TStream&)>&, bool)
 {
     if (FTaken || !FWantedValue || !SameText(Name, FWanted))

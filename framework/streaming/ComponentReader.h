@@ -11,24 +11,22 @@
 #include "framework/streaming/FormDocument.h"
 
 enum class TUnknownClasses {
-    Refuse,  // a class, property or value that the program does not know is an error
-    Accept   // stand-ins are made from the file, so that every form can be loaded
+    Refuse, // a class, property or value that the program does not know is an error
+    Accept  // stand-ins are made from the file, so that every form can be loaded
 };
 
 // A property that names a component is set when all components are there.
-struct TComponentReference
-{
+struct TComponentReference {
     TPersistent* Instance;
     const TPropInfo* Prop;
     const TFormProperty* Source;
-    TComponent* Lookup;  // where the name is looked up first
+    TComponent* Lookup; // where the name is looked up first
 };
 
 // Reads one form. Errors are EFormFileError with the place in the file, or
 // EClassNotFound for an unknown class; after an error the components made so far
 // are gone. The document must outlive the reader.
-class TComponentReader : public TReader
-{
+class TComponentReader : public TReader {
 public:
     TComponentReader(const TFormDocument& Document, TUnknownClasses UnknownClasses);
 
@@ -56,8 +54,7 @@ public:
     TComponent* Root() const override { return FRoot; }
 
 private:
-    struct TLevel
-    {
+    struct TLevel {
         std::span<const TFormValue> Values;
         size_t Next = 0;
     };
@@ -87,7 +84,7 @@ private:
     std::vector<TComponent*> FMade;
     std::vector<TComponentReference> FReferences;
     std::vector<TLevel> FLevels;
-    std::string_view FWanted;  // the property that DefineProperties is asked for
+    std::string_view FWanted; // the property that DefineProperties is asked for
     bool FTaken = false;
     const TFormValue* FWantedValue = nullptr;
 };

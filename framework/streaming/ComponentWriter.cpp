@@ -33,9 +33,12 @@ const TPersistent* SubObject(const TObject* Held)
     return Component && !Component->IsSubComponent() ? nullptr : dynamic_cast<const TPersistent*>(Held);
 }
 
-}  // namespace
+} // namespace
 
-TComponentWriter::TComponentWriter(TComponent& Root, TWrittenProperties Written) : FRoot(Root), FWritten(Written) {}
+TComponentWriter::TComponentWriter(TComponent& Root, TWrittenProperties Written)
+    : FRoot(Root), FWritten(Written)
+{
+}
 
 TFormObject TComponentWriter::WriteRoot()
 {
@@ -46,7 +49,8 @@ TFormObject TComponentWriter::WriteRoot()
 
 TFormObject TComponentWriter::WriteComponent(const TComponent& Component)
 {
-    const TFormObjectKind Kind = Component.HasState(csInline) ? TFormObjectKind::Inline : TFormObjectKind::Object;
+    const TFormObjectKind Kind =
+        Component.HasState(csInline) ? TFormObjectKind::Inline : TFormObjectKind::Object;
     TFormObject Result(Kind, Component.Name(), Component.ClassName());
     WriteProperties(Component, "", Result);
     return Result;
@@ -68,7 +72,8 @@ void TComponentWriter::WriteChildren(TComponent& Parent, TFormObject& Target)
             Write(Parent.Components(I));
 }
 
-void TComponentWriter::WriteProperties(const TPersistent& Instance, const std::string& Prefix, TFormProperties& Target)
+void TComponentWriter::WriteProperties(const TPersistent& Instance, const std::string& Prefix,
+                                       TFormProperties& Target)
 {
     for (const TPropInfo* const Prop : GetPropList(Instance))
         if (IsStoredProp(Instance, *Prop))
@@ -83,8 +88,8 @@ void TComponentWriter::WriteProperties(const TPersistent& Instance, const std::s
     FPrefix = OldPrefix;
 }
 
-void TComponentWriter::WriteProperty(const TPersistent& Instance, const TPropInfo& Prop, const std::string& Name,
-                                     TFormProperties& Target)
+void TComponentWriter::WriteProperty(const TPersistent& Instance, const TPropInfo& Prop,
+                                     const std::string& Name, TFormProperties& Target)
 {
     if (Prop.Kind() == tkClass) {
         WriteObject(Instance, Prop, Name, Target);
@@ -103,8 +108,8 @@ void TComponentWriter::WriteProperty(const TPersistent& Instance, const TPropInf
     }
 }
 
-void TComponentWriter::WriteObject(const TPersistent& Instance, const TPropInfo& Prop, const std::string& Name,
-                                   TFormProperties& Target)
+void TComponentWriter::WriteObject(const TPersistent& Instance, const TPropInfo& Prop,
+                                   const std::string& Name, TFormProperties& Target)
 {
     const TObject* const Held = GetObjectProp(Instance, Prop);
     if (const auto* const Texts = dynamic_cast<const TFormListTexts*>(Held)) {
@@ -151,7 +156,8 @@ TFormValue TComponentWriter::SimpleValue(const TPersistent& Instance, const TPro
     case tkChar: {
         const auto Code = static_cast<unsigned char>(GetOrdProp(Instance, Prop));
         // Half of a character is no text.
-        return Code < 0x80 ? TFormValue::String(std::string(1, static_cast<char>(Code))) : TFormValue::Integer(Code);
+        return Code < 0x80 ? TFormValue::String(std::string(1, static_cast<char>(Code)))
+                           : TFormValue::Integer(Code);
     }
     case tkFloat:
         return TFormValue::Float(GetFloatProp(Instance, Prop));
@@ -173,7 +179,8 @@ TFormValue TComponentWriter::CollectionValue(const TCollection& Collection)
 std::string TComponentWriter::NameOf(const TComponent& Component) const
 {
     const TComponent* const Owner = Component.Owner();
-    if (&Component == &FRoot || Owner == &FRoot || !Owner || Owner->Name().empty() || Component.Name().empty())
+    if (&Component == &FRoot || Owner == &FRoot || !Owner || Owner->Name().empty() ||
+        Component.Name().empty())
         return Component.Name();
     return Owner->Name() + "." + Component.Name();
 }

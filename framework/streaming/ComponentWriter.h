@@ -9,13 +9,12 @@
 #include "framework/streaming/FormDocument.h"
 
 enum class TWrittenProperties {
-    Changed,  // those that differ from their class's defaults, as form files have them
-    All       // every stored one, to compare two states of a component
+    Changed, // those that differ from their class's defaults, as form files have them
+    All      // every stored one, to compare two states of a component
 };
 
 // Writes a form or single components. The tree holds copies of everything.
-class TComponentWriter : public TWriter
-{
+class TComponentWriter : public TWriter {
 public:
     explicit TComponentWriter(TComponent& Root, TWrittenProperties Written = TWrittenProperties::Changed);
 
@@ -53,7 +52,7 @@ private:
 
     TComponent& FRoot;
     TWrittenProperties FWritten;
-    TFormProperties* FTarget = nullptr;  // what DefineProperties adds to
+    TFormProperties* FTarget = nullptr; // what DefineProperties adds to
     std::string FPrefix;
     std::vector<std::vector<TFormValue>> FLevels;
 };

@@ -136,16 +136,18 @@ void AddValue(TPersistent& Instance, const std::string& Name, const TFormValue& 
 TPersistent* NeedSubObject(TPersistent& Instance, const std::string& Name)
 {
     if (const TPropInfo* const Prop = GetPropInfo(Instance, Name)) {
-        auto* const Held = Prop->Kind() == tkClass ? dynamic_cast<TPersistent*>(GetObjectProp(Instance, *Prop)) : nullptr;
+        auto* const Held =
+            Prop->Kind() == tkClass ? dynamic_cast<TPersistent*>(GetObjectProp(Instance, *Prop)) : nullptr;
         // What is stored under the name of another component belongs to this one.
         const auto* const Component = dynamic_cast<const TComponent*>(Held);
         return Component && !Component->IsSubComponent() ? nullptr : Held;
     }
-    TDynamicProp& Added = Instance.NeedDynamicProperties().AddObject(Name, std::make_unique<TGenericPersistent>());
+    TDynamicProp& Added =
+        Instance.NeedDynamicProperties().AddObject(Name, std::make_unique<TGenericPersistent>());
     return std::get<std::unique_ptr<TPersistent>>(Added.Value).get();
 }
 
-}  // namespace
+} // namespace
 
 void AddGenericProperty(TPersistent& Instance, std::string_view Path, const TFormValue& Value)
 {

@@ -10,8 +10,7 @@
 #include "framework/streaming/FormValue.h"
 
 // A value that is kept as the file has it.
-class TFormValueHolder : public TPersistent
-{
+class TFormValueHolder : public TPersistent {
     OBX_CLASS(TPersistent)
 public:
     explicit TFormValueHolder(TFormValue AValue) : Value(std::move(AValue)) {}
@@ -21,8 +20,7 @@ public:
 // The texts of a list that is a property's own value, `Cells = (...)`, as
 // against `Items.Strings = (...)`. Each text is a line; numbers between them are
 // kept where they are.
-class TFormListTexts : public TStringList
-{
+class TFormListTexts : public TStringList {
     OBX_CLASS(TStringList)
 public:
     explicit TFormListTexts(TFormValue List);

@@ -75,7 +75,7 @@ void CollectComponents(TComponent& Owner, std::vector<const TComponent*>& Compon
         CollectComponents(*Owner.Components(I), Components);
 }
 
-}  // namespace
+} // namespace
 
 TLoadedForm::TLoadedForm(TFormDocument Document, TUnknownClasses UnknownClasses, const TRootMaker& MakeRoot)
     : FDocument(std::move(Document))

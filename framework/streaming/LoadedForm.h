@@ -11,8 +11,7 @@
 #include "framework/streaming/ComponentReader.h"
 #include "framework/streaming/FormDocument.h"
 
-class TLoadedForm
-{
+class TLoadedForm {
 public:
     // Makes the root for a class that the program does not have; the caller of
     // the constructor decides what such a root is.
@@ -30,13 +29,12 @@ public:
 
 private:
     // One component and how it was written right after loading.
-    struct TEntry
-    {
+    struct TEntry {
         TComponent* Component;
         TFormObject Before;
     };
 
     TFormDocument FDocument;
     std::unique_ptr<TComponent> FRoot;
-    std::vector<TEntry> FEntries;  // in the order of the document's objects
+    std::vector<TEntry> FEntries; // in the order of the document's objects
 };

@@ -264,8 +264,10 @@ LRESULT TComboBox::HandleText(UINT Message, WPARAM WParam, LPARAM LParam)
 void TComboBox::Start()
 {
     // The scroll bar that the style asks for is the list's.
-    SetWindowLongA(Window(), GWL_STYLE, static_cast<LONG>(Style() & ~static_cast<DWORD>(WS_VSCROLL | WS_HSCROLL)));
-    SetWindowPos(Window(), nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+    SetWindowLongA(Window(), GWL_STYLE,
+                   static_cast<LONG>(Style() & ~static_cast<DWORD>(WS_VSCROLL | WS_HSCROLL)));
+    SetWindowPos(Window(), nullptr, 0, 0, 0, 0,
+                 SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
     DWORD ListStyle = WS_POPUP | WS_BORDER | LBS_HASSTRINGS * (!OwnerDrawn() || (Style() & CBS_HASSTRINGS));
     if (Style() & CBS_SORT)
         ListStyle |= LBS_SORT;

@@ -228,7 +228,8 @@ BOOL TextOutW(HDC Dc, int X, int Y, LPCWSTR Text, int Count)
     return TextOutA(Dc, X, Y, Bytes.c_str(), static_cast<int>(Bytes.size()));
 }
 
-BOOL ExtTextOutW(HDC Dc, int X, int Y, UINT Options, const RECT* Rect, LPCWSTR Text, UINT Count, const int* Widths)
+BOOL ExtTextOutW(HDC Dc, int X, int Y, UINT Options, const RECT* Rect, LPCWSTR Text, UINT Count,
+                 const int* Widths)
 {
     const std::string Bytes = NarrowCount(Text, static_cast<int>(Count));
     return ExtTextOutA(Dc, X, Y, Options, Rect, Bytes.c_str(), static_cast<UINT>(Bytes.size()), Widths);

@@ -547,7 +547,8 @@ BOOL GetTextMetricsA(HDC Dc, TEXTMETRICA* Metrics);
 BOOL GetTextExtentPoint32A(HDC Dc, LPCSTR Text, int Count, SIZE* Size);
 BOOL GetTextExtentPoint32W(HDC Dc, LPCWSTR Text, int Count, SIZE* Size);
 BOOL TextOutW(HDC Dc, int X, int Y, LPCWSTR Text, int Count);
-BOOL ExtTextOutW(HDC Dc, int X, int Y, UINT Options, const RECT* Rect, LPCWSTR Text, UINT Count, const int* Widths);
+BOOL ExtTextOutW(HDC Dc, int X, int Y, UINT Options, const RECT* Rect, LPCWSTR Text, UINT Count,
+                 const int* Widths);
 int DrawTextW(HDC Dc, LPCWSTR Text, int Count, RECT* Rect, UINT Format);
 BOOL GetTextExtentPointA(HDC Dc, LPCSTR Text, int Count, SIZE* Size);
 // Fit receives how many bytes of Text fit into MaxExtent (whole characters);

@@ -53,7 +53,8 @@ void ShowWhole(HWND Window)
 {
     const HWND Root = GetAncestor(Window, GA_ROOT);
     SetWindowPos(Root, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-    RedrawWindow(Root, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    RedrawWindow(Root, nullptr, nullptr,
+                 RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_UPDATENOW | RDW_ALLCHILDREN);
     GdiFlush();
     // What is drawn reaches the screen while the program waits for messages.
     const DWORD End = GetTickCount() + 150;
