@@ -319,6 +319,15 @@ TEST_F(TForms, FrameHoldsDocuments)
     Frame->Cascade();
     Frame->Tile();
     EXPECT_NE(Children[0]->BoundsRect().top, Children[1]->BoundsRect().top);
+    // Reading from the right makes the frame's window anew.
+    Frame->SetBiDiMode(bdRightToLeft);
+    Application->ProcessMessages();
+    for (TForm* const Child : Children) {
+        EXPECT_EQ(GetParent(Child->Handle()), Frame->ClientHandle());
+        EXPECT_TRUE(IsWindowVisible(Child->Handle()));
+    }
+    Frame->SetBiDiMode(bdLeftToRight);
+    Application->ProcessMessages();
     auto* const Bar = Put<TSampleBox>(Frame, "Bar", 0, 0, 10, 40);
     Bar->SetAlign(alTop);
     TRect Place{};

@@ -38,6 +38,18 @@ void TCustomForm::Dispatch(TMessage& Message)
     case CM_DIALOGKEY:
         DialogKey(Message);
         break;
+    case CM_RECREATEWND: {
+        // Documents live in the frame's window and are made anew with it.
+        std::vector<TCustomForm*> Documents;
+        for (int I = 0; I < MDIChildCount(); ++I)
+            Documents.push_back(MDIChildren(I));
+        for (TCustomForm* const Document : Documents)
+            Document->DestroyHandle();
+        inherited::Dispatch(Message);
+        for (TCustomForm* const Document : Documents)
+            Document->UpdateControlState();
+        break;
+    }
     default:
         if (!DispatchActivation(Message) && !DispatchMenu(Message))
             inherited::Dispatch(Message);

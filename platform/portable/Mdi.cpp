@@ -219,6 +219,9 @@ LRESULT MdiClientProc(HWND Client, UINT Message, WPARAM WParam, LPARAM LParam)
     const auto Child = reinterpret_cast<HWND>(WParam);
     if (Message == WM_NCCREATE) {
         CreateClient(Client, *reinterpret_cast<const CREATESTRUCTA*>(LParam));
+        // Its scroll bars are there only while a document reaches out of it.
+        SetWindowLongPtrA(Client, GWL_STYLE,
+                          GetWindowLongPtrA(Client, GWL_STYLE) & ~LONG_PTR{WS_HSCROLL | WS_VSCROLL});
         return DefWindowProcA(Client, Message, WParam, LParam);
     }
     if (!MdiClientOf(Client))
