@@ -15,7 +15,7 @@
 #include "framework/rtl/Files.h"
 #include "framework/streaming/FormFile.h"
 #include "tools/FormFiles.h"
-#include "tools/FormSession.h"
+#include "tools/TranslatableForm.h"
 
 namespace {
 
@@ -96,11 +96,11 @@ struct TFigures {
 void CheckForm(const std::string& File, TFigures& Figures)
 {
     const std::string Original = ReadWholeFile(File);
-    TFormSession Session(File, 1252);
-    ASSERT_EQ(WriteForm(Session.Save()), Original) << "not the same bytes when nothing has changed";
+    TTranslatableForm Form(File, 1252);
+    ASSERT_EQ(WriteForm(Form.Save()), Original) << "not the same bytes when nothing has changed";
     std::vector<TProperties> Before;
     std::vector<TProperties> Wanted;
-    for (TFormTranslator* const Translator : Session.Translators()) {
+    for (TFormTranslator* const Translator : Form.Translators()) {
         Before.push_back(PropertiesOf(*Translator));
         Figures.Properties += static_cast<int>(Before.back().size());
         Wanted.emplace_back();
@@ -109,8 +109,8 @@ void CheckForm(const std::string& File, TFigures& Figures)
                 Wanted.back().emplace(Key, ToLiterals(MadeUp(FromLiterals(Value))));
         Figures.Texts += static_cast<int>(Wanted.back().size());
     }
-    for (size_t I = 0; I < Session.Translators().size(); ++I) {
-        TFormTranslator& Translator = *Session.Translators()[I];
+    for (size_t I = 0; I < Form.Translators().size(); ++I) {
+        TFormTranslator& Translator = *Form.Translators()[I];
         TSortList Lines;
         for (const auto& [Key, Value] : Wanted[I])
             Lines.SortInsert(Key + "=" + Value, nullptr);
@@ -129,9 +129,9 @@ void CheckForm(const std::string& File, TFigures& Figures)
         }
     }
     // Last one first: a frame is translated with its form and once more by itself.
-    for (auto Each = Session.Translators().rbegin(); Each != Session.Translators().rend(); ++Each)
+    for (auto Each = Form.Translators().rbegin(); Each != Form.Translators().rend(); ++Each)
         (*Each)->SetTranslate(false);
-    EXPECT_EQ(WriteForm(Session.Save()), Original) << "restoring does not give the original";
+    EXPECT_EQ(WriteForm(Form.Save()), Original) << "restoring does not give the original";
     ++Figures.Forms;
 }
 

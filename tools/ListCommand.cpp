@@ -5,7 +5,7 @@
 #include "core/KeyLines.h"
 #include "core/VisibleTexts.h"
 #include "tools/FormFiles.h"
-#include "tools/FormSession.h"
+#include "tools/TranslatableForm.h"
 
 namespace {
 
@@ -22,12 +22,12 @@ public:
 
     TOutcome List(const std::string& FileName)
     {
-        TFormSession Session(FileName, FOptions.Input.CodePage);
+        TTranslatableForm Form(FileName, FOptions.Input.CodePage);
         auto Forms = nlohmann::json::array();
-        for (TFormTranslator* const Translator : Session.Translators()) {
+        for (TFormTranslator* const Translator : Form.Translators()) {
             TSortList Lines;
             Translator->TranslateForm(&Lines, true);
-            const std::string Section = TFormSession::SectionOf(*Translator);
+            const std::string Section = TTranslatableForm::SectionOf(*Translator);
             nlohmann::json Properties = nlohmann::json::array();
             for (int I = 0; I < Lines.Count(); ++I) {
                 const std::string Key(KeyOf(Lines[I]));

@@ -6,7 +6,7 @@
 #include "framework/rtl/Files.h"
 #include "framework/streaming/FormFile.h"
 #include "tools/FormFiles.h"
-#include "tools/FormSession.h"
+#include "tools/TranslatableForm.h"
 
 namespace {
 
@@ -38,8 +38,8 @@ TOutcome Report(const std::string& FileName, const std::string& Before, const st
 
 TOutcome Roundtrip(const TRoundtripOptions& Options, const std::string& FileName)
 {
-    const TFormSession Session(FileName, Options.Input.CodePage);
-    TFormDocument Document = Session.Save();
+    const TTranslatableForm Form(FileName, Options.Input.CodePage);
+    TFormDocument Document = Form.Save();
     const auto Original = ReadWholeFile(FileName);
     const TFormFormat Own = Document.Format;
     std::string Written;

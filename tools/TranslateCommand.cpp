@@ -6,7 +6,7 @@
 #include "framework/rtl/SysUtils.h"
 #include "framework/streaming/FormFile.h"
 #include "tools/FormFiles.h"
-#include "tools/FormSession.h"
+#include "tools/TranslatableForm.h"
 
 namespace {
 
@@ -19,10 +19,10 @@ struct TTranslateOptions {
 };
 
 // Applies the file's lines for this form; returns how many there were.
-int Apply(const TTranslateOptions& Options, TFormSession& Session)
+int Apply(const TTranslateOptions& Options, TTranslatableForm& Form)
 {
     int Lines = 0;
-    for (TFormTranslator* const Translator : Session.Translators()) {
+    for (TFormTranslator* const Translator : Form.Translators()) {
         Translator->SetLocale(Options.Locale);
         if (!Translator->LoadFrom(Options.Translations))
             throw EFOpenError(Format(SFOpenError, {Options.Translations}));
@@ -35,16 +35,16 @@ int Apply(const TTranslateOptions& Options, TFormSession& Session)
     return Lines;
 }
 
-TOutcome Restore(const std::string& FileName, TFormSession& Session)
+TOutcome Restore(const std::string& FileName, TTranslatableForm& Form)
 {
     int Changed = 0;
     // Last one first: a frame is translated with its form and once more by itself.
-    const auto& Translators = Session.Translators();
+    const auto& Translators = Form.Translators();
     for (auto Each = Translators.rbegin(); Each != Translators.rend(); ++Each) {
         Changed += (*Each)->Defaults().Count();
         (*Each)->SetTranslate(false);
     }
-    const bool Same = WriteForm(Session.Save()) == ReadWholeFile(FileName);
+    const bool Same = WriteForm(Form.Save()) == ReadWholeFile(FileName);
     std::cerr << FileName << ": " << Changed << " properties translated, restoring gives "
               << (Same ? "the original bytes" : "other bytes than the original") << "\n";
     return Same ? TOutcome::Fine : TOutcome::Findings;
@@ -52,20 +52,20 @@ TOutcome Restore(const std::string& FileName, TFormSession& Session)
 
 TOutcome Translate(const TTranslateOptions& Options, const std::string& FileName)
 {
-    TFormSession Session(FileName, Options.Input.CodePage);
+    TTranslatableForm Form(FileName, Options.Input.CodePage);
     auto Outcome = TOutcome::Fine;
-    if (Apply(Options, Session) == 0) {
+    if (Apply(Options, Form) == 0) {
         std::cerr << Options.Translations << ": no lines for form "
-                  << TFormSession::SectionOf(*Session.Translators()[0]) << " and locale " << Options.Locale
+                  << TTranslatableForm::SectionOf(*Form.Translators()[0]) << " and locale " << Options.Locale
                   << "\n";
         Outcome = TOutcome::Findings;
     }
-    const std::string Translated = WriteForm(Session.Save());
+    const std::string Translated = WriteForm(Form.Save());
     if (Options.Output.empty())
         std::cout.write(Translated.data(), static_cast<std::streamsize>(Translated.size()));
     else
         ReplaceWholeFile(Options.Output, Translated);
-    return Options.Restore ? std::max(Outcome, Restore(FileName, Session)) : Outcome;
+    return Options.Restore ? std::max(Outcome, Restore(FileName, Form)) : Outcome;
 }
 
 } // namespace

@@ -8,11 +8,11 @@
 #include "Qft/Qft.h"
 #include "framework/streaming/LoadedForm.h"
 
-class TFormSession {
+class TTranslatableForm {
 public:
     // Loads a form with stand-ins for the classes that are not known here. No
     // window is shown. Errors: EFormFileError, EFOpenError.
-    TFormSession(const std::string& FileName, int CodePage);
+    TTranslatableForm(const std::string& FileName, int CodePage);
 
     const TFormDocument& Document() const { return FForm.Document(); }
     TFormDocument Save() const { return FForm.Save(); }

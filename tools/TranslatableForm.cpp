@@ -1,4 +1,4 @@
-#include "tools/FormSession.h"
+#include "tools/TranslatableForm.h"
 
 #include <algorithm>
 #include <array>
@@ -48,13 +48,13 @@ TFormDocument ReadDocument(const std::string& FileName, int CodePage)
 
 } // namespace
 
-TFormSession::TFormSession(const std::string& FileName, int CodePage)
+TTranslatableForm::TTranslatableForm(const std::string& FileName, int CodePage)
     : FForm(ReadDocument(FileName, CodePage), TUnknownClasses::Accept, MakeHiddenRoot)
 {
     AddTranslators(FForm.Root());
 }
 
-void TFormSession::AddTranslators(TComponent& Owner)
+void TTranslatableForm::AddTranslators(TComponent& Owner)
 {
     const int Count = Owner.ComponentCount();
     auto* const Translator = new TFormTranslator(&Owner);
@@ -67,7 +67,7 @@ void TFormSession::AddTranslators(TComponent& Owner)
             AddTranslators(*Owner.Components(I));
 }
 
-std::string TFormSession::SectionOf(const TFormTranslator& Translator)
+std::string TTranslatableForm::SectionOf(const TFormTranslator& Translator)
 {
     const TComponent& Owner = *Translator.Owner();
     return Owner.Name().empty() ? Owner.ClassName().substr(1) : Owner.Name();
