@@ -46,6 +46,9 @@ void TCustomForm::Dispatch(TMessage& Message)
         for (TCustomForm* const Document : Documents)
             Document->DestroyHandle();
         inherited::Dispatch(Message);
+        // A hidden frame would wait with its window until it is shown.
+        if (!Documents.empty())
+            Handle();
         for (TCustomForm* const Document : Documents)
             Document->UpdateControlState();
         break;
