@@ -29,14 +29,6 @@ std::string KeyEqOf(const std::string& Line)
 
 } // namespace
 
-// What the owner shows now, in order.
-void TFormTranslator::ReadPresentValues(TSortList& List)
-{
-    TSortList AsWalked;
-    TranslateForm(&AsWalked, true);
-    List.SortInsertAll(AsWalked.Take());
-}
-
 void TFormTranslator::TranslateTo(const std::string& FileName)
 {
     const TLife Life(*this);

@@ -30,10 +30,9 @@ TFormWalk::~TFormWalk()
 
 void TFormWalk::NoteFormerValues()
 {
-    if (!FOrdered || !ChangesMaySpread())
+    if (!ChangesMaySpread())
         return;
-    FNoted.assign(static_cast<size_t>(FList.Count()), std::nullopt);
-    FNotedVersion = FOrdered->Version();
+    FNoted.resize(static_cast<size_t>(FList.Count()));
     FNoting = true;
     WalkOwner();
     WalkComponents();
@@ -141,7 +140,10 @@ void TFormWalk::WalkCollection(TCollection& Items, const std::string& Key)
 
 bool TFormWalk::WalkOne(TObject& Object, const TPropInfo& Prop, int Index)
 {
-    FKey = KeyOf(FList.Get(Index));
+    const std::string& Line = FList.Get(Index);
+    if (Line.find('=') == Line.npos)
+        return false;
+    FKey = KeyOf(Line);
     const TEntered Entered(*this, Object, nullptr, -1);
     return ApplyTo(Object, Prop, Index);
 }
@@ -265,12 +267,17 @@ void TFormWalk::WalkItems(TCollection& Items, int From, int Count)
     }
 }
 
+void TFormWalk::Note(int Index, std::string Value)
+{
+    FNoted[static_cast<size_t>(Index)] = {FKey, std::move(Value)};
+}
+
 bool TFormWalk::ApplyTo(TObject& Object, const TPropInfo& Prop, int Index)
 {
+    const bool AsLiteral = IsLiteralKind(Prop.Kind());
+    const auto Present = [&] { return AsLiteral ? GetStrProp(Object, Prop) : GetPropertyText(Object, Prop); };
     if (FNoting) {
-        const bool IsLiteral = IsLiteralKind(Prop.Kind());
-        FNoted[static_cast<size_t>(Index)] =
-            IsLiteral ? GetStrProp(Object, Prop) : GetPropertyText(Object, Prop);
+        Note(Index, Present());
         return true;
     }
     if (FTranslator.OnTranslateProperty) {
@@ -281,10 +288,8 @@ bool TFormWalk::ApplyTo(TObject& Object, const TPropInfo& Prop, int Index)
     }
     const std::string_view Raw = Value(Index);
     AssignFromLiterals(FText, Raw);
-    if (!FTranslator.FTranslated) {
-        const bool AsLiteral = IsLiteralKind(Prop.Kind());
-        Remember(AsLiteral ? GetStrProp(Object, Prop) : GetPropertyText(Object, Prop), AsLiteral, Index);
-    }
+    if (!FTranslator.FTranslated)
+        Remember(Present(), AsLiteral, Index);
     if (FText.empty() && !FTranslator.FTranslateEmpty)
         return true;
     return SetPropertyText(Object, Prop, Raw, FText);
@@ -293,7 +298,7 @@ bool TFormWalk::ApplyTo(TObject& Object, const TPropInfo& Prop, int Index)
 void TFormWalk::ApplyToLine(TStrings& Lines, int Line, int Index)
 {
     if (FNoting) {
-        FNoted[static_cast<size_t>(Index)] = Lines.Get(Line);
+        Note(Index, Lines.Get(Line));
         return;
     }
     if (FTranslator.OnTranslateProperty) {
@@ -324,9 +329,8 @@ std::string_view TFormWalk::Value(int Index) const
 
 void TFormWalk::Remember(std::string_view Former, bool AsLiteral, int Index)
 {
-    const bool IsNoted = FOrdered && FOrdered->Version() == FNotedVersion &&
-                         static_cast<size_t>(Index) < FNoted.size() && FNoted[static_cast<size_t>(Index)];
-    if (IsNoted)
-        Former = *FNoted[static_cast<size_t>(Index)];
+    // The line may be another one by now.
+    if (const size_t Line = static_cast<size_t>(Index); Line < FNoted.size() && FNoted[Line].Key == FKey)
+        Former = FNoted[Line].Value;
     FTranslator.FPending.Add(FKey, Former, AsLiteral, Index, FList.Objects(Index));
 }

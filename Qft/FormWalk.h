@@ -10,7 +10,6 @@
 // component is done.
 #pragma once
 
-#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -35,10 +34,11 @@ public:
     // True when the translator was destroyed: nothing may be touched any more.
     bool IsOver() const { return FIsOver; }
 
-    // The owner's properties, the window menu, the components it owns.
     // Notes the values that the lines will replace before the first is replaced.
     // Only when one change can show in another value that has a line as well.
     void NoteFormerValues();
+
+    // The owner's properties, the window menu, the components it owns.
     void WalkOwner();
     void WalkSystemMenu();
     void WalkComponents();
@@ -48,7 +48,8 @@ public:
     void WalkStrings(TStrings& Lines, const std::string& Key);
     void WalkCollection(TCollection& Items, const std::string& Key);
 
-    // One property by line Index of the list; false when nothing was set.
+    // One property by line Index of the list; false when nothing was set. A line
+    // without "=" names none.
     bool WalkOne(TObject& Object, const TPropInfo& Prop, int Index);
 
 private:
@@ -73,6 +74,11 @@ private:
         int Item;
         TLineRange Lines;
     };
+    // A value before the translation, and the key of its line; empty for none.
+    struct TNoted {
+        std::string Key;
+        std::string Value;
+    };
     class TEntered;
     class TKey;
 
@@ -89,6 +95,7 @@ private:
     void WalkHeld(TObject& Holder, const TPropInfo& Prop);
     void WalkLines(TStrings& Lines, int From, int Count);
     void WalkItems(TCollection& Items, int From, int Count);
+    void Note(int Index, std::string Value);
     bool ApplyTo(TObject& Object, const TPropInfo& Prop, int Index);
     void ApplyToLine(TStrings& Lines, int Line, int Index);
     bool FindAgain(int& Index) const;
@@ -121,8 +128,7 @@ private:
     TStrings* FOuterLookup;
     bool FIsOver = false;
     bool FNoting = false;
-    std::vector<std::optional<std::string>> FNoted; // by line
-    uint64_t FNotedVersion = 0;
+    std::vector<TNoted> FNoted; // by line
     bool FIsOrdered = false;
     uint64_t FVersion = 0;
     TLineIndex FIndex;

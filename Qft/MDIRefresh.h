@@ -5,5 +5,5 @@
 class TComponent;
 
 // Makes changed texts of Owner visible when it is a form that frames documents or
-// a maximized document; nothing otherwise.
-void RefreshMDI(TComponent* Owner);
+// a maximized document; nothing otherwise, nor before the form has a window.
+void RefreshMDI(const TComponent* Owner);

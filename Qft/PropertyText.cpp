@@ -68,6 +68,22 @@ std::string GetPropertyText(const TObject& Object, const TPropInfo& Prop)
     }
 }
 
+namespace {
+
+// A list may have been written, and defaults noted, under another locale.
+double FloatValue(std::string_view Raw)
+{
+    TExtended Result = 0;
+    if (TryStrToFloat(Raw, Result))
+        return static_cast<double>(Result);
+    std::string Localized(Raw);
+    if (const size_t Separator = Localized.find_first_of(".,"); Separator != std::string::npos)
+        Localized.replace(Separator, 1, DecimalSeparator);
+    return static_cast<double>(TryStrToFloat(Localized, Result) ? Result : StrToFloat(Raw));
+}
+
+} // namespace
+
 bool SetPropertyText(TObject& Object, const TPropInfo& Prop, std::string_view Raw, const std::string& Text)
 {
     switch (Prop.Kind()) {
@@ -87,7 +103,7 @@ bool SetPropertyText(TObject& Object, const TPropInfo& Prop, std::string_view Ra
         SetOrdProp(Object, Prop, StrToInt64(Raw));
         return true;
     case tkFloat:
-        SetFloatProp(Object, Prop, static_cast<double>(StrToFloat(Raw)));
+        SetFloatProp(Object, Prop, FloatValue(Raw));
         return true;
     case tkEnumeration:
         SetOrdProp(Object, Prop, GetEnumValue(*Prop.PropType, Raw));

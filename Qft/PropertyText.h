@@ -11,7 +11,7 @@
 //   integer                    decimal; of a type named TColor the colour's name,
 //                              empty when it has none
 //   set                        its bits, decimal
-//   float                      as FloatToStr writes it
+//   float                      as FloatToStr writes it; "." and "," are read, too
 //   enumeration                the value's name
 //   event                      the name of the property's type
 //   others                     empty

@@ -10,6 +10,28 @@
 #include "core/TranslationsFile.h"
 #include "framework/rtl/Collection.h"
 
+// Sees to it that nothing refers to a list any more when that goes out of scope,
+// also by an exception.
+class TFormTranslator::TLookupEnd {
+public:
+    TLookupEnd(TFormTranslator& Translator, const TStrings& List)
+        : FTranslator(Translator), FLife(Translator), FList(List)
+    {
+    }
+    ~TLookupEnd()
+    {
+        if (!FLife.IsOver() && FTranslator.FLookup == &FList)
+            FTranslator.FLookup = nullptr;
+    }
+    TLookupEnd(const TLookupEnd&) = delete;
+    TLookupEnd& operator=(const TLookupEnd&) = delete;
+
+private:
+    TFormTranslator& FTranslator;
+    const TLife FLife;
+    const TStrings& FList;
+};
+
 const TMetaClass& TFormTranslator::MetaClass()
 {
     static const TMetaClass Class(
@@ -59,15 +81,7 @@ void TFormTranslator::Notification(TComponent* Component, TOperation Operation)
 
 void TFormTranslator::SetTranslations(const TStrings* Value)
 {
-    if (Value == FTranslations.get())
-        return;
-    std::vector<TSortList::TLine> Lines;
-    for (int I = 0; Value && I < Value->Count(); ++I)
-        Lines.push_back({Value->Get(I), Value->Objects(I)});
-    FTranslations->BeginUpdate();
-    FTranslations->Clear();
-    FTranslations->SortInsertAll(std::move(Lines));
-    FTranslations->EndUpdate();
+    FTranslations->AssignInOrder(Value);
 }
 
 const TSortList& TFormTranslator::Defaults() const
@@ -170,34 +184,37 @@ void TFormTranslator::RestoreForm()
 {
     if (!FTranslated)
         return;
-    TSortList List;
-    MoveDefaultsTo(List);
     FTranslated = false;
-    FRestoring = true;
+    if (Defaults().Count() == 0) // no line named anything on the form
+        return;
+    TSortList List;
+    const TLookupEnd LookupEnd(*this, List);
     const TLife Life(*this);
+    MoveDefaultsTo(List);
+    FRestoring = true;
     bool Restored = false;
     try {
         Restored = TranslateForm(&List, false);
     } catch (...) {
-        if (!Life.IsOver()) {
-            FRestoring = false;
-            FlushDefaults();
-            FLookup = nullptr;
-        }
+        if (!Life.IsOver())
+            EndRestoring(false);
         throw;
     }
     if (Life.IsOver())
         return;
+    EndRestoring(Restored);
+    FTranslated = !Restored;
+}
+
+void TFormTranslator::EndRestoring(bool Restored)
+{
     FRestoring = false;
-    if (!Restored)
-        FlushDefaults();
-    else
+    if (Restored)
         FDefaults->Clear();
+    else
+        FlushDefaults();
     FMovedDefaults = nullptr;
     FPending.Clear();
-    FTranslated = !Restored;
-    if (FLookup == &List)
-        FLookup = nullptr;
 }
 
 // While nobody watches, restoring takes the lines instead of copying them.
@@ -253,6 +270,7 @@ void TFormTranslator::SaveTo(const std::string& FileName)
     const THourglass Hourglass;
     const TLife Life(*this);
     TSortList Untranslated;
+    const TLookupEnd LookupEnd(*this, Untranslated);
     if (FTranslated)
         Untranslated.Assign(&Defaults());
     else
@@ -262,6 +280,15 @@ void TFormTranslator::SaveTo(const std::string& FileName)
     DeleteUnwanted(Untranslated);
     FLookup = nullptr;
     SaveTranslations(FileName, {Section(), Locale()}, *FTranslations, Untranslated);
+}
+
+// What the owner shows now, in order.
+void TFormTranslator::ReadPresentValues(TSortList& List)
+{
+    TSortList AsWalked;
+    const TLookupEnd LookupEnd(*this, AsWalked);
+    TranslateForm(&AsWalked, true);
+    List.SortInsertAll(AsWalked.Take());
 }
 
 // Deletes the lines for whose keys there is no translation.

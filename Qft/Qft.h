@@ -80,8 +80,8 @@ public:
     // their former values are in Defaults, and Translated is what it was.
     bool TranslateForm(TStrings* List, bool ReadMode);
 
-    // Parts of TranslateForm that work on the list it was last called with. Path
-    // is the key of the object, empty for the owner.
+    // Parts of TranslateForm that work on the list it was last called with, which
+    // must still be there. Path is the key of the object, empty for the owner.
     void TranslateClass(TObject* Obj, const std::string& Path, bool ReadMode);
     void SetStrings(TStrings* Obj, const std::string& Path, bool ReadMode);
     void SetCollection(TCollection* Obj, const std::string& Path, bool ReadMode);
@@ -91,7 +91,10 @@ public:
     // Whether that list has a line for Key, and where; 0 without a list.
     bool WantTranslate(const std::string& Key, int& Index) const;
 
-    // Puts the former values back; nothing unless Translated.
+    // Puts the former values back; nothing unless Translated. When that is not
+    // done, because Translate is off or OnTranslateForm said so, the form stays
+    // translated. Throws EConvertError on a former value that cannot be set, an
+    // unnamed colour: Translated is false then, and Defaults keep all values.
     void RestoreForm();
 
     void InternalTranslate(bool Value) override;
@@ -115,11 +118,11 @@ public:
 
 private:
     friend class TFormWalk;
-    class TLookup;
+    class TLookupEnd;
 
-    bool ApplyTranslations();
     bool WalkForm(TStrings& List, bool ReadMode);
     void MoveDefaultsTo(TSortList& List);
+    void EndRestoring(bool Restored);
     void FlushDefaults() const;
     void ReadPresentValues(TSortList& List);
     void DeleteUnwanted(TSortList& List);

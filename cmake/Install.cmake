@@ -1,12 +1,13 @@
 # `cmake --install` gives applications find_package(Orbilex) with the target
-# Orbilex::orbilex_qft, which brings the layers below it.
+# Orbilex::orbilex_qft, or that of another translator, which brings the layers below.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
 install(TARGETS orbilex_options orbilex_platform orbilex_framework orbilex_core orbilex_qft
+        orbilex_qlt
         EXPORT OrbilexTargets
         INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/orbilex)
-foreach(Layer platform framework core Qft)
+foreach(Layer platform framework core Qft Qlt)
     install(DIRECTORY ${Layer} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/orbilex
             FILES_MATCHING PATTERN "*.h" PATTERN "*.inc")
 endforeach()

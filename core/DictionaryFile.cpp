@@ -7,6 +7,7 @@
 #include "core/KeyLines.h"
 #include "core/LineSplitter.h"
 #include "core/NearlySorted.h"
+#include "core/TextFile.h"
 #include "framework/rtl/Files.h"
 #include "framework/rtl/SysUtils.h"
 #include "framework/rtl/Utf8.h"
@@ -15,7 +16,7 @@ void ForEachDictionaryPair(
     const std::string& FileName,
     const std::function<void(const std::string& Source, const std::string& Translation)>& Visit)
 {
-    const std::string Text = ReadWholeFile(FileName);
+    const std::string Text = ReadTextFile(FileName);
     TLineSplitter Lines(Text);
     std::string_view Line;
     while (Lines.Next(Line)) {
@@ -30,7 +31,7 @@ void TDictionary::Load(const std::string& FileName)
 {
     std::vector<std::string> Lines;
     if (FileExists(FileName)) {
-        const std::string Text = ReadWholeFile(FileName);
+        const std::string Text = ReadTextFile(FileName);
         TLineSplitter Splitter(Text);
         std::string_view Line;
         while (Splitter.Next(Line))

@@ -18,7 +18,7 @@
 // Calls Visit with the plain texts of each pair in the order of the file. A line
 // without TAB is passed over; at most 4095 bytes behind the TAB are taken, cut
 // between characters. Every CR and every LF ends a line.
-// Throws EFOpenError and EReadError.
+// Throws as ReadTextFile (core/TextFile.h).
 void ForEachDictionaryPair(
     const std::string& FileName,
     const std::function<void(const std::string& Source, const std::string& Translation)>& Visit);
@@ -26,7 +26,8 @@ void ForEachDictionaryPair(
 // A dictionary in memory, for adding to a file. Lines that are no pairs are kept.
 class TDictionary {
 public:
-    // The lines of the file; a missing file gives an empty dictionary.
+    // The lines of the file; a missing file gives an empty dictionary. Throws as
+    // ReadTextFile.
     void Load(const std::string& FileName);
 
     // Replaces the line of Source that a search for it lands on, or adds one.

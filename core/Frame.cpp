@@ -16,10 +16,11 @@ struct TLiving {
 };
 
 // All translators there are, in the order of their numbers. Finding peers here
-// spares a walk over every component of the application.
+// spares a walk over every component of the application. Never destroyed: a form
+// may itself be a global object and leave after all others.
 std::vector<TLiving>& Living()
 {
-    static std::vector<TLiving> Frames;
+    static auto& Frames = *new std::vector<TLiving>;
     return Frames;
 }
 

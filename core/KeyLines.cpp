@@ -111,8 +111,11 @@ void MergeOneByOne(TSortList& List, std::vector<std::string>& Lines)
         int Index = 0;
         if (FindKey(KeyOf(Line), Blocks.Count(), LineAt, Index))
             Blocks.Delete(Index);
-        const int Place = Bisect(Line, Blocks.Count(), LineAt).Position;
-        Blocks.Insert(Place, {std::move(Line), nullptr});
+        const TBisection Hit = Bisect(Line, Blocks.Count(), LineAt);
+        if (Hit.Found && List.Kind() == skUnique)
+            Blocks.At(Hit.Position).Object = nullptr;
+        else
+            Blocks.Insert(Hit.Position, {std::move(Line), nullptr});
     }
     List.Give(Blocks.Take());
     List.EndUpdate();

@@ -21,6 +21,7 @@ std::string_view ValueOf(std::string_view Line, size_t MaxBytes = MaxListValueBy
 bool FindKeyLine(const TStrings& List, std::string_view Key, int& Index);
 
 // Takes up lines Key=Value as if one after the other: a line of the same key
-// that FindKeyLine finds is deleted, then the new one is inserted with SortInsert.
+// that FindKeyLine finds is deleted, then the new one is inserted with SortInsert
+// and without an object.
 // Costs about as much as merging two ordered lists.
 void MergeKeyLines(TSortList& List, std::vector<std::string> Lines);

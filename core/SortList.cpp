@@ -17,20 +17,14 @@ bool TextLess(const TLine& A, const TLine& B)
     return A.Text < B.Text;
 }
 
-// Puts the indexes of Lines into the order of their texts. True when no two texts
-// are equal.
-bool SortTurn(std::vector<size_t>& Turn, const std::vector<TLine>& Lines)
+// Puts the indexes of Lines into the order of their texts.
+void PutInTurn(std::vector<size_t>& Turn, const std::vector<TLine>& Lines)
 {
     if (Turn.empty()) {
         Turn.resize(Lines.size());
         std::iota(Turn.begin(), Turn.end(), size_t{0});
     }
-    const auto Before = [&](size_t A, size_t B) { return TextLess(Lines[A], Lines[B]); };
-    const auto NotBefore = [&](size_t A, size_t B) { return !Before(A, B); };
-    if (std::adjacent_find(Turn.begin(), Turn.end(), NotBefore) == Turn.end())
-        return true;
-    SortNearlySorted(Turn, Before);
-    return std::adjacent_find(Turn.begin(), Turn.end(), NotBefore) == Turn.end();
+    SortNearlySorted(Turn, [&](size_t A, size_t B) { return TextLess(Lines[A], Lines[B]); });
 }
 
 } // namespace
@@ -81,26 +75,32 @@ void TSortList::SortInsertAll(std::vector<TLine> Lines, std::vector<size_t> Turn
 {
     if (Lines.empty())
         return;
-    if (Lines.size() == 1)
+    if (Lines.size() == 1) {
         SortInsert(Lines[0].Text, Lines[0].Object);
-    else if (!IsInOrder() || !MergeUnambiguous(Lines, std::move(Turn)))
-        InsertOneByOne(std::move(Lines));
+        return;
+    }
+    if (IsInOrder()) {
+        PutInTurn(Turn, Lines);
+        if (IsUnambiguous(Lines, Turn)) {
+            Merge(std::move(Lines), Turn);
+            return;
+        }
+    }
+    InsertOneByOne(std::move(Lines));
 }
 
-// Merges when the outcome does not depend on the turn in which lines come: there
-// are no equal lines with different objects, and in the unique variant no equal
-// lines at all. Otherwise nothing is changed.
-bool TSortList::MergeUnambiguous(std::vector<TLine>& Lines, std::vector<size_t> Turn)
+// Whether the outcome does not depend on the turn in which lines come: there are
+// no equal lines with different objects, and in the unique variant no equal lines
+// at all. Requires: the list and Turn are in order.
+bool TSortList::IsUnambiguous(const std::vector<TLine>& Lines, const std::vector<size_t>& Turn) const
 {
-    const bool AllDiffer = SortTurn(Turn, Lines);
     const auto Ambiguous = [this](const TLine& A, const TLine& B) {
-        return A.Text == B.Text && (FKind == skUnique || A.Object != B.Object);
+        return (FKind == skUnique || A.Object != B.Object) && A.Text == B.Text;
     };
-    const auto First = std::lower_bound(FItems.begin(), FItems.end(), Lines[Turn[0]], TextLess);
-    auto Place = First;
+    auto Place = std::lower_bound(FItems.begin(), FItems.end(), Lines[Turn[0]], TextLess);
     for (size_t I = 0; I < Turn.size(); ++I) {
         const TLine& Line = Lines[Turn[I]];
-        if (!AllDiffer && I > 0 && Ambiguous(Lines[Turn[I - 1]], Line))
+        if (I > 0 && Ambiguous(Lines[Turn[I - 1]], Line))
             return false;
         while (Place != FItems.end() && Place->Text < Line.Text)
             ++Place;
@@ -108,7 +108,14 @@ bool TSortList::MergeUnambiguous(std::vector<TLine>& Lines, std::vector<size_t> 
             if (Ambiguous(*Same, Line))
                 return false;
     }
+    return true;
+}
+
+// Requires as above. What stands before all new lines is not touched.
+void TSortList::Merge(std::vector<TLine> Lines, const std::vector<size_t>& Turn)
+{
     Changing();
+    const auto First = std::lower_bound(FItems.begin(), FItems.end(), Lines[Turn[0]], TextLess);
     std::vector<TLine> Old(std::make_move_iterator(First), std::make_move_iterator(FItems.end()));
     FItems.erase(First, FItems.end());
     FItems.reserve(FItems.size() + Old.size() + Lines.size());
@@ -121,7 +128,6 @@ bool TSortList::MergeUnambiguous(std::vector<TLine>& Lines, std::vector<size_t> 
     FItems.insert(FItems.end(), std::make_move_iterator(Next), std::make_move_iterator(Old.end()));
     const TExpectation Expected(*this, TOrder::InOrder);
     Changed();
-    return true;
 }
 
 void TSortList::InsertOneByOne(std::vector<TLine> Lines)
@@ -139,6 +145,19 @@ void TSortList::InsertOneByOne(std::vector<TLine> Lines)
     FItems = Blocks.Take();
     const TExpectation Expected(*this, FOrder);
     Changed();
+}
+
+void TSortList::AssignInOrder(const TStrings* Source)
+{
+    if (Source == this)
+        return;
+    std::vector<TLine> Lines;
+    for (int I = 0; Source && I < Source->Count(); ++I)
+        Lines.push_back({Source->Get(I), Source->Objects(I)});
+    BeginUpdate();
+    Clear();
+    SortInsertAll(std::move(Lines));
+    EndUpdate();
 }
 
 bool TSortList::IsInOrder() const
@@ -237,14 +256,4 @@ void TSortList::SetUpdateState(bool Updating)
     // The end of a group of changes is announced as one, but changes nothing.
     const TExpectation Expected(*this, FOrder);
     TStringList::SetUpdateState(Updating);
-}
-
-bool SortFind(const TStrings& List, std::string_view S, int& Index)
-{
-    const TBisection Hit = Bisect(S, List.Count(), [&](int I) -> std::string_view { return List.Get(I); });
-    if (Index == -1)
-        Index = Hit.Position;
-    else if (List.Count() > 0)
-        Index = ObjectInteger(List.Objects(Hit.Probe));
-    return Hit.Found;
 }

@@ -23,6 +23,7 @@ public:
     using TLine = TStringList::TItem;
 
     explicit TSortList(TSortKind Kind = skMulti) : FKind(Kind) {}
+    TSortKind Kind() const { return FKind; }
 
     // Searches S; true when a line equals it. Index says what is wanted:
     //   -1      the line's position, or the one where S would be inserted
@@ -36,6 +37,10 @@ public:
     // after the other, in about the time of sorting them. Turn may give their
     // indexes in an order that is expected to be that of the texts.
     void SortInsertAll(std::vector<TLine> Lines, std::vector<size_t> Turn = {});
+
+    // Replaces all lines by those of Source, null for none, with their objects, as
+    // SortInsert puts them.
+    void AssignInOrder(const TStrings* Source);
 
     // Whether every line is at its place. The answer is kept until the list
     // changes, and most changes keep it valid.
@@ -69,16 +74,14 @@ private:
     bool Fits(int Before, std::string_view S, int After) const;
     TOrder OrderWith(int Before, std::string_view S, int After) const;
     void InsertOneByOne(std::vector<TLine> Lines);
-    bool MergeUnambiguous(std::vector<TLine>& Lines, std::vector<size_t> Turn);
+    bool IsUnambiguous(const std::vector<TLine>& Lines, const std::vector<size_t>& Turn) const;
+    void Merge(std::vector<TLine> Lines, const std::vector<size_t>& Turn);
 
     TSortKind FKind;
     mutable TOrder FOrder = TOrder::InOrder;
     TOrder FExpected = TOrder::Unknown; // the order after the change under way
     uint64_t FVersion = 0;
 };
-
-// SortFind for any list of strings.
-bool SortFind(const TStrings& List, std::string_view S, int& Index);
 
 // An attached object that is a number.
 inline TObject* IntegerObject(int Value)

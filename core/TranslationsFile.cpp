@@ -9,6 +9,7 @@
 #include "core/LineBlocks.h"
 #include "core/LineSplitter.h"
 #include "core/NearlySorted.h"
+#include "core/TextFile.h"
 #include "framework/rtl/Files.h"
 #include "framework/rtl/SysUtils.h"
 #include "framework/rtl/Utf8.h"
@@ -140,7 +141,7 @@ bool ForEachTranslation(const std::string& FileName, std::string_view Section,
 {
     if (!FileExists(FileName))
         return false;
-    const std::string Text = ReadWholeFile(FileName);
+    const std::string Text = ReadTextFile(FileName);
     TTranslationsReader Reader(FileName, Text, Section);
     std::string_view Line;
     TTranslation Entry;
@@ -172,7 +173,7 @@ void SaveTranslations(const std::string& FileName, const TTranslationsOwner& Own
     TComposedLines Translated(Owner.Section, Owner.Locale, Translations);
     TComposedLines Untranslated(Owner.Section, DefaultsLocale, Defaults);
     const TFileLock Lock(FileName);
-    const std::string Text = FileExists(FileName) ? ReadWholeFile(FileName) : std::string();
+    const std::string Text = FileExists(FileName) ? ReadTextFile(FileName) : std::string();
     TViews Lines = KeptLines(FileName, Text, Owner);
     if (std::is_sorted(Lines.begin(), Lines.end()))
         Lines = Merged(Lines, Merged(Translated.InOrder(), Untranslated.InOrder()));

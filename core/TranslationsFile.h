@@ -11,7 +11,8 @@
 //   Value    the rest of the line; at most 4095 bytes, cut between characters
 //
 // Lines are in the order of Bisection.h. They end at CR LF, LF or CR when read and
-// at CR LF when written. docs/formats.md has an example.
+// at CR LF when written; a byte-order mark in front is read and not written.
+// docs/formats.md has an example.
 #pragma once
 
 #include <functional>
@@ -37,9 +38,9 @@ struct TTranslationsOwner {
 
 // Calls Visit for each entry of a section, in the order of the file. False, and
 // no call, when there is no such file.
-// Throws EFOpenError and EReadError; EConvertError "lang.txt:12: locale '1O53' is
-// not a number" when an entry of this section has a malformed locale; that may be
-// after calls of Visit.
+// Throws as ReadTextFile (core/TextFile.h); EConvertError "lang.txt:12: locale
+// '1O53' is not a number" when an entry of this section has a malformed locale;
+// that may be after calls of Visit.
 bool ForEachTranslation(const std::string& FileName, std::string_view Section,
                         const std::function<void(const TTranslation&)>& Visit);
 

@@ -7,5 +7,6 @@
 // for translation: a property that controls show (captions, hints, items, column
 // titles...) whose literal Value has a letter of any script. Names of fonts and
 // fields, queries, formats and the like are not, nor is a text that is only the
-// component's own name, which no author has set.
+// component's own name, which no author has set. Throws EConvertError when Value is
+// a malformed literal.
 bool IsVisibleText(std::string_view Key, std::string_view Value);

@@ -1,20 +1,31 @@
 #include "demo/BookingDesk.h"
 
+#include "framework/rtl/SysUtils.h"
+
+namespace {
+
+TDateTime At(int Hours, int Minutes)
+{
+    return EncodeTime(Hours, Minutes, 0, 0);
+}
+
+} // namespace
+
 std::string TSailing::Title() const
 {
-    return Departure + "  " + From + " - " + To;
+    return FormatDateTime(ShortTimeFormat, Departure) + "  " + From + " - " + To;
 }
 
 TBookingDesk::TBookingDesk()
     : FSailings{
-          {"06:30", "Nyholm", "Stora Rev", "Grisslan", TRoute::Northern, 84, 12.5, "A1", "06:10", "1"},
-          {"07:45", "Nyholm", "Ekudden", "Tärnan", TRoute::Southern, 61, 9.8, "A2", "07:25", "3"},
-          {"09:15", "Nyholm", "Stora Rev", "Grisslan", TRoute::Northern, 40, 12.5, "A1", "08:55", "1"},
-          {"10:00", "Ekudden", "Lilla Bådan", "Måsen", TRoute::Southern, 118, 7.2, "B1", "09:40", "2"},
-          {"12:20", "Nyholm", "Lilla Bådan", "Tärnan", TRoute::Southern, 57, 14, "A2", "12:00", "3"},
-          {"15:30", "Nyholm", "Gråhamn", "Lasse", TRoute::Freight, 12, 48, "C4", "14:45", "6"},
-          {"18:05", "Nyholm", "Stora Rev", "Grisslan", TRoute::Northern, 96, 12.5, "A1", "17:45", "1"},
-          {"22:40", "Nyholm", "Gråhamn", "Ejdern", TRoute::Overnight, 203, 36.4, "B2", "21:55", "5"},
+          {At(6, 30), "Nyholm", "Stora Rev", "Grisslan", TRoute::Northern, 84, 12.5, "A1", At(6, 10), "1"},
+          {At(7, 45), "Nyholm", "Ekudden", "Tärnan", TRoute::Southern, 61, 9.8, "A2", At(7, 25), "3"},
+          {At(9, 15), "Nyholm", "Stora Rev", "Grisslan", TRoute::Northern, 40, 12.5, "A1", At(8, 55), "1"},
+          {At(10, 0), "Ekudden", "Lilla Bådan", "Måsen", TRoute::Southern, 118, 7.2, "B1", At(9, 40), "2"},
+          {At(12, 20), "Nyholm", "Lilla Bådan", "Tärnan", TRoute::Southern, 57, 14, "A2", At(12, 0), "3"},
+          {At(15, 30), "Nyholm", "Gråhamn", "Lasse", TRoute::Freight, 12, 48, "C4", At(14, 45), "6"},
+          {At(18, 5), "Nyholm", "Stora Rev", "Grisslan", TRoute::Northern, 96, 12.5, "A1", At(17, 45), "1"},
+          {At(22, 40), "Nyholm", "Gråhamn", "Ejdern", TRoute::Overnight, 203, 36.4, "B2", At(21, 55), "5"},
       }
 {
 }

@@ -5,10 +5,12 @@
 #include <string>
 #include <vector>
 
+#include "framework/rtl/DateTime.h"
+
 enum class TRoute { Northern, Southern, Overnight, Freight };
 
 struct TSailing {
-    std::string Departure; // hours and minutes
+    TDateTime Departure; // of any day
     std::string From;
     std::string To;
     std::string Vessel;
@@ -16,10 +18,10 @@ struct TSailing {
     int FreePlaces;
     double Fare; // euros
     std::string Gate;
-    std::string CheckIn; // hours and minutes; when it closes
+    TDateTime CheckIn; // when it closes
     std::string Lane;
 
-    // "09:15  Nyholm - Stora Rev"
+    // "09:15  Nyholm - Stora Rev", in the present time format
     std::string Title() const;
 };
 

@@ -1,18 +1,27 @@
 #include "demo/Language.h"
 
-#include "Qft/Qft.h"
+#include "Qlt/Qlt.h"
 #include "framework/forms/Forms.h"
-#include "framework/forms/Menus.h"
 
 namespace {
 
-constexpr TLanguage Known[] = {{0, "en", "English"},
-                               {1053, "sv", "Swedish"},
-                               {1031, "de", "German"},
-                               {1041, "ja", "Japanese"},
-                               {1025, "ar", "Arabic"}};
+constexpr TLanguage Known[] = {{0x409, "en", "English (United States)", true},
+                               {0x809, "en-gb", "English (United Kingdom)", true},
+                               {0x41D, "sv", "Swedish", false},
+                               {0x407, "de", "German", false},
+                               {0x411, "ja", "Japanese", false},
+                               {0x401, "ar", "Arabic", false}};
 
-int Current = 0;
+TLocaleTranslator& FindTranslator()
+{
+    for (int I = 0; I < Application->ComponentCount(); ++I) {
+        const TComponent& Form = *Application->Components(I);
+        for (int J = 0; J < Form.ComponentCount(); ++J)
+            if (auto* const Translator = dynamic_cast<TLocaleTranslator*>(Form.Components(J)))
+                return *Translator;
+    }
+    throw EComponentError("No form has a locale translator");
+}
 
 } // namespace
 
@@ -21,24 +30,16 @@ std::span<const TLanguage> Languages()
     return Known;
 }
 
+void AddSystemLocales(TLocaleTranslator& Translator)
+{
+    TSortList List;
+    for (const TLanguage& Language : Known)
+        Translator.AddOrgProps(Language.Locale, List);
+    Translator.SetTranslations(&List);
+    Translator.UpdateAdoptOn();
+}
+
 void SwitchLanguage(int Locale)
 {
-    for (int I = 0; I < Application->ComponentCount(); ++I) {
-        TComponent& Form = *Application->Components(I);
-        for (int J = 0; J < Form.ComponentCount(); ++J)
-            if (auto* const Translator = dynamic_cast<TFormTranslator*>(Form.Components(J)))
-                Translator->SetTranslate(Translator->Locale() == Locale);
-    }
-    Current = Locale;
-}
-
-int CurrentLanguage()
-{
-    return Current;
-}
-
-void MarkLanguage(TMenuItem& Menu)
-{
-    for (int I = 0; I < Menu.Count(); ++I)
-        Menu.Items(I)->SetChecked(Menu.Items(I)->Tag() == Current);
+    FindTranslator().TranslateLocale(Locale);
 }

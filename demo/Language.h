@@ -3,23 +3,22 @@
 
 #include <span>
 
-class TMenuItem;
+class TLocaleTranslator;
 
 struct TLanguage {
-    int Locale;       // Windows locale identifier; 0 for the language of the form files
+    int Locale;       // Windows locale identifier
     const char* Code; // in names of picture files
     const char* Name;
+    bool IsOwn; // the language of the form files; the others have translators
 };
 
-// English, which the forms are made in, comes first.
+// The first one is the program's own.
 std::span<const TLanguage> Languages();
 
-// Shows all forms of the application in the language of that locale identifier;
-// 0 gives them back their own texts.
+// Gives the translator the entries of the program's languages as the system has
+// them, and shows them in its selector.
+void AddSystemLocales(TLocaleTranslator& Translator);
+
+// Shows all forms of the application in a language, as its locale translator
+// does. Requires: a form with one.
 void SwitchLanguage(int Locale);
-
-// The language that SwitchLanguage was last called with.
-int CurrentLanguage();
-
-// Sets the mark of the item, among Menu's items, whose Tag is the current language.
-void MarkLanguage(TMenuItem& Menu);

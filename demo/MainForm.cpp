@@ -1,12 +1,12 @@
 #include "demo/MainForm.h"
 
 #include <algorithm>
-#include <cstdio>
 
+#include "Qlt/Qlt.h"
 #include "demo/AboutForm.h"
 #include "demo/BookingForm.h"
 #include "demo/FormParts.h"
-#include "demo/Language.h"
+#include "demo/LanguageForm.h"
 #include "demo/OptionsForm.h"
 #include "framework/forms/ComboBoxes.h"
 #include "framework/forms/Edits.h"
@@ -17,14 +17,18 @@
 #include "framework/forms/PushButtons.h"
 #include "framework/forms/StatusBars.h"
 #include "framework/forms/ToolBars.h"
+#include "framework/rtl/SysUtils.h"
 
 namespace {
 
 std::string FareText(double Fare)
 {
-    char Text[32];
-    std::snprintf(Text, sizeof Text, "%.2f", Fare);
-    return Text;
+    return FloatToStrF(Fare, TFloatFormat::ffNumber, 15, 2);
+}
+
+std::string TimeText(TDateTime Time)
+{
+    return FormatDateTime(ShortTimeFormat, Time);
 }
 
 } // namespace
@@ -48,7 +52,7 @@ const TMetaClass& TMainForm::MetaClass()
                                    Published<&TMainForm::ItemStatusBarClick>("ItemStatusBarClick"),
                                    Published<&TMainForm::ItemByDepartureClick>("ItemByDepartureClick"),
                                    Published<&TMainForm::ItemByVesselClick>("ItemByVesselClick"),
-                                   Published<&TMainForm::ItemLanguageClick>("ItemLanguageClick"),
+                                   Published<&TMainForm::ItemFormatsClick>("ItemFormatsClick"),
                                    Published<&TMainForm::ItemRulesClick>("ItemRulesClick"),
                                    Published<&TMainForm::ItemAboutClick>("ItemAboutClick")});
     return Class;
@@ -57,7 +61,7 @@ const TMetaClass& TMainForm::MetaClass()
 void TMainForm::Loaded()
 {
     inherited::Loaded();
-    FindPart(*this, "MnuLanguage", MnuLanguage);
+    FindPart(*this, "Locales", Locales);
     FindPart(*this, "ItemToolBar", ItemToolBar);
     FindPart(*this, "ItemStatusBar", ItemStatusBar);
     FindPart(*this, "ItemByDeparture", ItemByDeparture);
@@ -66,6 +70,7 @@ void TMainForm::Loaded()
     FindPart(*this, "StatusBar1", StatusBar1);
     FindPart(*this, "LbxRoutes", LbxRoutes);
     FindPart(*this, "CbxTraffic", CbxTraffic);
+    FindPart(*this, "LblTodayValue", LblTodayValue);
     FindPart(*this, "LvwSailings", LvwSailings);
     FindPart(*this, "MemRules", MemRules);
     FindPart(*this, "LblVesselValue", LblVesselValue);
@@ -78,8 +83,19 @@ void TMainForm::FormCreate(TObject*)
 {
     LbxRoutes->SetItemIndex(0);
     CbxTraffic->SetItemIndex(0);
-    MarkLanguage(*MnuLanguage);
+    Locales->OnTranslated = {this, &TMainForm::LocaleChanged};
+    LocaleChanged(Locales);
+}
+
+void TMainForm::LocaleChanged(TObject*)
+{
+    const TListItem* const Item = LvwSailings->Selected();
+    const int Row = Item ? Item->Index() : 0;
+    LblTodayValue->SetCaption(FormatDateTime(LongDateFormat, Date()));
     ListSailings();
+    SelectRow(Row);
+    if (LanguageForm)
+        LanguageForm->ShowFormats();
 }
 
 void TMainForm::ListSailings()
@@ -99,7 +115,7 @@ void TMainForm::ListSailings()
     for (const int Row : FRows) {
         const TSailing& Sailing = Sailings[static_cast<size_t>(Row)];
         TListItem* const Item = LvwSailings->Items()->Add();
-        Item->SetCaption(Sailing.Departure);
+        Item->SetCaption(TimeText(Sailing.Departure));
         for (const std::string& Text : {Sailing.From, Sailing.To, Sailing.Vessel,
                                         std::to_string(Sailing.FreePlaces), FareText(Sailing.Fare)})
             Item->SubItems()->Add(Text);
@@ -127,7 +143,7 @@ void TMainForm::ShowSelected()
     const TSailing Sailing = Selected < 0 ? TSailing{} : FDesk.Sailings()[static_cast<size_t>(Selected)];
     LblVesselValue->SetCaption(Sailing.Vessel);
     LblGateValue->SetCaption(Sailing.Gate);
-    LblCheckInValue->SetCaption(Sailing.CheckIn);
+    LblCheckInValue->SetCaption(TimeText(Sailing.CheckIn));
     LblLaneValue->SetCaption(Sailing.Lane);
 }
 
@@ -257,10 +273,9 @@ void TMainForm::ItemByVesselClick(TObject*)
     ListSailings();
 }
 
-void TMainForm::ItemLanguageClick(TObject* Sender)
+void TMainForm::ItemFormatsClick(TObject*)
 {
-    SwitchLanguage(static_cast<TMenuItem*>(Sender)->Tag());
-    MarkLanguage(*MnuLanguage);
+    LanguageForm->Show();
 }
 
 void TMainForm::ItemRulesClick(TObject*)

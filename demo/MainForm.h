@@ -12,6 +12,7 @@ class TGroupBox;
 class TLabel;
 class TListBox;
 class TListView;
+class TLocaleTranslator;
 class TMemo;
 class TMenuItem;
 class TStatusBar;
@@ -22,7 +23,7 @@ class TMainForm : public TForm {
 public:
     explicit TMainForm(TComponent* Owner) : TForm(Owner) {}
 
-    TMenuItem* MnuLanguage = nullptr;
+    TLocaleTranslator* Locales = nullptr;
     TMenuItem* ItemToolBar = nullptr;
     TMenuItem* ItemStatusBar = nullptr;
     TMenuItem* ItemByDeparture = nullptr;
@@ -31,6 +32,7 @@ public:
     TStatusBar* StatusBar1 = nullptr;
     TListBox* LbxRoutes = nullptr;
     TComboBox* CbxTraffic = nullptr;
+    TLabel* LblTodayValue = nullptr;
     TListView* LvwSailings = nullptr;
     TMemo* MemRules = nullptr;
     TLabel* LblVesselValue = nullptr;
@@ -57,11 +59,12 @@ public:
     void ItemStatusBarClick(TObject* Sender);
     void ItemByDepartureClick(TObject* Sender);
     void ItemByVesselClick(TObject* Sender);
-    void ItemLanguageClick(TObject* Sender);
+    void ItemFormatsClick(TObject* Sender);
     void ItemRulesClick(TObject* Sender);
     void ItemAboutClick(TObject* Sender);
 
 private:
+    void LocaleChanged(TObject* Sender);
     void ListSailings();
     void SelectRow(int Row);
     void ShowSelected();

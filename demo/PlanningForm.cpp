@@ -1,5 +1,6 @@
 #include "demo/PlanningForm.h"
 
+#include "Qlt/Qlt.h"
 #include "demo/BerthsForm.h"
 #include "demo/CrewForm.h"
 #include "demo/FormParts.h"
@@ -13,7 +14,6 @@ const TMetaClass& TPlanningForm::MetaClass()
                                    Published<&TPlanningForm::ItemBerthsClick>("ItemBerthsClick"),
                                    Published<&TPlanningForm::ItemCrewClick>("ItemCrewClick"),
                                    Published<&TPlanningForm::ItemExitClick>("ItemExitClick"),
-                                   Published<&TPlanningForm::ItemLanguageClick>("ItemLanguageClick"),
                                    Published<&TPlanningForm::ItemCascadeClick>("ItemCascadeClick"),
                                    Published<&TPlanningForm::ItemTileClick>("ItemTileClick"),
                                    Published<&TPlanningForm::ItemArrangeClick>("ItemArrangeClick")});
@@ -23,12 +23,12 @@ const TMetaClass& TPlanningForm::MetaClass()
 void TPlanningForm::Loaded()
 {
     inherited::Loaded();
-    FindPart(*this, "MnuLanguage", MnuLanguage);
+    FindPart(*this, "Locales", Locales);
 }
 
 void TPlanningForm::FormCreate(TObject*)
 {
-    MarkLanguage(*MnuLanguage);
+    AddSystemLocales(*Locales);
 }
 
 void TPlanningForm::ItemBerthsClick(TObject*)
@@ -44,12 +44,6 @@ void TPlanningForm::ItemCrewClick(TObject*)
 void TPlanningForm::ItemExitClick(TObject*)
 {
     Close();
-}
-
-void TPlanningForm::ItemLanguageClick(TObject* Sender)
-{
-    SwitchLanguage(static_cast<TMenuItem*>(Sender)->Tag());
-    MarkLanguage(*MnuLanguage);
 }
 
 void TPlanningForm::ItemCascadeClick(TObject*)

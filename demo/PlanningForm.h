@@ -3,14 +3,14 @@
 
 #include "framework/forms/Forms.h"
 
-class TMenuItem;
+class TLocaleTranslator;
 
 class TPlanningForm : public TForm {
     OBX_CLASS(TForm)
 public:
     explicit TPlanningForm(TComponent* Owner) : TForm(Owner) {}
 
-    TMenuItem* MnuLanguage = nullptr;
+    TLocaleTranslator* Locales = nullptr;
 
     void Loaded() override;
 
@@ -19,7 +19,6 @@ public:
     void ItemBerthsClick(TObject* Sender);
     void ItemCrewClick(TObject* Sender);
     void ItemExitClick(TObject* Sender);
-    void ItemLanguageClick(TObject* Sender);
     void ItemCascadeClick(TObject* Sender);
     void ItemTileClick(TObject* Sender);
     void ItemArrangeClick(TObject* Sender);

@@ -1,11 +1,12 @@
 #include "demo/Programs.h"
 
 #include "Qft/Qft.h"
+#include "Qlt/Qlt.h"
 #include "demo/AboutForm.h"
 #include "demo/BerthsForm.h"
 #include "demo/BookingForm.h"
 #include "demo/CrewForm.h"
-#include "demo/Language.h"
+#include "demo/LanguageForm.h"
 #include "demo/MainForm.h"
 #include "demo/OptionsForm.h"
 #include "demo/PlanningForm.h"
@@ -16,24 +17,25 @@ void RegisterDemoForms()
 {
     RegisterStandardClasses();
     RegisterClass(TFormTranslator::MetaClass());
+    RegisterClass(TLocaleTranslator::MetaClass());
     RegisterOrbilexDemoForms();
 }
 
 std::vector<TForm*> CreateBookingDesk()
 {
-    SwitchLanguage(0);
     Application->SetTitle("Booking Desk");
     TMainForm* MainForm = nullptr;
     Application->CreateForm(MainForm);
     Application->CreateForm(BookingForm);
     Application->CreateForm(OptionsForm);
     Application->CreateForm(AboutForm);
-    return {MainForm, BookingForm, OptionsForm, AboutForm};
+    Application->CreateForm(LanguageForm);
+    LanguageForm->SetTranslator(*MainForm->Locales);
+    return {MainForm, BookingForm, OptionsForm, AboutForm, LanguageForm};
 }
 
 std::vector<TForm*> CreatePlanning()
 {
-    SwitchLanguage(0);
     Application->SetTitle("Harbour Planning");
     TPlanningForm* Frame = nullptr;
     Application->CreateForm(Frame);

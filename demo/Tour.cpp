@@ -9,6 +9,7 @@
 #include "demo/BookingForm.h"
 #include "demo/FormTexts.h"
 #include "demo/Language.h"
+#include "demo/LanguageForm.h"
 #include "demo/OptionsForm.h"
 #include "demo/Programs.h"
 #include "framework/forms/PageControls.h"
@@ -36,6 +37,7 @@ public:
 
 private:
     void ShowLanguage(const TLanguage& Language);
+    void ShowSelectors();
     void PrintChanges(const TFormState& State) const;
     void TakePictures(TForm& Form, const TLanguage& Language);
     void TakePicture(TForm& Form, const std::string& Name);
@@ -86,7 +88,7 @@ void FillSample()
     Booking.Mail = "asa@example.se";
     Booking.Places = 2;
     Booking.HasVehicle = true;
-    BookingForm->Fill("09:15  Nyholm - Stora Rev", Booking);
+    BookingForm->Fill(TBookingDesk().Sailings().front().Title(), Booking);
 }
 
 void TTour::Visit(const std::function<std::vector<TForm*>()>& Create)
@@ -102,6 +104,7 @@ void TTour::Visit(const std::function<std::vector<TForm*>()>& Create)
         FStates.push_back({Form, {}, ""});
     }
     Application->ProcessMessages();
+    SwitchLanguage(Languages().front().Locale);
     const std::string Translations = ReadWholeFile(TranslationsFile());
     for (TFormState& State : FStates) {
         State.Lines = ReadFormLines(*State.Form);
@@ -109,9 +112,11 @@ void TTour::Visit(const std::function<std::vector<TForm*>()>& Create)
     }
     for (const TLanguage& Language : Languages())
         ShowLanguage(Language);
-    SwitchLanguage(0);
+    SwitchLanguage(Languages().front().Locale);
     Application->ProcessMessages();
     CheckRestored(Translations);
+    if (LanguageForm)
+        ShowSelectors();
 }
 
 void TTour::ShowLanguage(const TLanguage& Language)
@@ -123,6 +128,15 @@ void TTour::ShowLanguage(const TLanguage& Language)
         PrintChanges(State);
     for (const TFormState& State : FStates)
         TakePictures(*State.Form, Language);
+}
+
+void TTour::ShowSelectors()
+{
+    for (int I = 0; I < LanguageForm->SelectorCount(); ++I) {
+        LanguageForm->UseSelector(I);
+        SwitchLanguage(Languages()[static_cast<size_t>(I) % Languages().size()].Locale);
+        TakePicture(*LanguageForm, "selector" + std::to_string(I + 1));
+    }
 }
 
 void TTour::PrintChanges(const TFormState& State) const

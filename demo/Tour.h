@@ -6,5 +6,6 @@
 // Shows every form in every language: writes a picture of each into the folder,
 // which is made when missing, and prints what changed. Ends in the forms' own
 // language and checks that every property is what it was, and the forms, written
-// as form files, too. Returns what main returns: 0, or 1 when something failed.
+// as form files, too; then shows each kind of
+// language selector. Returns what main returns: 0, or 1 when something failed.
 int RunTour(const std::string& Folder);

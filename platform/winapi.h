@@ -22,6 +22,7 @@
 
 #include "platform/portable/winbase.h"
 #include "platform/portable/wingdi.h"
+#include "platform/portable/winnls.h"
 #include "platform/portable/winreg.h"
 #include "platform/portable/wintypes.h"
 #include "platform/portable/winuser.h"

@@ -308,27 +308,6 @@ TEST_F(TComCtrls, RangesHoldTheirPosition)
     EXPECT_EQ(Shown.wHour, 18);
 }
 
-TEST(DateTimes, AreDaysSinceTheEndOf1899)
-{
-    const struct {
-        double Value;
-        int Year, Month, Day, DayOfWeek;
-    } Cases[] = {
-        {2, 1900, 1, 1, 1},       {36526, 2000, 1, 1, 6},    {36585, 2000, 2, 29, 2},
-        {38353.5, 2005, 1, 1, 6}, {46022, 2025, 12, 31, 3},  {73050, 2099, 12, 31, 4},
-        {-109205, 1601, 1, 1, 1}, {401768, 2999, 12, 31, 2},
-    };
-    for (const auto& Case : Cases) {
-        const SYSTEMTIME Time = DateTimeToSystemTime(Case.Value);
-        SCOPED_TRACE(Case.Value);
-        EXPECT_EQ(Time.wYear, Case.Year);
-        EXPECT_EQ(Time.wMonth, Case.Month);
-        EXPECT_EQ(Time.wDay, Case.Day);
-        EXPECT_EQ(Time.wDayOfWeek, Case.DayOfWeek);
-        EXPECT_EQ(SystemTimeToDateTime(Time), Case.Value);
-    }
-}
-
 // Items and nodes are bytes in form files; they must show, and go back unchanged.
 TEST_F(TComCtrls, StoredItemsAreShownAndKept)
 {

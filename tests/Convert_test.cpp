@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "framework/rtl/SysUtils.h"
+#include "tests/FormatVarsScope.h"
 
 namespace {
 
@@ -20,10 +21,9 @@ std::string ErrorOf(TAction Action)
     return "no error";
 }
 
-class TDecimalComma {
+class TDecimalComma : TFormatVarsScope {
 public:
     TDecimalComma() { DecimalSeparator = ","; }
-    ~TDecimalComma() { DecimalSeparator = "."; }
 };
 
 } // namespace
@@ -97,6 +97,7 @@ TEST(Convert, WritesFloats)
         {1.5e300, "1.5E300"},
         {std::numeric_limits<double>::max(), "1.79769313486232E308"},
         {std::numeric_limits<double>::infinity(), "INF"},
+        {std::numeric_limits<double>::denorm_min(), "4.94065645841247E-324"},
         {-std::numeric_limits<double>::infinity(), "-INF"},
         {std::numeric_limits<double>::quiet_NaN(), "NAN"},
     };
@@ -147,6 +148,60 @@ TEST(Convert, FloatsSurviveTheirText)
         const TExtended Near = StrToFloat(FloatToStr(Value));
         ASSERT_LE(std::fabs(Near - Value), std::fabs(Value) * 5.1e-15L) << Exact;
     }
+}
+
+TEST(Convert, CurrencyIsExact)
+{
+    const TFormatVarsScope Scope;
+    const TCurrency Most = TCurrency::FromTenThousandths(INT64_MAX);
+    const TCurrency Least = TCurrency::FromTenThousandths(INT64_MIN);
+    const struct {
+        TCurrency Value;
+        const char* Expected;
+    } Cases[] = {
+        {0, "0"},
+        {-5, "-5"},
+        {0.1, "0.1"},
+        {0.00005L, "0"}, // halves to the even side
+        {0.00015L, "0.0002"},
+        {-0.00025L, "-0.0002"},
+        {1234.5678, "1234.5678"},
+        {TCurrency::FromTenThousandths(std::int64_t{1}), "0.0001"},
+        {Most, "922337203685477.5807"},
+        {Least, "-922337203685477.5808"},
+    };
+    for (const auto& Case : Cases) {
+        EXPECT_EQ(CurrToStr(Case.Value), Case.Expected);
+        EXPECT_EQ(StrToCurr(Case.Expected), Case.Value);
+    }
+    EXPECT_EQ(Format("%n|%m|%.4f|%g", {Most, Least, Most, TCurrency(2.5)}),
+              "922,337,203,685,477.58|($922,337,203,685,477.58)|922337203685477.5807|2.5");
+    EXPECT_EQ(CurrToStrF(-1.005L, TFloatFormat::ffCurrency, 2), "($1.01)");
+    EXPECT_EQ(FormatCurr("#,##0.00##;[0.00]", Least), "[922337203685477.58]");
+    EXPECT_EQ(FormatCurr("#,##0.00##;[0.00]", Most), "922,337,203,685,477.5807");
+    EXPECT_EQ(TCurrency(0.1) + TCurrency(0.2) - TCurrency(0.3), TCurrency(0));
+    DecimalSeparator = "\xC2\xB7";
+    EXPECT_EQ(StrToCurr(" -12\xC2\xB7"
+                        "5e1 "),
+              TCurrency(-125));
+}
+
+TEST(Convert, CurrencyRefusesWhatDoesNotFit)
+{
+    for (const char* Text : {"", "$1", "1,234", "922337203685477.5808", "1e400", "x"}) {
+        EXPECT_EQ(ErrorOf([&] { StrToCurr(Text); }),
+                  "'" + std::string(Text) + "' is not a valid floating point value");
+        EXPECT_EQ(StrToCurrDef(Text, 7), TCurrency(7));
+    }
+    const TCurrency Most = TCurrency::FromTenThousandths(INT64_MAX);
+    const TCurrency Least = TCurrency::FromTenThousandths(INT64_MIN);
+    EXPECT_THROW(Most + Most, EIntOverflow);
+    EXPECT_THROW(Least - Most, EIntOverflow);
+    EXPECT_THROW(TCurrency(0) - Least, EIntOverflow);
+    EXPECT_THROW(TCurrency(1e15), EIntOverflow);
+    EXPECT_THROW(TCurrency(INT64_MAX), EIntOverflow);
+    EXPECT_THROW(TCurrency(UINT64_MAX), EIntOverflow);
+    EXPECT_THROW(TCurrency(std::numeric_limits<double>::quiet_NaN()), EIntOverflow);
 }
 
 TEST(Texts, ComparesWithoutCase)

@@ -1,6 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "framework/rtl/SysUtils.h"
+#include "tests/FormatVarsScope.h"
 
 namespace {
 
@@ -92,6 +95,7 @@ TEST(Format, Floats)
 
 TEST(Format, FollowsTheFormatVariables)
 {
+    const TFormatVarsScope Scope;
     DecimalSeparator = ",";
     ThousandSeparator = "\xE2\x80\xAF"; // narrow no-break space
     CurrencyString = "\xE2\x82\xAC";
@@ -107,14 +111,111 @@ TEST(Format, FollowsTheFormatVariables)
          "1\xE2\x80\xAF"
          "234,50 \xE2\x82\xAC"},
         {"%10m", {-1.0}, "   -1,00 \xE2\x82\xAC"},
+        {"%f|%g|%e", {0.5, 0.5, 0.5}, "0,50|0,5|5,00000000000000E-001"},
     });
-    NegCurrFormat = 99; // nonsense from a damaged file
-    EXPECT_EQ(Format("%m", {-1.0}), "(\xE2\x82\xAC"
-                                    "1,00)");
-    DecimalSeparator = ".";
-    ThousandSeparator = ",";
-    CurrencyString = "$";
-    CurrencyFormat = NegCurrFormat = 0;
+    CurrencyDecimals = 0;
+    ExpectAll({{"%m|%.3m|%n", {1.0, 1.0, 1.0}, "1 \xE2\x82\xAC|1,000 \xE2\x82\xAC|1,00"}});
+    DecimalSeparator = ThousandSeparator = "";
+    ExpectAll({{"%n", {1234.5}, "123450"}});
+}
+
+TEST(Format, Currency)
+{
+    const TFormatVarsScope Scope;
+    const char* const Positive[] = {"$1.00", "1.00$", "$ 1.00", "1.00 $"};
+    const char* const Negative[] = {"($1.00)", "-$1.00",  "$-1.00",   "$1.00-",  "(1.00$)", "-1.00$",
+                                    "1.00-$",  "1.00$-",  "-1.00 $",  "-$ 1.00", "1.00 $-", "$ 1.00-",
+                                    "$ -1.00", "1.00- $", "($ 1.00)", "(1.00 $)"};
+    for (CurrencyFormat = 0; CurrencyFormat < 4; ++CurrencyFormat)
+        EXPECT_EQ(Format("%m", {1.0}), Positive[CurrencyFormat]);
+    for (NegCurrFormat = 0; NegCurrFormat < 16; ++NegCurrFormat) {
+        EXPECT_EQ(Format("%m", {-1.0}), Negative[NegCurrFormat]);
+        EXPECT_EQ(Format("%m", {TCurrency(-1)}), Negative[NegCurrFormat]);
+    }
+    // Nonsense from a damaged file.
+    for (const int Nonsense : {16, 99, 255, -1}) {
+        NegCurrFormat = CurrencyFormat = Nonsense;
+        EXPECT_EQ(Format("%m %m", {-1.0, 1.0}), "($1.00) $1.00");
+    }
+    // Rounded to zero there is no sign.
+    EXPECT_EQ(Format("%m", {-0.004}), Format("%m", {0.0}));
+}
+
+TEST(FormatFloat, FollowsThePicture)
+{
+    const TExtended Huge = 1e4000L, Tiny = std::numeric_limits<TExtended>::denorm_min();
+    const struct {
+        const char* Picture;
+        TExtended Value;
+        const char* Expected;
+    } Cases[] = {
+        {"0", 1234.5L, "1235"},
+        {"0", 0.5L, "1"},
+        {"0", -0.5L, "-1"},
+        {"0", -0.4L, "0"},
+        {"0.00", 1.005L, "1.01"},
+        {"0.00", 999.995L, "1000.00"},
+        {"0.00", -0.001L, "0.00"},
+        {"#.##", 0.5L, ".5"},
+        {"#.##", 5, "5"},
+        {"#.##", 0, ""},
+        {"#.#0", 5, "5.00"},
+        {"0.", 5, "5"},
+        {"00000.###", 12.25L, "00012.25"},
+        {"0#0", 7, "007"},
+        {".00", 123.456L, "123.46"},
+        {"0.0.0", 1.25L, "1.25"},
+        {"#,##0.00", 1234567.891L, "1,234,567.89"},
+        {"#,##0.00", 12, "12.00"},
+        {",0", 999999.5L, "1,000,000"},
+        {"0,", 1234, "1,234"},
+        {"0000000,", 1234, "0,001,234"},
+        {"#-##-##", 12345, "1-23-45"},
+        {"(##) ##", 12345, "(123) 45"},
+        {"$0", -5, "-$5"},
+        {"0.00;(0.00)", -5, "(5.00)"},
+        {"0.00;(0.00)", -0.001L, "0.00"},
+        {"0.00;;zero", -5, "-5.00"},
+        {"0.00;(0.00);zero", 0, "zero"},
+        {"0.00;(0.00);zero", -0.001L, "zero"},
+        {"0;neg;", 0, "0"},
+        {"0;0;0;0", -1, "1"}, // there is no fourth section
+        {"';'0';';\"-;\"0", -1, "-;1"},
+        {"", 1234.5L, "1234.5"},
+        {";(0)", 1234.5L, "1234.5"},
+        {";(0)", -2, "(2)"},
+        {"0.00E+00", 1234.5L, "1.23E+03"},
+        {"0.00e-0", 1234.5L, "1.23e3"},
+        {"#.##E-00", 0.00012L, "1.2E-04"},
+        {"00.0E+0", 12345, "12.3E+3"},
+        {"0.0E+0", 9.96L, "1.0E+1"},
+        {"0E+0000000", 1, "1E+0000"},
+        {"0.00E+00", 0, "0.00E+00"},
+        {"0.0E+0", -12, "-1.2E+1"},
+        {"0.###E+0", Huge, "1E+4000"},
+        {"0.0E+0", Tiny, sizeof(TExtended) > 8 ? "3.6E-4951" : "4.9E-324"},
+        {"0.00", Huge, "1E4000"},
+        {"0.00", 1e18L, "1E18"},
+        {"0.0", 123456789012345678.0L, "123456789012345678.0"},
+        {"0.000000000000000000000", 0.1L, "0.100000000000000000000"},
+        {"0 'km/h'", 5, "5 km/h"},
+        {"\"#\"0", 5, "#5"},
+        {"0 'open", 5, "5 open"},
+        {"0 '", 5, "5 "},
+        {"text", -5, "-text"},
+        {"0 E", 5, "5 E"},
+        {"0\xE2\x82\xAC", 5, "5\xE2\x82\xAC"},
+        {"0", std::numeric_limits<TExtended>::infinity(), "INF"},
+        {"0", std::numeric_limits<TExtended>::quiet_NaN(), "NAN"},
+    };
+    for (const auto& Case : Cases)
+        EXPECT_EQ(FormatFloat(Case.Picture, Case.Value), Case.Expected) << Case.Picture;
+    const TFormatVarsScope Scope;
+    DecimalSeparator = "\xD9\xAB";
+    ThousandSeparator = "\xC2\xA0";
+    EXPECT_EQ(FormatFloat("#,##0.0", 1234.5L), "1\xC2\xA0"
+                                               "234\xD9\xAB"
+                                               "5");
 }
 
 TEST(Format, RefusesWhatDoesNotFit)

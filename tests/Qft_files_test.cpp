@@ -1,11 +1,15 @@
 // The form translator among forms and files: peers, storage, saving and loading.
 #include <filesystem>
+#include <tuple>
+#include <utility>
+#include <vector>
 
 #include <gtest/gtest.h>
 
 #include "Qft/Qft.h"
 #include "framework/design/ToolServices.h"
-#include "framework/forms/Application.h"
+#include "framework/forms/Forms.h"
+#include "framework/forms/Menus.h"
 #include "framework/rtl/Files.h"
 #include "framework/rtl/SysUtils.h"
 #include "tests/SampleComponent.h"
@@ -154,6 +158,146 @@ TEST_F(FormFiles, TranslatesTheWindowMenu)
     GetMenuStringA(Menu, SC_CLOSE, Text, sizeof Text, MF_BYCOMMAND);
     EXPECT_STREQ(Text, "St\xC3\xA4ng\tAlt+F4");
     EXPECT_EQ(Lines(), Before) << "reading restores";
+}
+
+// A handler breaks off a reading: the list being filled is gone then.
+TEST_F(FormFiles, ForgetsListsThatAreGone)
+{
+    struct TFailure : TObject {
+        void Go(TObject*, TComponent*, TStrings*, bool&) { throw EConvertError("no"); }
+    } Failure;
+    ReplaceWholeFile(Name, "text\tTitel\r\n");
+    using TDeed = void (*)(TFormTranslator&, const std::string&);
+    const TDeed Deeds[] = {
+        [](TFormTranslator& Translator, const std::string& File) { Translator.SaveTo(File); },
+        [](TFormTranslator& Translator, const std::string& File) { Translator.TranslateTo(File); },
+        [](TFormTranslator& Translator, const std::string& File) { Translator.TranslateFrom(File); },
+    };
+    TFormTranslator* const Translator = AddForm(Application, "F1", 1053, "ett");
+    Translator->OnTranslateComponent = {&Failure, &TFailure::Go};
+    for (const TDeed Deed : Deeds) {
+        const std::string Before = Content();
+        const int Cursor = Screen->Cursor();
+        EXPECT_THROW(Deed(*Translator, Name), EConvertError);
+        int Index = 0;
+        EXPECT_FALSE(Translator->WantTranslate("Caption", Index));
+        EXPECT_EQ(Screen->Cursor(), Cursor);
+        EXPECT_EQ(Content(), Before);
+    }
+}
+
+using TMessages = std::vector<std::tuple<UINT, WPARAM, LPARAM>>;
+
+// Watches what is sent to a window, but for what follows from it.
+class TSpy {
+public:
+    explicit TSpy(HWND Window) : FWindow(Window), FFormer(Replace(&Proc)) { Current = this; }
+    ~TSpy()
+    {
+        if (IsWindow(FWindow))
+            Replace(FFormer);
+    }
+    TSpy(const TSpy&) = delete;
+    TSpy& operator=(const TSpy&) = delete;
+
+    TMessages Take() { return std::exchange(FSeen, {}); }
+
+    TComponent* Victim = nullptr; // destroyed by the first message
+
+private:
+    WNDPROC Replace(WNDPROC Value)
+    {
+        return reinterpret_cast<WNDPROC>(
+            SetWindowLongPtrA(FWindow, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Value)));
+    }
+    static LRESULT CALLBACK Proc(HWND Window, UINT Message, WPARAM WParam, LPARAM LParam)
+    {
+        TSpy& Spy = *Current;
+        const bool Counts = Message == WM_MDISETMENU || Message == WM_MDIREFRESHMENU || Message == WM_SIZE;
+        if (Counts && Spy.FDepth == 0)
+            Spy.FSeen.emplace_back(Message, WParam, LParam);
+        ++Spy.FDepth;
+        LRESULT Result = 0;
+        if (Counts && Spy.Victim)
+            delete std::exchange(Spy.Victim, nullptr);
+        else
+            Result = CallWindowProcA(Spy.FFormer, Window, Message, WParam, LParam);
+        --Spy.FDepth;
+        return Result;
+    }
+
+    inline static TSpy* Current = nullptr;
+    HWND FWindow;
+    WNDPROC FFormer;
+    int FDepth = 0;
+    TMessages FSeen;
+};
+
+// A missing message leaves old texts in the window list and the frame's title; a
+// doubled one flickers.
+TEST_F(FormFiles, RefreshesFramesAndDocuments)
+{
+    TForm* Frame = nullptr;
+    Application->CreateForm(Frame);
+    Frame->SetFormStyle(fsMDIForm);
+    auto* const Menu = new TMainMenu(Frame);
+    auto* const Windows = new TMenuItem(Menu);
+    Menu->Items()->Add(Windows);
+    Frame->SetMenu(Menu);
+    Frame->SetWindowMenu(Windows);
+    Frame->Show();
+    auto* const Child = new TForm(Application);
+    Child->SetFormStyle(fsMDIChild);
+    Application->ProcessMessages();
+    const auto Messages = [](TForm* Form, HWND Watched) {
+        auto* const Translator = new TFormTranslator(Form);
+        Translator->Translations()->Add("Caption='Ja'");
+        TSpy Spy(Watched);
+        TSortList Present;
+        Translator->TranslateForm(&Present, true);
+        EXPECT_EQ(Spy.Take(), TMessages()) << "nothing for reading";
+        Translator->Loaded();
+        const TMessages Result = Spy.Take();
+        Translator->SetTranslate(false);
+        EXPECT_EQ(Spy.Take(), Result) << "the same for restoring";
+        return Result;
+    };
+    const auto Handle = reinterpret_cast<UINT_PTR>(Windows->Handle());
+    EXPECT_EQ(Messages(Frame, Frame->ClientHandle()),
+              (TMessages{{WM_MDISETMENU, 1, static_cast<LPARAM>(MAKELPARAM(0, Handle))},
+                         {WM_MDIREFRESHMENU, 1, 0}}));
+    EXPECT_EQ(Messages(Child, Child->Handle()), TMessages()) << "not maximized";
+    Child->SetWindowState(wsMaximized);
+    const LPARAM Size = Child->ClientWidth() + Child->ClientHeight() * LPARAM{65536};
+    const TMessages Sizes = {{WM_SIZE, SIZE_RESTORED, Size}, {WM_SIZE, SIZE_MAXIMIZED, Size}};
+    EXPECT_EQ(Messages(Child, Child->Handle()), Sizes);
+    EXPECT_EQ(Child->WindowState(), wsMaximized);
+
+    auto* const Translator = new TFormTranslator(Child);
+    Translator->Translations()->Add("Caption='Ja'");
+    Translator->SetTranslate(false);
+    TSpy Spy(Child->Handle());
+    Spy.Victim = Child;
+    Translator->SetTranslate(true);
+    EXPECT_EQ(Spy.Take().size(), 1u) << "the form is gone";
+    Frame->SetWindowMenu(nullptr);
+    EXPECT_EQ(Messages(Frame, Frame->ClientHandle()), (TMessages{{WM_MDIREFRESHMENU, 1, 0}}));
+}
+
+// Forms are translated before they have windows, and where there is no frame.
+TEST_F(FormFiles, TranslatesDocumentsWithoutWindows)
+{
+    TFormTranslator* const Translator = AddForm(Application, "F1", 1053, "ett");
+    auto* const Form = static_cast<TForm*>(Translator->Owner());
+    Form->SetLoading(true);
+    for (const TFormStyle Style : {fsMDIForm, fsMDIChild}) {
+        Form->SetFormStyle(Style);
+        Form->SetWindowState(wsMaximized);
+        Translator->SetTranslate(true);
+        EXPECT_EQ(CaptionOf(Translator), "ett");
+        EXPECT_FALSE(Form->HandleAllocated());
+        Translator->SetTranslate(false);
+    }
 }
 
 // A handler that destroys peers, or the translator itself, during a switch.

@@ -8,6 +8,7 @@
 
 #include "core/Literals.h"
 #include "framework/rtl/SysUtils.h"
+#include "tests/FormatVarsScope.h"
 #include "tests/SampleComponent.h"
 
 namespace {
@@ -67,6 +68,7 @@ public:
     // Every event goes into Log; OnStep, when set, runs in each of them.
     void Watch()
     {
+        Translator->OnTranslateForm = {this, &TScene::OnForm};
         Translator->OnTranslateComponent = {this, &TScene::OnComponent};
         Translator->OnTranslateProperty = {this, &TScene::OnProperty};
         Translator->OnTranslated = {this, &TScene::OnDone};
@@ -86,6 +88,7 @@ private:
         if (OnStep)
             OnStep(*List);
     }
+    void OnForm(TObject*, TStrings* List, bool& Skip) { Step("form", List, Skip); }
     void OnComponent(TObject*, TComponent* Component, TStrings* List, bool& Skip)
     {
         Step(Component->Name(), List, Skip);
@@ -141,6 +144,21 @@ TEST(FormTranslator, TranslatesAndRestoresEachKind)
     }
 }
 
+// A locale that is switched between translating and restoring has other separators.
+TEST(FormTranslator, FloatsSurviveAnotherDecimalSeparator)
+{
+    const TFormatVarsScope Formats;
+    for (const char* const Value : {"2.25", "2,25"}) {
+        TScene Scene;
+        DecimalSeparator = ",";
+        EXPECT_TRUE(Scene.Translate({std::string("Button1.Factor=") + Value}));
+        EXPECT_EQ(Scene["Button1"].Factor(), 2.25);
+        DecimalSeparator = ".";
+        Scene.Translator->RestoreForm();
+        EXPECT_EQ(Scene["Button1"].Factor(), 1.5);
+    }
+}
+
 TEST(FormTranslator, AppliesWhatTheListSays)
 {
     const struct {
@@ -158,6 +176,7 @@ TEST(FormTranslator, AppliesWhatTheListSays)
          "text"},
         {"the first of equal keys", {"Button1.Caption='Ja'", "Button1.Caption='Nein'"}, "Ja"},
         {"bare key", {"Button1.Caption", "Button1.Caption='Ja'"}, "Ja"},
+        {"unknown name of an enumeration", {"Button1.Align=saNowhere", "Button1.Caption='Ja'"}, "Ja"},
         {"cut between characters", {"Button1.Caption='" + std::string(4096, 'x') + "\xC3\xA4'"}, nullptr},
     };
     for (const auto& Case : Cases) {
@@ -166,10 +185,32 @@ TEST(FormTranslator, AppliesWhatTheListSays)
         EXPECT_TRUE(Scene.Translate(Case.Lines));
         EXPECT_EQ(Scene["Button1"].Caption(), Case.Caption ? Case.Caption : std::string(4096, 'x'));
     }
+    for (const bool Empty : {false, true}) {
+        TScene Scene;
+        Scene.Translator->SetTranslateEmpty(Empty);
+        EXPECT_TRUE(Scene.Translate({"Button1.Caption=''", "Button1.Lines[1]=''", "Button1.Tag="}));
+        EXPECT_EQ(Scene["Button1"].Caption(), Empty ? "" : "text");
+        EXPECT_EQ(Scene["Button1"].Lines()->Get(1), Empty ? "" : "two");
+        EXPECT_EQ(Scene.Defaults().size(), 3u) << "remembered in any case";
+    }
+}
+
+// Applied by hand, line by line.
+TEST(FormTranslator, AppliesSingleLines)
+{
     TScene Scene;
-    Scene.Translator->SetTranslateEmpty(true);
-    EXPECT_TRUE(Scene.Translate({"Button1.Caption=''"}));
-    EXPECT_EQ(Scene["Button1"].Caption(), "");
+    TSortList List;
+    List.SetText("\nButton1.Caption\nButton1.Caption='Ja'\n");
+    TSample& Button = Scene["Button1"];
+    const TPropInfo* const Caption = GetPropInfo(Button, "Caption");
+    EXPECT_FALSE(Scene.Translator->TranslateProp(&Button, Caption, 2)) << "without a list";
+    EXPECT_TRUE(Scene.Translator->TranslateForm(&List, false));
+    Button.SetCaption("text");
+    EXPECT_FALSE(Scene.Translator->TranslateProp(&Button, Caption, 0));
+    EXPECT_FALSE(Scene.Translator->TranslateProp(&Button, Caption, 1));
+    EXPECT_EQ(Button.Caption(), "text");
+    EXPECT_TRUE(Scene.Translator->TranslateProp(&Button, Caption, 2));
+    EXPECT_EQ(Button.Caption(), "Ja");
 }
 
 TEST(FormTranslator, RefusesToTranslate)
@@ -217,6 +258,54 @@ TEST(FormTranslator, EndsInCirclesOfReferences)
     EXPECT_EQ(Scene["Button1"].Caption(), "text");
 }
 
+// One value under two keys: what the first wrote is not what was there.
+TEST(FormTranslator, RestoresWhatTwoKeysName)
+{
+    TSortList Ordered;
+    TStringList Plain;
+    for (TStrings* const List : {static_cast<TStrings*>(&Ordered), static_cast<TStrings*>(&Plain)}) {
+        TScene Scene;
+        Scene["Button1"].SetBuddy(&Scene["Button2"]);
+        List->SetText("Button1.Buddy.Caption='a'\nButton2.Caption='b'\n");
+        EXPECT_TRUE(Scene.Translator->TranslateForm(List, false));
+        EXPECT_EQ(Scene["Button2"].Caption(), "b");
+        Scene.Translator->RestoreForm();
+        EXPECT_EQ(Scene["Button2"].Caption(), "text");
+    }
+}
+
+// A list whose keys name nothing must not keep later translations from being undone.
+TEST(FormTranslator, RestoresAfterAListThatNamedNothing)
+{
+    TScene Scene;
+    EXPECT_TRUE(Scene.Translate({"Button3.Caption='Ja'"}));
+    Scene.Add("Button3");
+    Scene.Translator->SetTranslate(false);
+    Scene.Translator->SetTranslate(true);
+    EXPECT_EQ(Scene["Button3"].Caption(), "Ja");
+    Scene.Translator->SetTranslate(false);
+    EXPECT_EQ(Scene["Button3"].Caption(), "text");
+}
+
+// A colour without a name has no text to be restored from.
+TEST(FormTranslator, CannotRestoreUnnamedColours)
+{
+    for (const bool Empty : {false, true}) {
+        TScene Scene;
+        Scene.Translator->SetTranslateEmpty(Empty);
+        Scene["Button1"].SetColor(128);
+        EXPECT_TRUE(Scene.Translate({"Button1.Color=clRed", "Button1.Caption='Ja'"}));
+        if (Empty)
+            EXPECT_THROW(Scene.Translator->RestoreForm(), EConvertError);
+        else
+            Scene.Translator->RestoreForm();
+        EXPECT_EQ(Scene["Button1"].Caption(), "text");
+        EXPECT_EQ(Scene["Button1"].Color(), 255);
+        EXPECT_FALSE(Scene.Translator->Translated());
+        EXPECT_EQ(Scene.Defaults().empty(), !Empty);
+    }
+}
+
 TEST(FormTranslator, KeepsStateWhenAValueIsMalformed)
 {
     TScene Scene;
@@ -255,6 +344,23 @@ TEST(FormTranslator, SkipsWhatHandlersVeto)
         Scene.Translator->RestoreForm();
         EXPECT_EQ(Scene.Read(), TScene().Read());
     }
+}
+
+TEST(FormTranslator, LeavesTheFormWhenItsHandlerVetoes)
+{
+    TScene Scene;
+    Scene.Watch();
+    Scene.SkipWhat = "form";
+    EXPECT_FALSE(Scene.Translate({"Button1.Caption='Ja'"}));
+    EXPECT_TRUE(Scene.Read().empty());
+    EXPECT_EQ(Scene.Log, (TLines{"form", "form"})) << "also asked before reading; no other event";
+    Scene.SkipWhat.clear();
+    EXPECT_TRUE(Scene.Translate({"Button1.Caption='Ja'"}));
+    Scene.SkipWhat = "form";
+    Scene.Translator->RestoreForm();
+    EXPECT_TRUE(Scene.Translator->Translated());
+    EXPECT_EQ(Scene.Defaults(), TLines{"Button1.Caption='text'"});
+    EXPECT_EQ(Scene["Button1"].Caption(), "Ja");
 }
 
 // A handler or a property writer pulls the ground away from under the walk.
@@ -403,6 +509,10 @@ TEST(FormTranslator, OrderedWalkEqualsPlainWalk)
         SCOPED_TRACE(Seed);
         TRandomList Random(Seed);
         TScene Scenes[2] = {TScene(Names), TScene(Names)};
+        for (TScene& Scene : Scenes) {
+            Scene["A"].SetBuddy(&Scene["Button1"]);
+            Scene["Button1"].SetBuddy(&Scene["A"]);
+        }
         const TLines Lines = Random.Make(Scenes[0].Read());
         const bool Change = Random.Pick(3) == 0;
         const unsigned When = Random.Pick(12), Where = Random.Pick(50), How = Random.Pick(3);
@@ -413,8 +523,6 @@ TEST(FormTranslator, OrderedWalkEqualsPlainWalk)
         for (int I = 0; I < 2; ++I) {
             for (const std::string& Line : Lines)
                 Lists[I]->AddObject(Line, IntegerObject(static_cast<int>(Line.size())));
-            Scenes[I]["A"].SetBuddy(&Scenes[I]["Button1"]);
-            Scenes[I]["Button1"].SetBuddy(&Scenes[I]["A"]);
             Scenes[I].Watch();
             unsigned Step = 0;
             if (Change)

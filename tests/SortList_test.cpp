@@ -165,7 +165,8 @@ TEST(KeyLines, MergesAsOneByOne)
                 Key += "1. A"[Random() % 4];
             return HasKey || Random() % 4 ? Key + "=" + static_cast<char>('a' + Random() % 3) : Key;
         };
-        TSortList One, Batch;
+        const TSortKind Kind = Seed % 2 ? skUnique : skMulti;
+        TSortList One(Kind), Batch(Kind);
         for (unsigned I = Random() % 12; I > 0; --I) {
             const std::string Old = Line(false);
             for (TSortList* const List : {&One, &Batch})

@@ -103,6 +103,40 @@ TEST_F(SavingProcess, FullDiskKeepsTheOldFile)
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(Folder), {}), 1) << "nothing is left behind";
 }
 
+// Permissions do not hold an administrator, who becomes an ordinary user for this.
+TEST_F(SavingProcess, ReadOnlyFoldersAndFilesAreProtected)
+{
+    constexpr uid_t Nobody = 65534;
+    const struct {
+        const char* Name;
+        unsigned FolderMode;
+        unsigned FileMode;
+    } Cases[] = {{"folder", 0555, 0666}, {"file", 0777, 0444}};
+    Save("Form1");
+    const std::string Before = ReadWholeFile(Name);
+    for (const auto& Case : Cases) {
+        SCOPED_TRACE(Case.Name);
+        std::filesystem::permissions(Name, std::filesystem::perms(Case.FileMode));
+        std::filesystem::permissions(Folder, std::filesystem::perms(Case.FolderMode));
+        const int Result = WaitFor(Start([this] {
+            if (geteuid() == 0 && setuid(Nobody) != 0)
+                return 3;
+            try {
+                Save("Form2");
+            } catch (const EFCreateError& Error) {
+                return Error.Message() == "Cannot create file " + Name + ". Permission denied" ? 1 : 2;
+            }
+            return 0;
+        }));
+        std::filesystem::permissions(Folder, std::filesystem::perms::owner_all);
+        if (Result == 3)
+            GTEST_SKIP() << "this administrator may not become another user";
+        EXPECT_EQ(Result, 1) << "an error that names file and reason";
+        EXPECT_EQ(ReadWholeFile(Name), Before);
+        EXPECT_EQ(std::distance(std::filesystem::directory_iterator(Folder), {}), 1);
+    }
+}
+
 TEST_F(SavingProcess, KilledKeepsAWholeFile)
 {
     Save("Form1");

@@ -11,6 +11,8 @@
 
 namespace {
 
+using namespace std::string_literals;
+
 class TranslationsFile : public testing::Test {
 protected:
     void SetUp() override
@@ -59,6 +61,12 @@ TEST_F(TranslationsFile, SplitsLines)
         {"other sections and locales", "Form.A%1053=1\nForm1.B%1033=2\nForm10.C%1053=3\nForm1.D%-1=4\n", ""},
         {"every line end", "Form1.A%1053=1\rForm1.B%1053=2\nForm1.C%1053=3\r\n\r\nForm1.D%1053=4",
          "A=1|B=2|C=3|D=4|"},
+        {"byte-order mark",
+         "\xEF\xBB\xBF"
+         "Form1.A%1053=1\r\n",
+         "A=1|"},
+        {"NUL bytes", "Form1.A%1053=1\0x\n\0\nForm1.B%1053=2"s, "A=1\0x|B=2|"s},
+        {"ten megabytes without a line end", std::string(10'000'000, 'x'), ""},
         {"value with marks", "Form1.A%1053=x=.%1033\n", "A=x=.%1033|"},
         {"order of the list, not of the file", "Form1.A%1053=1\nForm1.A.B%1053=2\nForm1.A0%1053=3\n",
          "A.B=2|A0=3|A=1|"},
@@ -93,25 +101,46 @@ TEST_F(TranslationsFile, MergesIntoTheList)
 TEST_F(TranslationsFile, ReportsMalformedLocales)
 {
     const struct {
-        const char* Line;
-        const char* Reason;
+        std::string Line;
+        std::string Reason;
     } Cases[] = {
         {"Form1.A%1O53=x", "lang.txt:2: locale '1O53' is not a number"},
         {"Form1.A=x%1053", "lang.txt:2: locale '' is not a number"},
         {"Form1.A", "lang.txt:2: locale '' is not a number"},
         {"Form1.A%99999999999=x", "lang.txt:2: locale '99999999999' is not a number"},
+        {"Form1.A%10\0"
+         "53=x"s,
+         "lang.txt:2: locale '10\0"
+         "53' is not a number"s},
+        {"Form1.A%" + std::string(300, '9') + "=x",
+         "lang.txt:2: locale '" + std::string(255, '9') + "' is not a number"},
         {"Form2.A%x=x", "none"},
     };
     for (const auto& Case : Cases) {
         SCOPED_TRACE(Case.Line);
-        const std::string Before = std::string("Form1.A%1053=1\r\n") + Case.Line + "\r\n";
+        const std::string Before = "Form1.A%1053=1\r\n" + Case.Line + "\r\n";
         Write(Before);
         TSortList List;
         EXPECT_EQ(ErrorOf([&] { LoadTranslations(Name, {"Form1", 1053}, List); }), Case.Reason);
-        const bool Fails = std::string(Case.Reason) != "none";
+        const bool Fails = Case.Reason != "none";
         EXPECT_EQ(List.Count(), Fails ? 0 : 1);
         EXPECT_EQ(ErrorOf([&] { SaveTranslations(Name, {"Form1", 1053}, List, List); }), Case.Reason);
         EXPECT_EQ(Content() == Before, Fails);
+    }
+}
+
+// Read as bytes, nothing in it would be found, and saving would tear it apart.
+TEST_F(TranslationsFile, RefusesUtf16)
+{
+    for (const std::string& Before : {"\xFF\xFE"
+                                      "F\0.\0A\0\r\0\n\0"s,
+                                      "\xFE\xFF\0F"s}) {
+        Write(Before);
+        TSortList List;
+        const char* const Reason = "lang.txt:1: the text is UTF-16, not UTF-8";
+        EXPECT_EQ(ErrorOf([&] { LoadTranslations(Name, {"F", 1053}, List); }), Reason);
+        EXPECT_EQ(ErrorOf([&] { SaveTranslations(Name, {"F", 1053}, List, List); }), Reason);
+        EXPECT_EQ(Content(), Before);
     }
 }
 
@@ -128,6 +157,10 @@ TEST_F(TranslationsFile, SaveReplacesOnlyItsOwnLines)
         {"new file", "", "Form1.A%-1=a|Form1.A%1053=1|Form1.B%1053=2|"},
         {"others stay", "#0Form1.A%1053=x|Form1.A%-1=old|Form1.A%1033=en|Form1.C%1053=old|Form2.A%1053=y|",
          "#0Form1.A%1053=x|Form1.A%-1=a|Form1.A%1033=en|Form1.A%1053=1|Form1.B%1053=2|Form2.A%1053=y|"},
+        {"without its byte-order mark",
+         "\xEF\xBB\xBF"
+         "Form0.A%1=1|Form2.A%1=1|",
+         "Form0.A%1=1|Form1.A%-1=a|Form1.A%1053=1|Form1.B%1053=2|Form2.A%1=1|"},
         {"lines out of order, or no entries, stay where they are", "zebra||Form0.A%1=1|",
          "zebra||Form0.A%1=1|Form1.A%-1=a|Form1.A%1053=1|Form1.B%1053=2|"},
     };

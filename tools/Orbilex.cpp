@@ -4,6 +4,7 @@
 
 #include "framework/forms/Application.h"
 #include "framework/forms/StandardClasses.h"
+#include "framework/rtl/FormatVars.h"
 #include "tools/Commands.h"
 
 int RunOrbilex(int ArgumentCount, const char* const* Arguments)
@@ -21,6 +22,8 @@ int RunOrbilex(int ArgumentCount, const char* const* Arguments)
     try {
         TApplicationScope Scope;
         RegisterStandardClasses();
+        // Files hold the same numbers wherever they are read.
+        DecimalSeparator = ".";
         Program.parse(ArgumentCount, Arguments);
     } catch (const CLI::ParseError& Error) {
         return Program.exit(Error) == 0 ? 0 : static_cast<int>(TOutcome::BadInput);

@@ -57,41 +57,6 @@ object PlanningForm: TPlanningForm
     end
     object MnuLanguage: TMenuItem
       Caption = '&Language'
-      object ItemEnglish: TMenuItem
-        Caption = '&English'
-        Checked = True
-        GroupIndex = 2
-        RadioItem = True
-        OnClick = ItemLanguageClick
-      end
-      object ItemSwedish: TMenuItem
-        Tag = 1053
-        Caption = '&Svenska'
-        GroupIndex = 2
-        RadioItem = True
-        OnClick = ItemLanguageClick
-      end
-      object ItemGerman: TMenuItem
-        Tag = 1031
-        Caption = '&Deutsch'
-        GroupIndex = 2
-        RadioItem = True
-        OnClick = ItemLanguageClick
-      end
-      object ItemJapanese: TMenuItem
-        Tag = 1041
-        Caption = #26085#26412#35486'(&J)'
-        GroupIndex = 2
-        RadioItem = True
-        OnClick = ItemLanguageClick
-      end
-      object ItemArabic: TMenuItem
-        Tag = 1025
-        Caption = #1575#1604'&'#1593#1585#1576#1610#1577
-        GroupIndex = 2
-        RadioItem = True
-        OnClick = ItemLanguageClick
-      end
     end
     object MnuWindow: TMenuItem
       Caption = '&Window'
@@ -145,6 +110,18 @@ object PlanningForm: TPlanningForm
     Translate = False
     TranslateEmpty = False
     Left = 216
+    Top = 80
+    Storage = 0
+  end
+  object Locales: TLocaleTranslator
+    AdoptOn = MnuLanguage
+    DesignLocale = 'English (United States) 00000409'
+    ListFormat = '%2:s (%3:s)'
+    Locale = 0
+    StartupLocale = 'User default 00000400'
+    Translate = True
+    Translations.Strings = ()
+    Left = 280
     Top = 80
     Storage = 0
   end

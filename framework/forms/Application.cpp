@@ -5,6 +5,7 @@
 #include "framework/forms/DataModules.h"
 #include "framework/forms/FormResources.h"
 #include "framework/forms/Frames.h"
+#include "framework/rtl/FormatSettings.h"
 #include "framework/rtl/SysUtils.h"
 #include "framework/streaming/ComponentReader.h"
 #include "framework/streaming/FormFile.h"
@@ -37,6 +38,7 @@ void StartApplication()
 {
     if (Starts++ > 0)
         return;
+    GetFormatSettings();
     RegisterFormClasses();
     SetFormLoader(&LoadFormResource);
     Screen = new TScreen(nullptr);

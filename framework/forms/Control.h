@@ -289,6 +289,7 @@ private:
     void TakeParentBiDiMode();
     void ConstraintsChanged(TObject* Sender);
     bool HasWindow() const;
+    static bool TellDrag(TControl& Target, const TPoint& Pos, TDragState State);
     void DragTo(const TPoint& Pos);
     void EndDragAt(const TPoint& Pos);
     static void ForgetControl(const TControl* Control);

@@ -1,4 +1,6 @@
 // What a control does with messages: mouse, menus, and the framework's own.
+#include <utility>
+
 #include "framework/forms/Application.h"
 #include "framework/forms/Control.h"
 #include "framework/forms/Menus.h"
@@ -9,6 +11,7 @@ namespace {
 // The control without a window that has the mouse through its parent's window.
 TControl* CaptureControl = nullptr;
 TControl* DragControl = nullptr;
+TControl* DragTarget = nullptr; // what the mouse is over while it drags
 TObject* DragSource = nullptr;
 
 } // namespace
@@ -74,6 +77,10 @@ void TControl::ForgetControl(const TControl* Control)
         CaptureControl = nullptr;
     if (DragControl == Control)
         DragControl = nullptr;
+    if (DragTarget == Control)
+        DragTarget = nullptr;
+    if (DragSource == Control)
+        DragSource = nullptr;
 }
 
 bool TControl::MouseCapture() const
@@ -372,34 +379,47 @@ bool TControl::Dragging() const
     return DragControl == this;
 }
 
+bool TControl::TellDrag(TControl& Target, const TPoint& Pos, TDragState State)
+{
+    const TPoint Here = Target.ScreenToClient(Pos);
+    bool Accept = false;
+    Target.DragOver(DragSource, static_cast<int>(Here.x), static_cast<int>(Here.y), State, Accept);
+    return Accept;
+}
+
+// A handler may destroy what is dragged or dragged over: both are asked for anew
+// after each.
 void TControl::DragTo(const TPoint& Pos)
 {
-    bool Accept = false;
-    if (TControl* const Target = FindDragTarget(Pos, false)) {
-        const TPoint Here = Target->ScreenToClient(Pos);
-        Target->DragOver(DragSource, static_cast<int>(Here.x), static_cast<int>(Here.y), dsDragMove, Accept);
+    TControl* const Target = FindDragTarget(Pos, false);
+    if (Target != DragTarget) {
+        if (TControl* const Left = std::exchange(DragTarget, Target))
+            TellDrag(*Left, Pos, dsDragLeave);
+        if (DragTarget)
+            TellDrag(*DragTarget, Pos, dsDragEnter);
     }
-    ::SetCursor(Screen->Cursors(Accept ? DragCursor() : crNoDrop));
+    const bool Accept = DragTarget && TellDrag(*DragTarget, Pos, dsDragMove);
+    if (DragControl)
+        ::SetCursor(Screen->Cursors(Accept ? DragControl->DragCursor() : crNoDrop));
 }
 
 void TControl::EndDragAt(const TPoint& Pos)
 {
-    TObject* const Source = DragSource;
-    DragControl = nullptr;
+    DragTo(Pos);
+    if (DragControl != this)
+        return;
     SetCaptureControl(nullptr);
     FControlState.Exclude(csClicked);
-    TControl* Target = FindDragTarget(Pos, false);
     TPoint Here{};
-    bool Accept = false;
-    if (Target) {
-        Here = Target->ScreenToClient(Pos);
-        Target->DragOver(Source, static_cast<int>(Here.x), static_cast<int>(Here.y), dsDragMove, Accept);
+    const bool Accept = DragTarget && TellDrag(*DragTarget, Pos, dsDragLeave);
+    if (Accept && DragTarget) {
+        Here = DragTarget->ScreenToClient(Pos);
+        DragTarget->DragDrop(DragSource, static_cast<int>(Here.x), static_cast<int>(Here.y));
     }
-    if (!Accept)
-        Target = nullptr;
-    else
-        Target->DragDrop(Source, static_cast<int>(Here.x), static_cast<int>(Here.y));
-    if (OnEndDrag)
+    TControl* const Target = Accept ? DragTarget : nullptr;
+    const bool Alive = DragControl == this;
+    DragControl = DragTarget = nullptr;
+    if (Alive && OnEndDrag)
         OnEndDrag(this, Target, static_cast<int>(Here.x), static_cast<int>(Here.y));
 }
 

@@ -51,16 +51,6 @@ void TDataModule::AfterConstruction()
         OnCreate(this);
 }
 
-void TDataModule::GetChildren(const std::function<void(TComponent*)>& Visit, TComponent* Root)
-{
-    inherited::GetChildren(Visit, Root);
-    if (Root != this)
-        return;
-    for (int Index = 0; Index < ComponentCount(); ++Index)
-        if (!Components(Index)->HasParent())
-            Visit(Components(Index));
-}
-
 void TDataModule::DefineProperties(TFiler& Filer)
 {
     TPersistent::DefineProperties(Filer);

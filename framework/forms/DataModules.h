@@ -25,7 +25,6 @@ public:
     TNotifyEvent OnCreate;
     TNotifyEvent OnDestroy;
 
-    void GetChildren(const std::function<void(TComponent*)>& Visit, TComponent* Root) override;
     void DefineProperties(TFiler& Filer) override;
 
 private:

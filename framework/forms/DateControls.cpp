@@ -1,12 +1,10 @@
 #include "framework/forms/DateControls.h"
 
 #include <algorithm>
-#include <cmath>
+
+#include "framework/rtl/SystemTime.h"
 
 namespace {
-
-// 1 January 1601, where the system's dates begin.
-constexpr int64_t FirstSystemDay = -109205;
 
 // The bits that say which limits of a range are given, and two messages of the
 // calendar.
@@ -65,50 +63,13 @@ TRows MonthRows()
                   Prop<&TMonthCalendar::OnGetMonthInfo>("OnGetMonthInfo"));
 }
 
+// The calendar does not set the time of the days that it tells.
+TDateTime DayOf(const SYSTEMTIME& Value)
+{
+    return EncodeDate(Value.wYear, Value.wMonth, Value.wDay);
+}
+
 } // namespace
-
-TDateTime SystemTimeToDateTime(const SYSTEMTIME& Value)
-{
-    // Days of the civil calendar, years beginning in March.
-    const int64_t Month = (Value.wMonth + 9) % 12;
-    const int64_t Year = Value.wYear - Month / 10;
-    const int64_t Days =
-        365 * Year + Year / 4 - Year / 100 + Year / 400 + (Month * 306 + 5) / 10 + Value.wDay - 1;
-    constexpr int64_t Origin = 693899; // 30 December 1899 counted the same way
-    const double Seconds =
-        Value.wHour * 3600.0 + Value.wMinute * 60.0 + Value.wSecond + Value.wMilliseconds / 1000.0;
-    return static_cast<double>(Days - Origin) + Seconds / 86400.0;
-}
-
-SYSTEMTIME DateTimeToSystemTime(TDateTime Value)
-{
-    const double Day = std::floor(Value);
-    int64_t Days = static_cast<int64_t>(Day);
-    auto Milliseconds = static_cast<int64_t>(std::llround((Value - Day) * 86400000.0));
-    if (Milliseconds >= 86400000) {
-        Milliseconds -= 86400000;
-        ++Days;
-    }
-    Days = std::max(Days, FirstSystemDay) + 693899;
-    // The civil calendar, years beginning in March.
-    int64_t Year = (10000 * Days + 14780) / 3652425;
-    int64_t Rest = Days - (365 * Year + Year / 4 - Year / 100 + Year / 400);
-    if (Rest < 0) {
-        --Year;
-        Rest = Days - (365 * Year + Year / 4 - Year / 100 + Year / 400);
-    }
-    const int64_t Month = (100 * Rest + 52) / 3060;
-    SYSTEMTIME Result{};
-    Result.wMonth = static_cast<WORD>((Month + 2) % 12 + 1);
-    Result.wYear = static_cast<WORD>(Year + (Month + 2) / 12);
-    Result.wDay = static_cast<WORD>(Rest - (Month * 306 + 5) / 10 + 1);
-    Result.wDayOfWeek = static_cast<WORD>((Days + 3) % 7);
-    Result.wHour = static_cast<WORD>(Milliseconds / 3600000);
-    Result.wMinute = static_cast<WORD>(Milliseconds / 60000 % 60);
-    Result.wSecond = static_cast<WORD>(Milliseconds / 1000 % 60);
-    Result.wMilliseconds = static_cast<WORD>(Milliseconds % 1000);
-    return Result;
-}
 
 const TMetaClass& TMonthCalColors::MetaClass()
 {
@@ -162,9 +123,7 @@ void TMonthCalColors::Assign(const TPersistent* Source)
 
 TCommonCalendar::TCommonCalendar(TComponent* Owner) : TWinControl(Owner), FCalColors(this)
 {
-    SYSTEMTIME Now{};
-    GetLocalTime(&Now);
-    FDateTime = SystemTimeToDateTime(Now);
+    FDateTime = Now();
     SetTabStop(true);
     SetParentColor(false);
 }
@@ -180,7 +139,7 @@ void TCommonCalendar::SetDateTime(TDateTime Value)
 void TCommonCalendar::SetDate(TDateTime Value)
 {
     // A form file's date brings its time along.
-    SetDateTime(IsLoading() ? Value : std::floor(Value) + (FDateTime - std::floor(FDateTime)));
+    SetDateTime(IsLoading() ? Value : ReplaceDate(FDateTime, Value));
 }
 
 void TCommonCalendar::SetMaxDate(TDateTime Value)
@@ -209,7 +168,7 @@ TDateTimePicker::TDateTimePicker(TComponent* Owner) : TCommonCalendar(Owner)
 
 void TDateTimePicker::SetTime(TDateTime Value)
 {
-    SetDateTime(std::floor(FDateTime) + (Value - std::floor(Value)));
+    SetDateTime(ReplaceTime(FDateTime, Value));
 }
 
 void TDateTimePicker::SetChecked(bool Value)
@@ -322,9 +281,9 @@ void TMonthCalendar::Dispatch(TMessage& Message)
     if (Code != static_cast<int>(MCN_SELCHANGE) && Code != static_cast<int>(MCN_SELECT))
         return;
     const auto& Notice = reinterpret_cast<const NMSELCHANGE&>(Header);
-    FDateTime = SystemTimeToDateTime(Notice.stSelStart);
+    FDateTime = ReplaceDate(FDateTime, DayOf(Notice.stSelStart));
     if (MultiSelect())
-        FEndDate = SystemTimeToDateTime(Notice.stSelEnd);
+        FEndDate = DayOf(Notice.stSelEnd);
     if (Code == static_cast<int>(MCN_SELECT) && OnClick)
         OnClick(this);
 }

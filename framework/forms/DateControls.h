@@ -2,12 +2,7 @@
 #pragma once
 
 #include "framework/forms/CommonControls.h"
-
-// Days since 30 December 1899; the fraction is the time of day.
-using TDateTime = double;
-TDateTime SystemTimeToDateTime(const SYSTEMTIME& Value);
-// Dates before 1 January 1601 are answered with that day.
-SYSTEMTIME DateTimeToSystemTime(TDateTime Value);
+#include "framework/rtl/DateTime.h"
 
 OBX_ENUM(TDateTimeKind, dtkDate, dtkTime)
 OBX_ENUM(TDTDateMode, dmComboBox, dmUpDown)

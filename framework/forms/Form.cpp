@@ -1,5 +1,7 @@
 #include "framework/forms/Form.h"
 
+#include <algorithm>
+
 #include "framework/forms/Application.h"
 #include "framework/forms/ControlRows.h"
 #include "framework/forms/FormResources.h"
@@ -206,7 +208,8 @@ TRect TCustomForm::ClientRect() const
         Result.right = FPendingClientWidth;
     if (FPendingClientHeight >= 0)
         Result.bottom = FPendingClientHeight;
-    return Result;
+    // A frame may be larger than the window.
+    return {0, 0, std::max<LONG>(0, Result.right), std::max<LONG>(0, Result.bottom)};
 }
 
 int TCustomForm::ClientWidth() const
@@ -297,16 +300,6 @@ void TCustomForm::DefineProperties(TFiler& Filer)
 }
 
 // Components without a parent are listed by the form itself.
-void TCustomForm::GetChildren(const std::function<void(TComponent*)>& Visit, TComponent* Root)
-{
-    inherited::GetChildren(Visit, Root);
-    if (Root != this)
-        return;
-    for (int Index = 0; Index < ComponentCount(); ++Index)
-        if (!Components(Index)->HasParent())
-            Visit(Components(Index));
-}
-
 void TCustomForm::SetBorderIcons(TBorderIcons Value)
 {
     if (FBorderIcons == Value)

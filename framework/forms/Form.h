@@ -149,7 +149,6 @@ public:
     TRect ClientRect() const override;
     void SetBounds(int ALeft, int ATop, int AWidth, int AHeight) override;
     void DefaultHandler(TMessage& Message) override;
-    void GetChildren(const std::function<void(TComponent*)>& Visit, TComponent* Root) override;
     void DefineProperties(TFiler& Filer) override;
     void Loaded() override;
     void Notification(TComponent* Component, TOperation Operation) override;
@@ -174,6 +173,7 @@ protected:
     void CreateWnd() override;
     void DestroyWindowHandle() override;
     void DestroyHandle() override;
+    bool HasMenuBar() const;
     TSize FrameSize() const override;
     void AlignControls(TControl* AControl, TRect& Rect) override;
     void SetParentControl(TWinControl* AParent) override;

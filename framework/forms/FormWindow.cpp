@@ -89,13 +89,19 @@ void TCustomForm::CreateParams(TCreateParams& Params)
         Params.Width = Params.Height = CW_USEDEFAULT;
 }
 
+// A menu without items takes no room.
+bool TCustomForm::HasMenuBar() const
+{
+    return FMenu && FMenu->Items()->Count() > 0 && FFormStyle != fsMDIChild && !IsEmbedded() &&
+           !HasState(csDesigning);
+}
+
 TSize TCustomForm::FrameSize() const
 {
     TCreateParams Params;
     const_cast<TCustomForm*>(this)->CreateParams(Params);
     TRect Frame{};
-    const bool HasMenu = FMenu && FFormStyle != fsMDIChild && !IsEmbedded();
-    AdjustWindowRectEx(&Frame, Params.Style, HasMenu, Params.ExStyle);
+    AdjustWindowRectEx(&Frame, Params.Style, HasMenuBar(), Params.ExStyle);
     return {RectWidth(Frame) + 2 * BorderWidth(), RectHeight(Frame) + 2 * BorderWidth()};
 }
 
@@ -200,8 +206,7 @@ void TCustomForm::RefreshMenu()
     if (HasState(csLoading) || !HandleAllocated() || FFormStyle == fsMDIChild || IsEmbedded() ||
         HasState(csDestroying))
         return;
-    const HMENU Bar =
-        FMenu && FMenu->Items()->Count() > 0 && !HasState(csDesigning) ? FMenu->Handle() : nullptr;
+    const HMENU Bar = HasMenuBar() ? FMenu->Handle() : nullptr;
     if (FClientHandle) {
         const HMENU Window = FWindowMenu ? FWindowMenu->Handle() : nullptr;
         SendMessageA(FClientHandle, WM_MDISETMENU, reinterpret_cast<WPARAM>(Bar),

@@ -44,16 +44,6 @@ void TCustomFrame::SetParentComponent(TComponent* Value)
     inherited::SetParentComponent(Value);
 }
 
-void TCustomFrame::GetChildren(const std::function<void(TComponent*)>& Visit, TComponent* Root)
-{
-    inherited::GetChildren(Visit, Root);
-    if (Root != this)
-        return;
-    for (int Index = 0; Index < ComponentCount(); ++Index)
-        if (!Components(Index)->HasParent())
-            Visit(Components(Index));
-}
-
 const TMetaClass& TFrame::MetaClass()
 {
     static const TMetaClass Class(

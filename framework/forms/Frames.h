@@ -10,7 +10,6 @@ public:
 
     // Reads the form file of the frame's class; once.
     void AfterConstruction();
-    void GetChildren(const std::function<void(TComponent*)>& Visit, TComponent* Root) override;
     // What an inline frame contains belongs to the frame.
     TComponent* GetChildOwner() override { return this; }
     void SetParentComponent(TComponent* Value) override;

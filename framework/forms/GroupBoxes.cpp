@@ -150,8 +150,14 @@ void TCustomRadioGroup::SetItemIndex(int Value)
         FItemIndex = Value;
         return;
     }
-    FItemIndex = std::clamp(Value, -1, FItems->Count() - 1);
-    CheckButton();
+    Value = std::clamp(Value, -1, FItems->Count() - 1);
+    if (Value == FItemIndex)
+        return;
+    if (Value < 0) {
+        FItemIndex = Value;
+        CheckButton();
+    } else
+        FButtons[static_cast<size_t>(Value)]->SetChecked(true); // clicks
 }
 
 void TCustomRadioGroup::Loaded()
@@ -189,6 +195,8 @@ void TCustomRadioGroup::ItemDeleted(int Index)
     delete Button;
     if (!IsLoading() && FItemIndex >= FItems->Count())
         FItemIndex = FItems->Count() - 1;
+    if (!IsLoading())
+        CheckButton();
     ArrangeButtons();
 }
 

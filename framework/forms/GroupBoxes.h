@@ -34,8 +34,8 @@ public:
     // Published. From 1 to 16.
     int Columns() const { return FColumns; }
     void SetColumns(int Value);
-    // The checked button; -1 for none. While the form is read it may name a
-    // button that is yet to come.
+    // The checked button; -1 for none. Checking another one clicks, whoever does
+    // it. While the form is read it may name a button that is yet to come.
     int ItemIndex() const { return FItemIndex; }
     void SetItemIndex(int Value);
     TStrings* Items() const { return FItems.get(); }

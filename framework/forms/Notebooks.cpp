@@ -336,6 +336,7 @@ void TTabSet::SetTabIndex(int Value)
         return;
     FTabIndex = Value;
     Invalidate();
+    Click();
 }
 
 void TTabSet::ItemInserted(int Index)

@@ -110,6 +110,7 @@ public:
     OBX_PROPERTY(int, TabHeight, 20)
     OBX_PROPERTY(TColor, UnselectedColor, clWindow)
 public:
+    // The chosen tab; -1 for none. A change clicks, whoever makes it.
     int TabIndex() const { return FTabIndex; }
     void SetTabIndex(int Value);
     TStrings* Tabs() const { return FTabs.get(); }

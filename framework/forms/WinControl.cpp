@@ -423,10 +423,15 @@ void TWinControl::ScaleBy(int M, int D)
 void TWinControl::ScrollBy(int DeltaX, int DeltaY)
 {
     DisableAlign();
-    if (FHandle)
+    // The windows inside a visible one move with its contents and report it.
+    const bool Scrolls = FHandle && IsWindowVisible(FHandle);
+    if (Scrolls)
         ScrollWindow(FHandle, DeltaX, DeltaY, nullptr, nullptr);
     for (int Index = 0; Index < ControlCount(); ++Index) {
         TControl& Control = *Controls(Index);
+        const auto* const Window = dynamic_cast<const TWinControl*>(&Control);
+        if (Scrolls && Window && Window->FHandle)
+            continue;
         Control.SetBounds(Control.Left() + DeltaX, Control.Top() + DeltaY, Control.Width(), Control.Height());
     }
     EnableAlign();

@@ -155,8 +155,12 @@ bool TWinControl::DispatchFrame(TMessage& Message)
         break;
     case WM_NCCALCSIZE:
         DefaultHandler(Message);
-        if (FBorderWidth > 0)
-            InflateRect(reinterpret_cast<RECT*>(Message.LParam), -FBorderWidth, -FBorderWidth);
+        if (FBorderWidth > 0) {
+            auto& Area = *reinterpret_cast<RECT*>(Message.LParam);
+            const LONG Border = FBorderWidth, Left = Area.left + Border, Top = Area.top + Border;
+            // A border that leaves no room leaves an empty area, not a negative one.
+            Area = {Left, Top, std::max(Left, Area.right - Border), std::max(Top, Area.bottom - Border)};
+        }
         break;
     default:
         return false;

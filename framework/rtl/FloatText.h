@@ -32,5 +32,6 @@ std::string FloatToStr(TExtended Value);
 //   ffExponent  1.2345E+003   Precision digits in all
 //   ffFixed     1234.50
 //   ffNumber    1,234.50
-//   ffCurrency  $1,234.50     by CurrencyFormat and NegCurrFormat
+//   ffCurrency  $1,234.50     by CurrencyFormat and NegCurrFormat; outside of the
+//               sixteen formats as by 0
 std::string FloatToStrF(TExtended Value, TFloatFormat Format, int Precision, int Digits);

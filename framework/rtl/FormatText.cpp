@@ -1,10 +1,12 @@
 #include "framework/rtl/FormatText.h"
 
+#include <algorithm>
 #include <cctype>
 #include <utility>
 
 #include "framework/rtl/Convert.h"
 #include "framework/rtl/Exceptions.h"
+#include "framework/rtl/FloatDigits.h"
 #include "framework/rtl/FormatVars.h"
 #include "framework/rtl/RtlConsts.h"
 #include "framework/rtl/Utf8.h"
@@ -117,6 +119,9 @@ private:
             return ConvertInteger(Specifier, Argument);
         case TVarRec::TKind::Float:
             return ConvertFloat(Specifier, Argument.AsExtended());
+        case TVarRec::TKind::Currency:
+            return ConvertDecimal(Specifier, TenThousandthsToDecimal(Argument.AsCurrency().TenThousandths()),
+                                  MaxCurrencyDigits);
         case TVarRec::TKind::Text:
             if (Specifier.Type == 's')
                 return ConvertText(Specifier, Argument.AsText());
@@ -162,21 +167,30 @@ private:
 
     std::string ConvertFloat(const TSpecifier& Specifier, TExtended Value) const
     {
-        constexpr int MaxDigits = 18;
+        const std::string NotFinite = NotFiniteText(Value);
+        const TDecimal Decimal = NotFinite.empty() ? FloatToDecimal(Value) : TDecimal();
+        const std::string Finite = ConvertDecimal(Specifier, Decimal, MaxFloatDigits);
+        return NotFinite.empty() ? Finite : NotFinite;
+    }
+
+    std::string ConvertDecimal(const TSpecifier& Specifier, const TDecimal& Value, int MaxDigits) const
+    {
         constexpr int ExponentDigits = 3;
-        const bool Given = Specifier.Precision >= 0 && Specifier.Precision <= MaxDigits;
+        constexpr int LeastPrecision = 2;
+        const bool Given = Specifier.Precision >= 0 && Specifier.Precision <= MaxFloatDigits;
         const auto Or = [&](int Default) { return Given ? Specifier.Precision : Default; };
+        const int Precision = std::max(Or(15), LeastPrecision);
         switch (Specifier.Type) {
         case 'e':
-            return FloatToStrF(Value, TFloatFormat::ffExponent, Or(15), ExponentDigits);
+            return DecimalToStrF(Value, TFloatFormat::ffExponent, Precision, ExponentDigits);
         case 'g':
-            return FloatToStrF(Value, TFloatFormat::ffGeneral, Or(15), ExponentDigits);
+            return DecimalToStrF(Value, TFloatFormat::ffGeneral, Precision, ExponentDigits);
         case 'f':
-            return FloatToStrF(Value, TFloatFormat::ffFixed, MaxDigits, Or(2));
+            return DecimalToStrF(Value, TFloatFormat::ffFixed, MaxDigits, Or(2));
         case 'n':
-            return FloatToStrF(Value, TFloatFormat::ffNumber, MaxDigits, Or(2));
+            return DecimalToStrF(Value, TFloatFormat::ffNumber, MaxDigits, Or(2));
         case 'm':
-            return FloatToStrF(Value, TFloatFormat::ffCurrency, MaxDigits, Or(CurrencyDecimals));
+            return DecimalToStrF(Value, TFloatFormat::ffCurrency, MaxDigits, Or(CurrencyDecimals));
         default:
             Raise(SInvalidFormat);
         }

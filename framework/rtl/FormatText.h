@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "framework/rtl/Currency.h"
 #include "framework/rtl/FloatText.h"
 
 // One argument of Format, of any of the kinds below; made by implicit
@@ -14,7 +15,7 @@
 // that calls Format.
 class TVarRec {
 public:
-    enum class TKind { Integer, Int64, Float, Text, Pointer };
+    enum class TKind { Integer, Int64, Float, Currency, Text, Pointer };
 
     template<std::integral Type>
     requires(!std::same_as<Type, char> && !std::same_as<Type, bool>) TVarRec(Type Value)
@@ -27,6 +28,7 @@ public:
     TVarRec(Type Value) : FKind(TKind::Float), FExtended(Value)
     {
     }
+    TVarRec(TCurrency Value) : FKind(TKind::Currency), FInteger(Value.TenThousandths()) {}
     TVarRec(char Value) : FKind(TKind::Text), FCharacter(Value), FIsCharacter(true) {}
     TVarRec(const char* Value) : FKind(TKind::Text), FText(Value ? Value : "") {}
     TVarRec(const std::string& Value) : FKind(TKind::Text), FText(Value) {}
@@ -34,10 +36,11 @@ public:
     TVarRec(const void* Value) : FKind(TKind::Pointer), FPointer(Value) {}
 
     TKind Kind() const { return FKind; }
-    std::int64_t AsInteger() const { return FInteger; } // Integer, Int64
-    bool IsUnsigned() const { return FIsUnsigned; }     // Integer, Int64
-    TExtended AsExtended() const { return FExtended; }  // Float
-    const void* AsPointer() const { return FPointer; }  // Pointer
+    std::int64_t AsInteger() const { return FInteger; }                              // Integer, Int64
+    bool IsUnsigned() const { return FIsUnsigned; }                                  // Integer, Int64
+    TExtended AsExtended() const { return FExtended; }                               // Float
+    TCurrency AsCurrency() const { return TCurrency::FromTenThousandths(FInteger); } // Currency
+    const void* AsPointer() const { return FPointer; }                               // Pointer
     // Text. Valid as long as the argument.
     std::string_view AsText() const { return FIsCharacter ? std::string_view(&FCharacter, 1) : FText; }
 
@@ -69,6 +72,7 @@ private:
 //   f  fixed;            precision: digits after the separator, 2 unless given
 //   n  as f, with thousand separators
 //   m  as n, with the currency; CurrencyDecimals unless given
+//      (e to m take floating-point numbers and amounts of money)
 //   s  text or character; precision: at most so many characters
 //   p  pointer, in hexadecimal
 // Throws EConvertError for a malformed specifier, one that does not suit its

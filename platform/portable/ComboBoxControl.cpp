@@ -10,6 +10,8 @@ namespace {
 constexpr int EditId = 1001;
 constexpr int Edge = 2;
 constexpr int ButtonWidth = 17;
+constexpr int Frame = 3 * Edge;    // height of the combo box without its field
+constexpr int FieldMargin = 2 * 4; // and with the field's own room about a line
 
 class TComboBox final : public TSystemControl {
 public:
@@ -31,6 +33,8 @@ private:
     std::string ItemText(int Index) const;
 
     void Start();
+    void MeasureField();
+    LRESULT PassOn(UINT Message, LPARAM LParam) const;
     void Stop();
     LRESULT HandleItems(UINT Message, WPARAM WParam, LPARAM LParam);
     LRESULT HandleField(UINT Message, WPARAM WParam, LPARAM LParam);
@@ -40,8 +44,16 @@ private:
     void Place();
     void SetCurrent(int Index);
     void ShowCurrent();
+    std::string FieldText() const;
+    void ChooseTyped();
     void Drop(bool Show, bool Chosen);
+    bool HandleKey(UINT Message, WPARAM WParam, LPARAM LParam);
     void Key(WPARAM Key);
+    void TypeCharacter(char Typed);
+    void Choose(int Index);
+    int PageSize() const;
+    void ListCommand(int Code);
+    void Leave();
     void PaintList(HDC Dc, RECT Rect);
     void PaintField(HDC Dc, RECT Rect);
     void PaintItem(HDC Dc, int Index, RECT Rect, bool Selected);
@@ -98,7 +110,14 @@ LRESULT TComboBox::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
     case WM_COMMAND:
         if (FEdit && reinterpret_cast<HWND>(LParam) == FEdit)
             EditCommand(HIWORD(WParam));
+        else if (reinterpret_cast<HWND>(LParam) == FList)
+            ListCommand(HIWORD(WParam));
         return 0;
+    case WM_MEASUREITEM:
+    case WM_DRAWITEM:
+    case WM_DELETEITEM:
+    case WM_COMPAREITEM:
+        return PassOn(Message, LParam);
     case WM_CTLCOLOREDIT:
     case WM_CTLCOLORSTATIC:
     case WM_CTLCOLORLISTBOX:
@@ -112,11 +131,8 @@ LRESULT TComboBox::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
         return 0;
     case WM_KILLFOCUS:
         TSystemControl::Handle(Message, WParam, LParam);
-        if (!FEdit) {
-            Drop(false, false);
-            if (Alive())
-                Command(CBN_KILLFOCUS);
-        }
+        if (!FEdit)
+            Leave();
         return 0;
     case WM_ENABLE:
         if (FEdit)
@@ -124,13 +140,20 @@ LRESULT TComboBox::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
         return TSystemControl::Handle(Message, WParam, LParam);
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK:
-        SetFocus(Window());
+        if (!FEdit || GetFocus() != FEdit)
+            SetFocus(Window());
         if (Alive() && !Simple())
-            Drop(!FDropped, false);
+            Drop(!FDropped, true);
         return 0;
+    case WM_MOUSEWHEEL:
+        Key(static_cast<short>(HIWORD(WParam)) < 0 ? VK_DOWN : VK_UP);
+        return TRUE;
     case WM_KEYDOWN:
-        Key(WParam);
-        return HasEdit() ? TRUE : 0;
+    case WM_SYSKEYDOWN:
+    case WM_CHAR:
+        if (HandleKey(Message, WParam, LParam))
+            return HasEdit() ? TRUE : 0;
+        return TSystemControl::Handle(Message, WParam, LParam);
     case WM_CUT:
     case WM_COPY:
     case WM_PASTE:
@@ -170,8 +193,8 @@ LRESULT TComboBox::HandleItems(UINT Message, WPARAM WParam, LPARAM LParam)
     case CB_DELETESTRING: {
         const int Before = Current();
         const LRESULT Result = List(LB_DELETESTRING, WParam);
-        if (Before >= 0 && Current() < 0)
-            ShowCurrent();
+        if (Before >= 0 && Current() < 0 && !FEdit)
+            ShowCurrent(); // a field keeps its text
         return Result;
     }
     case CB_RESETCONTENT:
@@ -211,7 +234,7 @@ LRESULT TComboBox::HandleField(UINT Message, WPARAM WParam, LPARAM LParam)
         Drop(WParam != 0, false);
         return TRUE;
     case CB_GETDROPPEDSTATE:
-        return FDropped || Simple();
+        return FDropped;
     case CB_GETDROPPEDCONTROLRECT: {
         auto& Rect = Structure<RECT>(LParam);
         GetWindowRect(Window(), &Rect);
@@ -225,7 +248,7 @@ LRESULT TComboBox::HandleField(UINT Message, WPARAM WParam, LPARAM LParam)
         return std::max(FDroppedWidth, ClientRect().right);
     case CB_GETITEMHEIGHT:
         if (static_cast<int>(WParam) == -1)
-            return ClosedHeight() - 2 * Edge;
+            return ClosedHeight() - Frame;
         return List(LB_GETITEMHEIGHT, WParam);
     case CB_SETITEMHEIGHT:
         if (static_cast<int>(WParam) != -1)
@@ -277,8 +300,10 @@ void TComboBox::Start()
         ListStyle |= LBS_OWNERDRAWFIXED;
     const RECT Rect = ClientRect();
     FDropHeight = Rect.bottom;
+    if (OwnerDrawn())
+        MeasureField();
     FList = CreateWindowExA(WS_EX_TOOLWINDOW, "ComboLBox", "", ListStyle, 0, 0, Rect.right, Rect.bottom,
-                            nullptr, nullptr, nullptr, nullptr);
+                            nullptr, nullptr, nullptr, Window());
     if (HasEdit()) {
         DWORD EditStyle = WS_CHILD | WS_VISIBLE | ES_NOHIDESEL | ES_AUTOHSCROLL;
         if (!Enabled())
@@ -294,6 +319,42 @@ void TComboBox::Start()
         FQuiet = false;
     }
     FontChanged();
+}
+
+void TComboBox::MeasureField()
+{
+    MEASUREITEMSTRUCT Size{};
+    Size.itemID = static_cast<UINT>(-1);
+    Size.itemHeight = static_cast<UINT>(LineHeight() + FieldMargin - Frame);
+    PassOn(WM_MEASUREITEM, reinterpret_cast<LPARAM>(&Size));
+    FFieldHeight = static_cast<int>(Size.itemHeight);
+}
+
+// The items of the list are drawn by the combo box's parent, which knows the
+// combo box only.
+LRESULT TComboBox::PassOn(UINT Message, LPARAM LParam) const
+{
+    const auto As = [&](auto& Item) {
+        Item.CtlType = ODT_COMBOBOX;
+        Item.CtlID = static_cast<UINT>(Id());
+        if constexpr (requires { Item.hwndItem; })
+            Item.hwndItem = Window();
+    };
+    switch (Message) {
+    case WM_MEASUREITEM:
+        As(Structure<MEASUREITEMSTRUCT>(LParam));
+        break;
+    case WM_DRAWITEM:
+        As(Structure<DRAWITEMSTRUCT>(LParam));
+        break;
+    case WM_DELETEITEM:
+        As(Structure<DELETEITEMSTRUCT>(LParam));
+        break;
+    default:
+        As(Structure<COMPAREITEMSTRUCT>(LParam));
+        break;
+    }
+    return SendMessageA(GetParent(Window()), Message, static_cast<WPARAM>(Id()), LParam);
 }
 
 void TComboBox::Stop()
@@ -318,7 +379,7 @@ void TComboBox::FontChanged()
 
 int TComboBox::ClosedHeight() const
 {
-    return (FFieldHeight ? FFieldHeight : LineHeight() + 4) + 2 * Edge;
+    return FFieldHeight ? FFieldHeight + Frame : LineHeight() + FieldMargin;
 }
 
 void TComboBox::Place()
@@ -375,13 +436,30 @@ void TComboBox::EditCommand(int Code)
         Command(CBN_SETFOCUS);
         break;
     case EN_KILLFOCUS:
-        Drop(false, false);
-        if (Alive())
-            Command(CBN_KILLFOCUS);
+        Leave();
         break;
     default:
         break;
     }
+}
+
+std::string TComboBox::FieldText() const
+{
+    std::string Result(static_cast<std::size_t>(Edit(WM_GETTEXTLENGTH)), '\0');
+    Edit(WM_GETTEXT, Result.size() + 1, reinterpret_cast<LPARAM>(Result.data()));
+    return Result;
+}
+
+// The list opens at the item that begins with what the field holds.
+void TComboBox::ChooseTyped()
+{
+    const std::string Typed = FieldText();
+    if (Typed.empty())
+        return;
+    const LRESULT Found =
+        List(LB_FINDSTRING, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(Typed.c_str()));
+    if (Found >= 0)
+        List(LB_SETCURSEL, static_cast<WPARAM>(Found));
 }
 
 void TComboBox::Drop(bool Show, bool Chosen)
@@ -390,6 +468,7 @@ void TComboBox::Drop(bool Show, bool Chosen)
         return;
     if (Show) {
         FDropped = true;
+        ChooseTyped();
         Command(CBN_DROPDOWN);
         return;
     }
@@ -400,15 +479,85 @@ void TComboBox::Drop(bool Show, bool Chosen)
     Command(CBN_CLOSEUP);
 }
 
+// The focus goes: what was looked at in the list is not taken.
+void TComboBox::Leave()
+{
+    if (FDropped)
+        Drop(false, false);
+    else
+        Command(CBN_SELENDCANCEL);
+    if (Alive())
+        Command(CBN_KILLFOCUS);
+}
+
+// A click into the list that is dropped takes the item under the mouse.
+void TComboBox::ListCommand(int Code)
+{
+    if (Code != LBN_SELCHANGE)
+        return;
+    ShowCurrent();
+    Drop(false, true);
+    if (Alive())
+        Command(CBN_SELCHANGE);
+}
+
+bool TComboBox::HandleKey(UINT Message, WPARAM WParam, LPARAM LParam)
+{
+    const bool Moves = WParam == VK_UP || WParam == VK_DOWN;
+    if (Message == WM_SYSKEYDOWN) {
+        if (Moves)
+            Drop(!FDropped, false);
+        return Moves;
+    }
+    if (Message == WM_KEYDOWN && Moves && FExtendedInterface && !FDropped) {
+        Drop(true, false);
+        return true;
+    }
+    if (Message == WM_CHAR) {
+        if (FEdit)
+            Edit(Message, WParam, LParam);
+        else
+            TypeCharacter(static_cast<char>(WParam));
+        return true;
+    }
+    const bool InField = WParam == VK_HOME || WParam == VK_END || WParam == VK_LEFT || WParam == VK_RIGHT ||
+                         WParam == VK_DELETE || WParam == VK_INSERT;
+    if (FEdit && InField)
+        Edit(Message, WParam, LParam);
+    else
+        Key(WParam);
+    return true;
+}
+
+int TComboBox::PageSize() const
+{
+    const int Height = std::max(1, static_cast<int>(List(LB_GETITEMHEIGHT)));
+    return std::max(1, (FDropHeight - ClosedHeight()) / Height - 1);
+}
+
+// The next item that begins with what was typed is chosen.
+void TComboBox::TypeCharacter(char Typed)
+{
+    const std::string Start(1, Typed);
+    const LRESULT Found =
+        static_cast<unsigned char>(Typed) <= ' '
+            ? LB_ERR
+            : List(LB_FINDSTRING, static_cast<WPARAM>(Current()), reinterpret_cast<LPARAM>(Start.c_str()));
+    if (Found >= 0)
+        Choose(static_cast<int>(Found));
+}
+
 void TComboBox::Key(WPARAM Key)
 {
     const int Count = static_cast<int>(List(LB_GETCOUNT));
     int Target = Current();
     switch (Key) {
     case VK_UP:
+    case VK_LEFT:
         --Target;
         break;
     case VK_DOWN:
+    case VK_RIGHT:
         ++Target;
         break;
     case VK_HOME:
@@ -417,8 +566,14 @@ void TComboBox::Key(WPARAM Key)
     case VK_END:
         Target = Count - 1;
         break;
+    case VK_PRIOR:
+        Target -= PageSize();
+        break;
+    case VK_NEXT:
+        Target += PageSize();
+        break;
     case VK_F4:
-        return Drop(!FDropped, false);
+        return FExtendedInterface ? void() : Drop(!FDropped, false);
     case VK_RETURN:
         return Drop(false, true);
     case VK_ESCAPE:
@@ -426,13 +581,18 @@ void TComboBox::Key(WPARAM Key)
     default:
         return;
     }
-    if (Count == 0)
+    if (Count > 0)
+        Choose(std::clamp(Target, 0, Count - 1));
+}
+
+void TComboBox::Choose(int Index)
+{
+    const bool Moved = Index != Current();
+    if (Moved || FEdit)
+        SetCurrent(Index);
+    if (!Moved)
         return;
-    Target = std::clamp(Target, 0, Count - 1);
-    if (Target == Current())
-        return;
-    SetCurrent(Target);
-    if (!FDropped)
+    if (!FDropped && !Simple())
         Command(CBN_SELENDOK);
     if (Alive())
         Command(CBN_SELCHANGE);

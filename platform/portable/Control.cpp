@@ -1,7 +1,7 @@
 #include "platform/portable/Control.h"
 
 #include <cstring>
-#include <strings.h>
+#include <unicode/uchar.h>
 
 namespace {
 constexpr char32_t Replacement = 0xFFFD;
@@ -78,20 +78,32 @@ std::string Narrow(const std::u16string& Text)
     return Result;
 }
 
+namespace {
+
+std::u16string WithoutCase(const std::string& Text)
+{
+    std::u16string Result = Widen(Text);
+    for (char16_t& Unit : Result)
+        Unit = static_cast<char16_t>(u_foldCase(Unit, U_FOLD_CASE_DEFAULT));
+    return Result;
+}
+
+} // namespace
+
 bool SortsBefore(const std::string& First, const std::string& Second)
 {
-    const int Order = strcasecmp(First.c_str(), Second.c_str());
+    const int Order = WithoutCase(First).compare(WithoutCase(Second));
     return Order ? Order < 0 : First < Second;
 }
 
 bool StartsWithText(const std::string& Text, const std::string& Start)
 {
-    return Text.size() >= Start.size() && strncasecmp(Text.c_str(), Start.c_str(), Start.size()) == 0;
+    return WithoutCase(Text).starts_with(WithoutCase(Start));
 }
 
 bool SameText(const std::string& First, const std::string& Second)
 {
-    return strcasecmp(First.c_str(), Second.c_str()) == 0;
+    return WithoutCase(First) == WithoutCase(Second);
 }
 
 TMeasure::TMeasure(HWND Window, HFONT Font) : FWindow(Window), FDc(GetDC(Window))

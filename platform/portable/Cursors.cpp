@@ -1,14 +1,25 @@
 // Cursors, icons, carets and the position of the mouse. They have handles and
-// are remembered; nothing is drawn.
+// are remembered; only icons are ever drawn (DrawIconEx).
 #include <utility>
 
+#include "platform/portable/Gdi.h"
 #include "platform/portable/Handles.h"
 #include "platform/portable/Window.h"
 #include "platform/portable/winbase.h"
 
 namespace {
 
+// Its bitmaps are its own; who gives or asks for some keeps or gets copies.
 struct TIcon {
+    TIcon() = default;
+    TIcon(const TIcon&) = delete;
+    TIcon& operator=(const TIcon&) = delete;
+    ~TIcon()
+    {
+        DeleteObject(Info.hbmColor);
+        DeleteObject(Info.hbmMask);
+    }
+
     ICONINFO Info{};
     bool Shared = false;
     WORD Id = 0;
@@ -22,10 +33,36 @@ TIconTable& Table()
     return Icons;
 }
 
+HBITMAP CopyBitmap(HBITMAP Source)
+{
+    auto* const From = FindGdi<TGdiBitmap>(Source);
+    if (!From)
+        return nullptr;
+    ReadBitmapBits(*From);
+    const HBITMAP Result =
+        CreateBitmap(From->Info.bmWidth, From->Info.bmHeight, 1, From->Info.bmBitsPixel, nullptr);
+    if (auto* const To = FindGdi<TGdiBitmap>(Result)) {
+        cairo_t* const Cairo = cairo_create(To->Surface);
+        cairo_set_operator(Cairo, CAIRO_OPERATOR_SOURCE);
+        cairo_set_source_surface(Cairo, From->Surface, 0, 0);
+        cairo_paint(Cairo);
+        cairo_destroy(Cairo);
+    }
+    return Result;
+}
+
+ICONINFO CopyInfo(const ICONINFO& Source)
+{
+    ICONINFO Result = Source;
+    Result.hbmColor = CopyBitmap(Source.hbmColor);
+    Result.hbmMask = CopyBitmap(Source.hbmMask);
+    return Result;
+}
+
 HICON Add(const ICONINFO& Info, bool Shared, WORD Id)
 {
     auto Icon = std::make_unique<TIcon>();
-    Icon->Info = Info;
+    Icon->Info = CopyInfo(Info);
     Icon->Shared = Shared;
     Icon->Id = Id;
     return reinterpret_cast<HICON>(Table().Add(std::move(Icon)));
@@ -114,7 +151,10 @@ HICON CreateIcon(HINSTANCE, int Width, int Height, BYTE Planes, BYTE BitsPixel, 
     Info.hbmMask = CreateBitmap(Width, Height, 1, 1, AndBits);
     Info.hbmColor = CreateBitmap(Width, Height, Planes, BitsPixel, XorBits);
     TStateLock Lock;
-    return Add(Info, false, 0);
+    const HICON Result = Add(Info, false, 0);
+    DeleteObject(Info.hbmColor);
+    DeleteObject(Info.hbmMask);
+    return Result;
 }
 
 HICON CreateIconIndirect(ICONINFO* Info)
@@ -136,7 +176,7 @@ BOOL GetIconInfo(HICON Handle, ICONINFO* Info)
     const TIcon* const Icon = Table().Find(Handle);
     if (!Icon || !Info)
         return FALSE;
-    *Info = Icon->Info;
+    *Info = CopyInfo(Icon->Info);
     return TRUE;
 }
 

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cstring>
 #include <string>
+#include <vector>
 
 #include "platform/portable/Lifetime.h"
 #include "platform/portable/MdiState.h"
@@ -361,6 +362,30 @@ LRESULT SetDefaultId(HWND Dialog, UINT Id)
     return TRUE;
 }
 
+// A push button with the focus looks like the default button; without one the
+// dialog's own does.
+void ShowDefault(HWND Dialog, HWND Focus)
+{
+    const TDialog* const State = StateOf<TDialog>(Dialog);
+    const auto CodeOf = [](HWND Button) { return SendMessageA(Button, WM_GETDLGCODE, 0, 0); };
+    const auto Draw = [](HWND Button, WPARAM Style) { SendMessageA(Button, BM_SETSTYLE, Style, TRUE); };
+    const bool Takes = (CodeOf(Focus) & (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) != 0;
+    const HWND Own =
+        State && State->DefaultId ? GetDlgItem(Dialog, static_cast<int>(State->DefaultId)) : nullptr;
+    const HWND Shown = Takes ? Focus : Own;
+    std::vector<HWND> Buttons;
+    const auto Collect = [](HWND Child, LPARAM List) -> BOOL {
+        reinterpret_cast<std::vector<HWND>*>(List)->push_back(Child);
+        return TRUE;
+    };
+    EnumChildWindows(Dialog, Collect, reinterpret_cast<LPARAM>(&Buttons));
+    for (const HWND Button : Buttons)
+        if (Button != Shown && (CodeOf(Button) & DLGC_DEFPUSHBUTTON))
+            Draw(Button, BS_PUSHBUTTON);
+    if (Shown && (CodeOf(Shown) & DLGC_UNDEFPUSHBUTTON))
+        Draw(Shown, BS_DEFPUSHBUTTON);
+}
+
 LRESULT DefaultDialogAnswer(HWND Dialog, UINT Message, WPARAM WParam, LPARAM LParam)
 {
     switch (Message) {
@@ -382,8 +407,11 @@ LRESULT DefaultDialogAnswer(HWND Dialog, UINT Message, WPARAM WParam, LPARAM LPa
     case WM_NEXTDLGCTL: {
         const HWND Next =
             LParam ? reinterpret_cast<HWND>(WParam) : GetNextDlgTabItem(Dialog, GetFocus(), WParam != 0);
-        if (Next)
-            SetFocus(Next);
+        if (!Next)
+            return 0;
+        SetFocus(Next);
+        if (IsWindow(Dialog) && IsWindow(Next))
+            ShowDefault(Dialog, Next);
         return 0;
     }
     case WM_GETFONT: {

@@ -1,3 +1,5 @@
+#include <unicode/uchar.h>
+
 #include <algorithm>
 #include <cstring>
 #include <optional>
@@ -26,9 +28,11 @@ protected:
 private:
     enum class TNotice { Silent, Update };
 
+    // What was typed without a break is undone at once: Inserted units at At go,
+    // and Removed comes back.
     struct TUndo {
-        std::u16string Text;
-        std::size_t Start, End;
+        std::size_t At, Inserted;
+        std::u16string Removed;
     };
 
     bool Multiline() const { return (Style() & ES_MULTILINE) != 0; }
@@ -46,8 +50,17 @@ private:
     void SetText(const std::string& Value);
     std::u16string Fold(std::u16string Text) const;
     void Replace(const std::u16string& Text, bool CanUndo, TNotice Notice);
+    void Remember(std::size_t Room);
     bool Undo();
     void Changed();
+    void Copy() const;
+    void Paste();
+    bool InCombo(UINT Message, WPARAM WParam, LPARAM LParam) const;
+    bool InDialog() const;
+    bool Edits(WPARAM Key);
+    std::size_t NextWord(std::size_t At);
+    std::size_t WordBefore(std::size_t At);
+    void MoveLines(std::ptrdiff_t Count);
     void Select(std::size_t Start, std::size_t End);
     void TypeCharacter(WPARAM Character);
     void Key(WPARAM Key);
@@ -112,7 +125,7 @@ std::optional<LRESULT> TEdit::HandleText(UINT Message, WPARAM WParam, LPARAM LPa
         return TRUE;
     case WM_UNDO:
     case EM_UNDO:
-        return Undo();
+        return !ReadOnly() && Undo();
     case EM_CANUNDO:
         return FUndo.has_value();
     case EM_EMPTYUNDOBUFFER:
@@ -123,8 +136,17 @@ std::optional<LRESULT> TEdit::HandleText(UINT Message, WPARAM WParam, LPARAM LPa
             Replace({}, true, TNotice::Update);
         return 0;
     case WM_CUT:
+        if (ReadOnly() || FPassword)
+            return 0;
+        Copy();
+        if (First() != Last())
+            Replace({}, true, TNotice::Update);
+        return 0;
     case WM_COPY:
+        Copy();
+        return 0;
     case WM_PASTE:
+        Paste();
         return 0;
     default:
         return std::nullopt;
@@ -201,7 +223,8 @@ std::optional<LRESULT> TEdit::HandleOptions(UINT Message, WPARAM WParam, LPARAM 
 {
     switch (Message) {
     case WM_GETDLGCODE:
-        return DLGC_HASSETSEL | DLGC_WANTCHARS | DLGC_WANTARROWS | (Multiline() ? DLGC_WANTALLKEYS : 0);
+        return DLGC_HASSETSEL | DLGC_WANTCHARS | DLGC_WANTARROWS | (Multiline() ? DLGC_WANTALLKEYS : 0) |
+               (LParam && InCombo(Message, WParam, LParam) ? DLGC_WANTMESSAGE : 0);
     case EM_SETLIMITTEXT:
         FLimit = WParam ? WParam : NoLimit;
         return 0;
@@ -241,11 +264,15 @@ std::optional<LRESULT> TEdit::HandleInput(UINT Message, WPARAM WParam, LPARAM LP
 {
     switch (Message) {
     case WM_CHAR:
-        TypeCharacter(WParam);
+        if (!InCombo(Message, WParam, LParam))
+            TypeCharacter(WParam);
         return TRUE;
     case WM_KEYDOWN:
-        Key(WParam);
+        if (!InCombo(Message, WParam, LParam))
+            Key(WParam);
         return TRUE;
+    case WM_SYSKEYDOWN:
+        return InCombo(Message, WParam, LParam) ? std::optional<LRESULT>(0) : std::nullopt;
     case WM_SETFOCUS:
     case WM_KILLFOCUS:
         TSystemControl::Handle(Message, WParam, LParam);
@@ -334,12 +361,11 @@ std::u16string TEdit::Fold(std::u16string Text) const
 {
     if (!(Style() & (ES_UPPERCASE | ES_LOWERCASE)))
         return Text;
-    std::string Bytes = Narrow(Text);
-    if (Style() & ES_UPPERCASE)
-        CharUpperA(Bytes.data());
-    else
-        CharLowerA(Bytes.data());
-    return Widen(Bytes.c_str());
+    // Unit by unit, so that positions stay.
+    const auto Change = (Style() & ES_UPPERCASE) ? u_toupper : u_tolower;
+    for (char16_t& Unit : Text)
+        Unit = static_cast<char16_t>(Change(Unit));
+    return Text;
 }
 
 // Puts Text in the place of the selection, as much of it as the limit allows.
@@ -351,10 +377,15 @@ void TEdit::Replace(const std::u16string& Text, bool CanUndo, TNotice Notice)
         --Room; // both halves of a character or none
     FModified = true;
     const std::size_t At = First();
+    if (Room < Text.size()) {
+        Command(EN_MAXTEXT);
+        if (!Alive())
+            return;
+    }
     if (Room == 0 && Last() == At)
         return;
     if (CanUndo)
-        FUndo = {FText, First(), Last()};
+        Remember(Room);
     else
         FUndo.reset();
     FText.replace(At, Last() - At, Text, 0, Room);
@@ -367,20 +398,88 @@ void TEdit::Replace(const std::u16string& Text, bool CanUndo, TNotice Notice)
         Changed();
 }
 
+void TEdit::Remember(std::size_t Room)
+{
+    const std::u16string Removed = FText.substr(First(), Last() - First());
+    if (!FUndo)
+        FUndo = TUndo{First(), 0, {}};
+    if (!Removed.empty()) {
+        const bool Deleting = FUndo->Inserted == 0 && !FUndo->Removed.empty();
+        if (Deleting && First() == FUndo->At)
+            FUndo->Removed += Removed;
+        else if (Deleting && Last() == FUndo->At)
+            FUndo->Removed.insert(0, Removed);
+        else
+            FUndo->Removed = Removed;
+        FUndo->At = First();
+        FUndo->Inserted = 0;
+    }
+    if (Room == 0)
+        return;
+    const bool Continues =
+        First() == FUndo->At || (FUndo->Inserted && First() == FUndo->At + FUndo->Inserted);
+    if (!Continues)
+        FUndo = TUndo{First(), 0, {}};
+    FUndo->Inserted += Room;
+}
+
+// Undoing again brings back what was undone.
 bool TEdit::Undo()
 {
     if (!FUndo)
         return false;
-    const TUndo Back = *std::exchange(FUndo, TUndo{FText, First(), Last()});
-    FText = Back.Text;
-    FStart = Back.Start;
-    FEnd = Back.End;
+    const TUndo Back = *std::exchange(FUndo, std::nullopt);
+    FUndo = TUndo{Back.At, Back.Removed.size(), FText.substr(Back.At, Back.Inserted)};
+    FText.replace(Back.At, Back.Inserted, Back.Removed);
+    FStart = Back.At;
+    FEnd = Back.At + Back.Removed.size();
     FLines.clear();
     if (TWindow* const Known = WindowOf(Window()))
         Known->Text = Narrow(FText);
     Invalidate();
     Changed();
     return true;
+}
+
+// The selection goes to the clipboard; that of a password stays.
+void TEdit::Copy() const
+{
+    if (First() == Last() || FPassword || !OpenClipboard(Window()))
+        return;
+    EmptyClipboard();
+    const std::u16string Part = FText.substr(First(), Last() - First());
+    const std::string Bytes = Narrow(Part);
+    const auto Put = [](UINT Format, const void* Data, std::size_t Size) {
+        const HGLOBAL Block = GlobalAlloc(GMEM_MOVEABLE, Size);
+        std::memcpy(GlobalLock(Block), Data, Size);
+        GlobalUnlock(Block);
+        SetClipboardData(Format, Block);
+    };
+    Put(CF_UNICODETEXT, Part.c_str(), (Part.size() + 1) * sizeof(char16_t));
+    Put(CF_TEXT, Bytes.c_str(), Bytes.size() + 1);
+    CloseClipboard();
+}
+
+void TEdit::Paste()
+{
+    if (ReadOnly() || !OpenClipboard(Window()))
+        return;
+    std::u16string Text;
+    if (const HANDLE Wide = GetClipboardData(CF_UNICODETEXT)) {
+        const auto* const Units = static_cast<const char16_t*>(GlobalLock(Wide));
+        const std::size_t Most = GlobalSize(Wide) / sizeof(char16_t);
+        Text.assign(Units, std::find(Units, Units + Most, u'\0'));
+        GlobalUnlock(Wide);
+    } else if (const HANDLE Plain = GetClipboardData(CF_TEXT)) {
+        const auto* const Bytes = static_cast<const char*>(GlobalLock(Plain));
+        Text = Widen(std::string(Bytes, std::find(Bytes, Bytes + GlobalSize(Plain), '\0')));
+        GlobalUnlock(Plain);
+    }
+    CloseClipboard();
+    if (!Multiline())
+        Text.resize(std::min(Text.find(u"\r\n"), Text.size()));
+    if (!Text.empty())
+        Replace(Fold(std::move(Text)), true, TNotice::Update);
 }
 
 void TEdit::Changed()
@@ -410,10 +509,58 @@ std::size_t TEdit::StepFrom(std::size_t At, int By) const
     return At >= FText.size() ? FText.size() : Low(At + 1) || Pair(At) ? At + 2 : At + 1;
 }
 
+// The field of a combo box leaves the keys that move through the list to it, and
+// those that end a list that is dropped.
+bool TEdit::InCombo(UINT Message, WPARAM WParam, LPARAM LParam) const
+{
+    const HWND Combo = GetParent(Window());
+    char Class[16] = "";
+    if (!GetClassNameA(Combo, Class, sizeof Class) || !SameText(Class, "ComboBox"))
+        return false;
+    if (Message == WM_KEYDOWN || Message == WM_SYSKEYDOWN) {
+        const bool Moves = WParam == VK_UP || WParam == VK_DOWN;
+        const bool Pages = WParam == VK_PRIOR || WParam == VK_NEXT || WParam == VK_F4;
+        if (!Moves && (Message == WM_SYSKEYDOWN || !Pages))
+            return false;
+        SendMessageA(Combo, Message, WParam, LParam);
+        return true;
+    }
+    if ((WParam != VK_RETURN && WParam != VK_ESCAPE) || !SendMessageA(Combo, CB_GETDROPPEDSTATE, 0, 0))
+        return false;
+    if (Message == WM_CHAR)
+        SendMessageA(Combo, WM_KEYDOWN, WParam, LParam);
+    return true;
+}
+
+// Where the tab key goes on to the next control.
+bool TEdit::InDialog() const
+{
+    char Class[8] = "";
+    return GetClassNameA(GetParent(Window()), Class, sizeof Class) && SameText(Class, "#32770");
+}
+
+// The keys of the clipboard, as they are typed.
+bool TEdit::Edits(WPARAM Key)
+{
+    constexpr struct {
+        char Key;
+        UINT Message;
+    } Keys[] = {{'C', WM_COPY}, {'V', WM_PASTE}, {'X', WM_CUT}, {'Z', WM_UNDO}};
+    for (const auto& Each : Keys)
+        if (Key == static_cast<WPARAM>(Each.Key - 'A' + 1)) {
+            SendMessageA(Window(), Each.Message, 0, 0);
+            return true;
+        }
+    return false;
+}
+
 // A character arrives byte by byte.
 void TEdit::TypeCharacter(WPARAM Character)
 {
-    if (ReadOnly())
+    if (Character == '\t' && InDialog() && !(GetKeyState(VK_CONTROL) & 0x8000))
+        return;
+    constexpr WPARAM WordBack = 0x7F; // what Ctrl with the back space key types
+    if (Edits(Character) || ReadOnly() || Character == WordBack)
         return;
     if (Character == VK_BACK) {
         if (First() == Last())
@@ -443,30 +590,84 @@ void TEdit::MoveCaret(std::size_t To)
     Select(GetKeyState(VK_SHIFT) & 0x8000 ? FStart : To, To);
 }
 
-void TEdit::Key(WPARAM Key)
+std::size_t TEdit::NextWord(std::size_t At)
+{
+    if (FPassword)
+        return FText.size();
+    const std::size_t End = LineEnd(LineOf(At));
+    if (At >= End)
+        return StepFrom(At, 1);
+    while (At < End && FText[At] != u' ')
+        ++At;
+    while (At < End && FText[At] == u' ')
+        ++At;
+    return At;
+}
+
+std::size_t TEdit::WordBefore(std::size_t At)
+{
+    if (FPassword)
+        return 0;
+    const std::size_t Start = LineStart(LineOf(At));
+    if (At <= Start)
+        return StepFrom(At, -1);
+    while (At > Start && FText[At - 1] == u' ')
+        --At;
+    while (At > Start && FText[At - 1] != u' ')
+        --At;
+    return At;
+}
+
+// The caret goes up or down and stays in its column where the line is long enough.
+void TEdit::MoveLines(std::ptrdiff_t Count)
 {
     const std::size_t Line = LineOf(FEnd), Column = FEnd - LineStart(Line);
-    const auto ToLine = [&](std::size_t Target) {
+    const auto Last = static_cast<std::ptrdiff_t>(Lines().size()) - 1;
+    const auto Target = static_cast<std::size_t>(
+        std::clamp<std::ptrdiff_t>(static_cast<std::ptrdiff_t>(Line) + Count, 0, Last));
+    if (Target != Line)
         MoveCaret(std::min(LineStart(Target) + Column, LineEnd(Target)));
-    };
+}
+
+void TEdit::Key(WPARAM Key)
+{
+    const bool Shift = (GetKeyState(VK_SHIFT) & 0x8000) != 0,
+               Control = (GetKeyState(VK_CONTROL) & 0x8000) != 0;
+    const std::size_t Line = LineOf(FEnd);
+    const auto Page =
+        static_cast<std::ptrdiff_t>(std::max<int>(1, ClientRect().bottom / std::max(1, LineHeight())));
     switch (Key) {
     case VK_LEFT:
-        return MoveCaret(StepFrom(FEnd, -1));
+        return MoveCaret(Control ? WordBefore(FEnd) : StepFrom(FEnd, -1));
     case VK_RIGHT:
-        return MoveCaret(StepFrom(FEnd, 1));
+        return MoveCaret(Control ? NextWord(FEnd) : StepFrom(FEnd, 1));
     case VK_HOME:
-        return MoveCaret(GetKeyState(VK_CONTROL) & 0x8000 ? 0 : LineStart(Line));
+        return MoveCaret(Control ? 0 : LineStart(Line));
     case VK_END:
-        return MoveCaret(GetKeyState(VK_CONTROL) & 0x8000 ? FText.size() : LineEnd(Line));
+        return MoveCaret(Control ? FText.size() : LineEnd(Line));
     case VK_UP:
-        return Line > 0 ? ToLine(Line - 1) : void();
+        return Multiline() ? MoveLines(-1) : MoveCaret(StepFrom(FEnd, -1));
     case VK_DOWN:
-        return Line + 1 < Lines().size() ? ToLine(Line + 1) : void();
+        return Multiline() ? MoveLines(1) : MoveCaret(StepFrom(FEnd, 1));
+    case VK_PRIOR:
+        return MoveLines(-Page);
+    case VK_NEXT:
+        return MoveLines(Page);
+    case VK_TAB:
+        if (Multiline() && InDialog() && !Control)
+            SendMessageA(GetParent(Window()), WM_NEXTDLGCTL, Shift, 0);
+        return;
+    case VK_INSERT:
+        if (Control != Shift)
+            SendMessageA(Window(), Shift ? WM_PASTE : WM_COPY, 0, 0);
+        return;
     case VK_DELETE:
-        if (ReadOnly())
+        if (ReadOnly() || (Shift && Control))
             return;
+        if (First() != Last() && Shift)
+            return static_cast<void>(SendMessageA(Window(), WM_CUT, 0, 0));
         if (First() == Last())
-            FEnd = StepFrom(FEnd, 1);
+            FEnd = Shift ? StepFrom(FEnd, -1) : Control ? LineEnd(Line) : StepFrom(FEnd, 1);
         if (First() != Last())
             Replace({}, true, TNotice::Update);
         return;

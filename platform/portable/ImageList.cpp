@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "platform/portable/Gdi.h"
+#include "platform/portable/StandardIcons.h"
 #include "platform/portable/commctrl.h"
 
 // Each image is a surface with transparency.
@@ -252,6 +253,8 @@ BOOL ImageList_DrawEx(HIMAGELIST List, int Index, HDC Dc, int X, int Y, int Widt
 BOOL DrawIconEx(HDC Dc, int X, int Y, HICON Icon, int Width, int Height, UINT, HBRUSH, UINT)
 {
     ICONINFO Info{};
+    if (DrawStandardIcon(Dc, X, Y, Icon, Width, Height))
+        return TRUE;
     if (!GetIconInfo(Icon, &Info))
         return FALSE;
     const auto* const Bitmap = FindGdi<TGdiBitmap>(Info.hbmColor);

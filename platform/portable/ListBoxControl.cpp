@@ -8,6 +8,8 @@
 // Lists of texts or of items that the parent draws; also the list of a combo
 // box, which is a child of the combo box and reports to it.
 namespace {
+constexpr int WheelNotch = 120;
+
 struct TListItem {
     std::string Text;
     LPARAM Data = 0;
@@ -38,27 +40,48 @@ private:
     LRESULT HandleItems(UINT Message, WPARAM WParam, LPARAM LParam);
     LRESULT HandleMultiple(UINT Message, WPARAM WParam, LPARAM LParam);
     void Start();
+    HWND Drawer() const { return FCombo ? FCombo : GetParent(Window()); }
     void Measure(TListItem& Item, int Index);
+    bool Precedes(const TListItem& First, const TListItem& Second) const;
+    void TellDeleted(int Index);
+    void Clear();
     int Add(LPARAM Text);
     int Insert(int Index, LPARAM Text);
     LRESULT Delete(int Index);
     int Find(int After, LPARAM Text, bool Exact);
     LRESULT SetCurrent(int Index);
-    void Toggle(int Index);
+    void SelectRange(int First, int Last, bool Select);
+    void MoveCaret(int Index);
     void Note(int Code);
     void Choose(int Index);
+    bool HandleInput(UINT Message, WPARAM WParam, LPARAM LParam);
     void Key(WPARAM Key);
-    void Click(LPARAM LParam);
+    int KeyTarget(WPARAM Key);
+    void TypeCharacter(char Typed);
+    void Press(POINT Point, WPARAM Keys);
+    void Drag(POINT Point);
+    void Release(POINT Point);
+    void Wheel(int Delta);
+    void ScrollBy(WPARAM Request);
+    bool Columns() const { return (Style() & LBS_MULTICOLUMN) != 0; }
+    int RowsInView() { return std::max<int>(1, ClientRect().bottom / std::max(1, FItemHeight)); }
+    int ColumnsInView() { return std::max<int>(1, ClientRect().right / std::max(1, FColumnWidth)); }
+    int PageSize() { return Columns() ? RowsInView() * ColumnsInView() : RowsInView(); }
     void SetTop(int Index);
+    int LastTop();
     void ScrollTo(int Index);
     void UpdateScrollBar();
     void PaintItem(HDC Dc, int Index);
 
     std::vector<TListItem> FItems;
-    int FCurrent = -1;
+    HWND FCombo = nullptr; // the combo box that this is the list of
+    int FCurrent = -1;     // the chosen item where only one can be
+    int FCaret = 0;
+    int FAnchor = -1; // where a range of an extended selection began
     int FTop = 0;
     int FItemHeight = 16;
     int FExtent = 0;
+    int FColumnWidth = 150;
     bool FScrolls = false; // created with a scroll bar, which hides while all items fit
     bool FPressed = false;
 };
@@ -69,7 +92,11 @@ LRESULT TListBox::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
         return HandleItems(Message, WParam, LParam);
     switch (Message) {
     case WM_CREATE:
+        FCombo = static_cast<HWND>(Structure<CREATESTRUCTA>(LParam).lpCreateParams);
         Start();
+        return 0;
+    case WM_DESTROY:
+        Clear();
         return 0;
     case WM_GETDLGCODE:
         return DLGC_WANTARROWS | DLGC_WANTCHARS;
@@ -78,56 +105,17 @@ LRESULT TListBox::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
         TSystemControl::Handle(Message, WParam, LParam);
         Note(Message == WM_SETFOCUS ? LBN_SETFOCUS : LBN_KILLFOCUS);
         return 0;
-    case WM_LBUTTONDOWN:
-        Click(LParam);
-        return 0;
-    case WM_LBUTTONUP:
-        if (std::exchange(FPressed, false)) {
-            ReleaseCapture();
-            Note(LBN_SELCHANGE);
-        }
-        return 0;
-    case WM_LBUTTONDBLCLK:
-        Note(LBN_DBLCLK);
-        return 0;
-    case WM_KEYDOWN:
-        Key(WParam);
-        return 0;
-    case WM_CHAR: {
-        const std::string Typed(1, static_cast<char>(WParam));
-        const int Found = WParam > ' ' ? Find(FCurrent, reinterpret_cast<LPARAM>(Typed.c_str()), false) : -1;
-        if (Found >= 0)
-            Choose(Found);
-        return 0;
-    }
     case WM_SIZE:
         UpdateScrollBar();
         return 0;
-    case WM_VSCROLL: {
-        const int Page = std::max<int>(1, ClientRect().bottom / std::max(1, FItemHeight));
-        switch (LOWORD(WParam)) {
-        case SB_LINEUP:
-            SetTop(FTop - 1);
-            break;
-        case SB_LINEDOWN:
-            SetTop(FTop + 1);
-            break;
-        case SB_PAGEUP:
-            SetTop(FTop - Page);
-            break;
-        case SB_PAGEDOWN:
-            SetTop(FTop + Page);
-            break;
-        case SB_THUMBPOSITION:
-        case SB_THUMBTRACK:
-            SetTop(HIWORD(WParam));
-            break;
-        default:
-            break;
-        }
+    case WM_VSCROLL:
+    case WM_HSCROLL:
+        if ((Message == WM_HSCROLL) == Columns())
+            ScrollBy(WParam);
         return 0;
-    }
     default:
+        if (HandleInput(Message, WParam, LParam))
+            return 0;
         return TSystemControl::Handle(Message, WParam, LParam);
     }
 }
@@ -143,9 +131,7 @@ LRESULT TListBox::HandleItems(UINT Message, WPARAM WParam, LPARAM LParam)
     case LB_DELETESTRING:
         return Delete(Index);
     case LB_RESETCONTENT:
-        FItems.clear();
-        FCurrent = -1;
-        FTop = 0;
+        Clear();
         UpdateScrollBar();
         Invalidate();
         return 0;
@@ -182,7 +168,7 @@ LRESULT TListBox::HandleItems(UINT Message, WPARAM WParam, LPARAM LParam)
     case LB_SETCURSEL:
         return Multiple() ? LB_ERR : SetCurrent(Index);
     case LB_GETCURSEL:
-        return FCurrent;
+        return !Multiple() ? FCurrent : Count() > 0 ? FCaret : LB_ERR;
     case LB_GETTOPINDEX:
         return FTop;
     case LB_SETTOPINDEX:
@@ -214,8 +200,11 @@ LRESULT TListBox::HandleItems(UINT Message, WPARAM WParam, LPARAM LParam)
     case LB_GETHORIZONTALEXTENT:
         return FExtent;
     case LB_GETCARETINDEX:
-        return std::max(FCurrent, 0);
-    case LB_SETCARETINDEX:
+        return FCaret;
+    case LB_SETCOLUMNWIDTH:
+        FColumnWidth = std::max(1, Index);
+        UpdateScrollBar();
+        Invalidate();
         return 0;
     default:
         return HandleMultiple(Message, WParam, LParam);
@@ -234,12 +223,36 @@ LRESULT TListBox::HandleMultiple(UINT Message, WPARAM WParam, LPARAM LParam)
         const int Item = static_cast<int>(LParam);
         if (!Multiple() || (Item != -1 && !Valid(Item)))
             return LB_ERR;
-        for (int Each = 0; Each < Count(); ++Each)
-            if (Item == -1 || Each == Item)
-                At(Each).Selected = WParam != 0;
-        Invalidate();
+        FAnchor = Item;
+        if (Item >= 0)
+            MoveCaret(Item);
+        SelectRange(std::max(Item, 0), Item < 0 ? Count() - 1 : Item, WParam != 0);
         return 0;
     }
+    case LB_SELITEMRANGE:
+        if (!Multiple())
+            return LB_ERR;
+        SelectRange(LOWORD(LParam), HIWORD(LParam), WParam != 0);
+        return 0;
+    case LB_SELITEMRANGEEX: {
+        const int Last = static_cast<int>(LParam);
+        if (!Multiple())
+            return LB_ERR;
+        SelectRange(std::min(Index, Last), std::max(Index, Last), Index <= Last);
+        return 0;
+    }
+    case LB_SETCARETINDEX:
+        if (!Multiple() || !Valid(Index))
+            return LB_ERR;
+        MoveCaret(Index);
+        return 0;
+    case LB_GETANCHORINDEX:
+        return FAnchor;
+    case LB_SETANCHORINDEX:
+        if (!Valid(Index) && Index != -1)
+            return LB_ERR;
+        FAnchor = Index;
+        return 0;
     case LB_GETSELCOUNT:
         if (!Multiple())
             return LB_ERR;
@@ -262,12 +275,12 @@ LRESULT TListBox::HandleMultiple(UINT Message, WPARAM WParam, LPARAM LParam)
 void TListBox::Start()
 {
     FItemHeight = LineHeight();
-    FScrolls = (Style() & WS_VSCROLL) != 0;
+    FScrolls = (Style() & (Columns() ? WS_HSCROLL : WS_VSCROLL)) != 0;
     UpdateScrollBar();
     if (!OwnerDrawn() || (Style() & LBS_OWNERDRAWVARIABLE))
         return;
     TListItem Item;
-    Measure(Item, -1);
+    Measure(Item, FCombo ? 0 : -1);
     if (Item.Height > 0)
         FItemHeight = Item.Height;
 }
@@ -280,17 +293,59 @@ void TListBox::Measure(TListItem& Item, int Index)
     Size.itemID = static_cast<UINT>(Index);
     Size.itemHeight = static_cast<UINT>(FItemHeight);
     Size.itemData = static_cast<ULONG_PTR>(Item.Data);
-    SendMessageA(GetParent(Window()), WM_MEASUREITEM, Size.CtlID, reinterpret_cast<LPARAM>(&Size));
+    SendMessageA(Drawer(), WM_MEASUREITEM, Size.CtlID, reinterpret_cast<LPARAM>(&Size));
     Item.Height = static_cast<int>(Size.itemHeight);
+}
+
+// Whoever draws the items without texts orders them too.
+bool TListBox::Precedes(const TListItem& First, const TListItem& Second) const
+{
+    if (HasStrings())
+        return SortsBefore(First.Text, Second.Text);
+    COMPAREITEMSTRUCT Pair{};
+    Pair.CtlType = ODT_LISTBOX;
+    Pair.CtlID = static_cast<UINT>(Id());
+    Pair.hwndItem = Window();
+    Pair.itemID1 = Pair.itemID2 = static_cast<UINT>(-1);
+    Pair.itemData1 = static_cast<ULONG_PTR>(First.Data);
+    Pair.itemData2 = static_cast<ULONG_PTR>(Second.Data);
+    return SendMessageA(Drawer(), WM_COMPAREITEM, Pair.CtlID, reinterpret_cast<LPARAM>(&Pair)) < 0;
+}
+
+// What hangs at an item can be freed when it goes.
+void TListBox::TellDeleted(int Index)
+{
+    if (!OwnerDrawn() && At(Index).Data == 0)
+        return;
+    DELETEITEMSTRUCT Item{};
+    Item.CtlType = ODT_LISTBOX;
+    Item.CtlID = static_cast<UINT>(Id());
+    Item.itemID = static_cast<UINT>(Index);
+    Item.hwndItem = Window();
+    Item.itemData = static_cast<ULONG_PTR>(At(Index).Data);
+    SendMessageA(Drawer(), WM_DELETEITEM, Item.CtlID, reinterpret_cast<LPARAM>(&Item));
+}
+
+void TListBox::Clear()
+{
+    for (int Index = Count() - 1; Valid(Index); --Index)
+        TellDeleted(Index);
+    FItems.clear();
+    FCurrent = FAnchor = -1;
+    FTop = FCaret = 0;
 }
 
 int TListBox::Add(LPARAM Text)
 {
     int Index = Count();
-    if ((Style() & LBS_SORT) && HasStrings() && Text) {
-        const std::string New = reinterpret_cast<LPCSTR>(Text);
+    if ((Style() & LBS_SORT) && (!HasStrings() || Text)) {
+        TListItem New;
+        if (HasStrings())
+            New.Text = reinterpret_cast<LPCSTR>(Text);
+        else
+            New.Data = Text;
         Index = 0;
-        while (Index < Count() && !SortsBefore(New, At(Index).Text))
+        while (Index < Count() && !Precedes(New, At(Index)))
             ++Index;
     }
     return Insert(Index, Text);
@@ -317,11 +372,15 @@ LRESULT TListBox::Delete(int Index)
 {
     if (!Valid(Index))
         return LB_ERR;
+    TellDeleted(Index);
+    if (!Valid(Index))
+        return LB_ERR;
     FItems.erase(FItems.begin() + Index);
     if (FCurrent == Index)
         FCurrent = -1;
     else if (FCurrent > Index)
         --FCurrent;
+    FCaret = std::clamp(FCaret, 0, std::max(0, Count() - 1));
     UpdateScrollBar();
     Invalidate();
     return Count();
@@ -350,89 +409,217 @@ LRESULT TListBox::SetCurrent(int Index)
         return LB_ERR;
     FCurrent = Index;
     if (Index >= 0)
-        ScrollTo(Index);
+        MoveCaret(Index);
     Invalidate();
     return Index < 0 ? LB_ERR : Index;
 }
 
-void TListBox::Toggle(int Index)
+void TListBox::SelectRange(int First, int Last, bool Select)
 {
-    if (!(Style() & LBS_MULTIPLESEL))
-        for (auto& Item : FItems)
-            Item.Selected = false;
-    At(Index).Selected = !At(Index).Selected;
+    for (int Each = std::max(First, 0); Each <= std::min(Last, Count() - 1); ++Each)
+        At(Each).Selected = Select;
+    Invalidate();
+}
+
+void TListBox::MoveCaret(int Index)
+{
+    FCaret = Index;
+    ScrollTo(Index);
+    Invalidate();
 }
 
 void TListBox::Note(int Code)
 {
-    if (Style() & LBS_NOTIFY)
+    if (FCombo)
+        SendMessageA(FCombo, WM_COMMAND, MAKEWPARAM(Id(), Code), reinterpret_cast<LPARAM>(Window()));
+    else if (Style() & LBS_NOTIFY)
         Command(Code);
 }
 
+// The user goes to an item: it is chosen, or what lies between it and the anchor.
 void TListBox::Choose(int Index)
 {
-    if (Multiple() && !(Style() & LBS_MULTIPLESEL))
-        Toggle(Index);
-    SetCurrent(Index);
-    Note(LBN_SELCHANGE);
+    if (!Multiple()) {
+        SetCurrent(Index);
+        return;
+    }
+    MoveCaret(Index);
+    if (!(Style() & LBS_EXTENDEDSEL) || FAnchor < 0)
+        return;
+    SelectRange(0, Count() - 1, false);
+    SelectRange(std::min(Index, FAnchor), std::max(Index, FAnchor), true);
+}
+
+bool TListBox::HandleInput(UINT Message, WPARAM WParam, LPARAM LParam)
+{
+    switch (Message) {
+    case WM_LBUTTONDOWN:
+        Press(PointOf(LParam), WParam);
+        return true;
+    case WM_MOUSEMOVE:
+        Drag(PointOf(LParam));
+        return true;
+    case WM_LBUTTONUP:
+        Release(PointOf(LParam));
+        return true;
+    case WM_LBUTTONDBLCLK:
+        Note(LBN_DBLCLK);
+        return true;
+    case WM_MOUSEWHEEL:
+        Wheel(static_cast<short>(HIWORD(WParam)));
+        return true;
+    case WM_KEYDOWN:
+        Key(WParam);
+        return true;
+    case WM_CHAR:
+        TypeCharacter(static_cast<char>(WParam));
+        return true;
+    default:
+        return false;
+    }
+}
+
+// The item that a key leads to, which may lie outside the list; -2 for other keys.
+int TListBox::KeyTarget(WPARAM Key)
+{
+    switch (Key) {
+    case VK_LEFT:
+        return FCaret - (Columns() ? RowsInView() : 1);
+    case VK_UP:
+        return FCaret - 1;
+    case VK_RIGHT:
+        return FCaret + (Columns() ? RowsInView() : 1);
+    case VK_DOWN:
+        return FCaret + 1;
+    case VK_HOME:
+        return 0;
+    case VK_END:
+        return Count() - 1;
+    case VK_PRIOR:
+        return std::max(0, FCaret - std::max(1, PageSize() - 1));
+    case VK_NEXT:
+        return FCaret + std::max(1, PageSize() - 1);
+    default:
+        return -2;
+    }
 }
 
 void TListBox::Key(WPARAM Key)
 {
     if (Count() == 0)
         return;
-    const int Page = std::max<int>(1, ClientRect().bottom / std::max(1, FItemHeight) - 1);
-    int Target = FCurrent;
-    switch (Key) {
-    case VK_UP:
-        --Target;
-        break;
-    case VK_DOWN:
-        ++Target;
-        break;
-    case VK_HOME:
-        Target = 0;
-        break;
-    case VK_END:
-        Target = Count() - 1;
-        break;
-    case VK_PRIOR:
-        Target -= Page;
-        break;
-    case VK_NEXT:
-        Target += Page;
-        break;
-    case VK_SPACE:
-        if ((Style() & LBS_MULTIPLESEL) && Valid(FCurrent)) {
-            Toggle(FCurrent);
-            Invalidate();
-            Note(LBN_SELCHANGE);
-        }
+    const bool Shift = (GetKeyState(VK_SHIFT) & 0x8000) != 0;
+    if (Key == VK_SPACE && (Style() & LBS_MULTIPLESEL)) {
+        SelectRange(FCaret, FCaret, !At(FCaret).Selected);
+        return Note(LBN_SELCHANGE);
+    }
+    int Target = Key == VK_SPACE && (Style() & LBS_EXTENDEDSEL) ? FCaret : KeyTarget(Key);
+    if (Target == -2)
         return;
+    // Without a choice the first key chooses the item that the caret is on.
+    const bool Across = Columns() && (Key == VK_LEFT || Key == VK_RIGHT);
+    if (!Multiple() && FCurrent != FCaret && !Across)
+        Target = FCaret;
+    Target = std::clamp(Target, 0, Count() - 1);
+    if (!Multiple() || ((Style() & LBS_EXTENDEDSEL) && !Shift))
+        FAnchor = Target;
+    Choose(Target);
+    Note(LBN_SELCHANGE);
+}
+
+void TListBox::TypeCharacter(char Typed)
+{
+    const std::string Start(1, Typed);
+    const int Found = static_cast<unsigned char>(Typed) > ' ' && HasStrings()
+                          ? Find(FCaret, reinterpret_cast<LPARAM>(Start.c_str()), false)
+                          : -1;
+    if (Found < 0)
+        return;
+    Choose(Found);
+    Note(LBN_SELCHANGE);
+}
+
+void TListBox::Press(POINT Point, WPARAM Keys)
+{
+    if (!FCombo)
+        SetFocus(Window());
+    if (!Alive())
+        return;
+    const int Index = IndexAt(Point);
+    if (Index < 0)
+        return;
+    if (!Multiple() || !(Keys & MK_SHIFT))
+        FAnchor = Index;
+    if (!Multiple()) {
+        Choose(Index);
+    } else if ((Style() & LBS_EXTENDEDSEL) && !(Keys & MK_CONTROL)) {
+        Choose(Index);
+    } else {
+        MoveCaret(Index);
+        SelectRange(Index, Index, !At(Index).Selected);
+    }
+    SetCapture(Window());
+    FPressed = true;
+}
+
+void TListBox::Drag(POINT Point)
+{
+    const int Index = IndexAt(Point);
+    if (Index >= 0 && Index != FCaret && (FPressed || FCombo))
+        Choose(Index);
+}
+
+void TListBox::Release(POINT Point)
+{
+    if (!std::exchange(FPressed, false))
+        return;
+    ReleaseCapture();
+    const RECT Client = ClientRect();
+    if (!FCombo || PtInRect(&Client, Point))
+        Note(LBN_SELCHANGE);
+}
+
+void TListBox::Wheel(int Delta)
+{
+    if (FCombo)
+        return Key(Delta < 0 ? VK_DOWN : VK_UP);
+    UINT Lines = 3;
+    SystemParametersInfoA(SPI_GETWHEELSCROLLLINES, 0, &Lines, 0);
+    SetTop(FTop - Delta * static_cast<int>(Lines) / WheelNotch);
+}
+
+void TListBox::ScrollBy(WPARAM Request)
+{
+    const int Step = Columns() ? RowsInView() : 1;
+    switch (LOWORD(Request)) {
+    case SB_LINEUP:
+        return SetTop(FTop - Step);
+    case SB_LINEDOWN:
+        return SetTop(FTop + Step);
+    case SB_PAGEUP:
+        return SetTop(FTop - PageSize());
+    case SB_PAGEDOWN:
+        return SetTop(FTop + PageSize());
+    case SB_TOP:
+        return SetTop(0);
+    case SB_BOTTOM:
+        return SetTop(Count() - 1);
+    case SB_THUMBPOSITION:
+    case SB_THUMBTRACK:
+        return SetTop(HIWORD(Request) * Step);
     default:
         return;
     }
-    Choose(std::clamp(Target, 0, Count() - 1));
-}
-
-void TListBox::Click(LPARAM LParam)
-{
-    SetFocus(Window());
-    if (!Alive())
-        return;
-    const int Index = IndexAt(PointOf(LParam));
-    if (Index < 0)
-        return;
-    if (Multiple())
-        Toggle(Index);
-    SetCurrent(Index);
-    SetCapture(Window());
-    FPressed = true;
 }
 
 RECT TListBox::RectOf(int Index)
 {
     const RECT Client = ClientRect();
+    if (Columns()) {
+        const int Rows = RowsInView(), Left = (Index / Rows - FTop / Rows) * FColumnWidth;
+        const int Upper = Index % Rows * FItemHeight;
+        return {Left, Upper, Left + FColumnWidth, Upper + FItemHeight};
+    }
     int Top = 0;
     for (int Each = FTop; Each < Index; ++Each)
         Top += HeightOf(Each);
@@ -443,8 +630,13 @@ RECT TListBox::RectOf(int Index)
 
 int TListBox::IndexAt(POINT Point)
 {
+    for (int Index = FTop; Columns() && Index < Count(); ++Index) {
+        const RECT Area = RectOf(Index);
+        if (PtInRect(&Area, Point))
+            return Index;
+    }
     int Top = 0;
-    for (int Index = FTop; Index < Count() && Point.y >= 0; ++Index) {
+    for (int Index = FTop; !Columns() && Index < Count() && Point.y >= 0; ++Index) {
         Top += HeightOf(Index);
         if (Point.y < Top)
             return Index;
@@ -454,33 +646,57 @@ int TListBox::IndexAt(POINT Point)
 
 void TListBox::SetTop(int Index)
 {
-    FTop = std::clamp(Index, 0, std::max(0, Count() - 1));
-    SetScrollPos(Window(), SB_VERT, FTop, FALSE);
+    FTop = std::clamp(Index, 0, LastTop());
+    if (Columns())
+        FTop -= FTop % RowsInView();
+    SetScrollPos(Window(), Columns() ? SB_HORZ : SB_VERT, Columns() ? FTop / RowsInView() : FTop, FALSE);
     Invalidate();
+}
+
+// The first item in view when the end of the list is.
+int TListBox::LastTop()
+{
+    if (Columns()) {
+        const int Rows = RowsInView(), All = (Count() + Rows - 1) / Rows;
+        return std::max(0, All - ColumnsInView()) * Rows;
+    }
+    int Index = Count(), Room = ClientRect().bottom;
+    while (Index > 0 && Room >= HeightOf(Index - 1))
+        Room -= HeightOf(--Index);
+    return std::clamp(Index, 0, std::max(0, Count() - 1));
 }
 
 void TListBox::ScrollTo(int Index)
 {
     if (Index < FTop)
-        SetTop(Index);
-    else
-        while (FTop < Index && RectOf(Index).bottom > ClientRect().bottom)
-            SetTop(FTop + 1);
+        return SetTop(Index);
+    if (Columns()) {
+        const int Rows = RowsInView(), Column = Index / Rows - ColumnsInView() + 1;
+        return FTop / Rows < Column ? SetTop(Column * Rows) : void();
+    }
+    while (FTop < Index && RectOf(Index).bottom > ClientRect().bottom) {
+        const int Before = FTop;
+        SetTop(FTop + 1);
+        if (FTop == Before)
+            return;
+    }
 }
 
 void TListBox::UpdateScrollBar()
 {
-    const int Page = std::max<int>(1, ClientRect().bottom / std::max(1, FItemHeight));
     if (!FScrolls)
         return;
+    const int Rows = RowsInView();
+    const int Last = Columns() ? (Count() + Rows - 1) / Rows - 1 : Count() - 1;
+    FTop = std::min(FTop, LastTop());
     SCROLLINFO Info{sizeof(SCROLLINFO),
                     SIF_RANGE | SIF_PAGE | SIF_POS,
                     0,
-                    std::max(0, Count() - 1),
-                    static_cast<UINT>(Page),
-                    FTop,
+                    std::max(0, Last),
+                    static_cast<UINT>(Columns() ? ColumnsInView() : Rows),
+                    Columns() ? FTop / Rows : FTop,
                     0};
-    SetScrollInfo(Window(), SB_VERT, &Info, FALSE);
+    SetScrollInfo(Window(), Columns() ? SB_HORZ : SB_VERT, &Info, FALSE);
 }
 
 void TListBox::Paint(HDC Dc)
@@ -488,15 +704,19 @@ void TListBox::Paint(HDC Dc)
     const RECT Client = ClientRect();
     FillRect(Dc, &Client, ParentColors(Dc, WM_CTLCOLORLISTBOX));
     SetBkMode(Dc, TRANSPARENT);
-    for (int Index = FTop; Index < Count() && RectOf(Index).top < Client.bottom; ++Index)
+    for (int Index = FTop; Index < Count(); ++Index) {
+        const RECT Area = RectOf(Index);
+        if (Columns() ? Area.left >= Client.right : Area.top >= Client.bottom)
+            break;
         PaintItem(Dc, Index);
+    }
 }
 
 void TListBox::PaintItem(HDC Dc, int Index)
 {
     RECT Rect = RectOf(Index);
     const bool Selected = Multiple() ? At(Index).Selected : FCurrent == Index;
-    const bool WithFocus = Focused() && FCurrent == Index;
+    const bool WithFocus = Focused() && FCaret == Index;
     if (OwnerDrawn()) {
         DRAWITEMSTRUCT Item{};
         Item.CtlType = ODT_LISTBOX;

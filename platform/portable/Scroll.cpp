@@ -35,9 +35,9 @@ int SetScrollInfo(HWND Handle, int Kind, const SCROLLINFO* Info, BOOL Redraw)
         Bar->Page = Info->nPage;
     if (Info->fMask & SIF_POS)
         Bar->Position = Info->nPos;
-    if ((Info->fMask & SIF_RANGE) && Info->nMin <= Info->nMax) {
+    if (Info->fMask & SIF_RANGE) {
         Bar->Minimum = Info->nMin;
-        Bar->Maximum = Info->nMax;
+        Bar->Maximum = std::max(Info->nMin, Info->nMax);
     }
     Clamp(*Bar);
     const int Result = Bar->Position;

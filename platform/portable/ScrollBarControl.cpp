@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <utility>
 
 #include "platform/portable/Control.h"
 #include "platform/portable/PaintWindow.h"
@@ -17,10 +18,24 @@ private:
     int SetPosition(int Position);
     int SetInfo(const SCROLLINFO& Info);
     BOOL GetInfo(SCROLLINFO& Info) const;
-    void Scroll(int Code);
-    void Click(POINT Point);
+    // Where the thumb is, along the bar, and how far it can go.
+    struct TThumb {
+        int Arrow, At, Size, Travel;
+    };
+    TThumb Thumb() const;
+    int Along(POINT Point) const { return Vertical() ? Point.y : Point.x; }
+    int LastPosition() const { return std::max(FBar.Minimum, FBar.Maximum - PageLess()); }
+    int PageLess() const { return FBar.Page ? static_cast<int>(FBar.Page) - 1 : 0; }
+    void Scroll(int Code, int Position = 0);
+    bool IsFar(POINT Point) const;
+    void Press(POINT Point);
+    void Drag(POINT Point);
+    void Release();
 
     TWindowScrollBar FBar;
+    bool FPressed = false;
+    bool FDragging = false;
+    int FGrip = 0; // from the thumb's start to where it is held
 };
 
 LRESULT TScrollBarControl::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
@@ -57,10 +72,14 @@ LRESULT TScrollBarControl::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
         Invalidate();
         return TRUE;
     case WM_LBUTTONDOWN:
-        Click(PointOf(LParam));
+    case WM_LBUTTONDBLCLK:
+        Press(PointOf(LParam));
+        return 0;
+    case WM_MOUSEMOVE:
+        Drag(PointOf(LParam));
         return 0;
     case WM_LBUTTONUP:
-        Scroll(SB_ENDSCROLL);
+        Release();
         return 0;
     case WM_KEYDOWN:
         switch (WParam) {
@@ -95,9 +114,8 @@ LRESULT TScrollBarControl::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
 
 int TScrollBarControl::SetPosition(int Position)
 {
-    const int Page = FBar.Page ? static_cast<int>(FBar.Page) - 1 : 0;
     const int Old = FBar.Position;
-    FBar.Position = std::clamp(Position, FBar.Minimum, std::max(FBar.Minimum, FBar.Maximum - Page));
+    FBar.Position = std::clamp(Position, FBar.Minimum, LastPosition());
     Invalidate();
     return Old;
 }
@@ -110,6 +128,7 @@ int TScrollBarControl::SetInfo(const SCROLLINFO& Info)
     }
     if (Info.fMask & SIF_PAGE)
         FBar.Page = Info.nPage;
+    FBar.Page = std::min(FBar.Page, static_cast<UINT>(FBar.Maximum - FBar.Minimum + 1));
     SetPosition(Info.fMask & SIF_POS ? Info.nPos : FBar.Position);
     return FBar.Position;
 }
@@ -125,27 +144,82 @@ BOOL TScrollBarControl::GetInfo(SCROLLINFO& Info) const
     if (Info.fMask & SIF_POS)
         Info.nPos = FBar.Position;
     if (Info.fMask & SIF_TRACKPOS)
-        Info.nTrackPos = FBar.Position;
+        Info.nTrackPos = FDragging ? FBar.TrackPosition : FBar.Position;
     return TRUE;
 }
 
-void TScrollBarControl::Scroll(int Code)
+void TScrollBarControl::Scroll(int Code, int Position)
 {
-    SendMessageA(GetParent(Window()), Vertical() ? WM_VSCROLL : WM_HSCROLL, static_cast<WPARAM>(Code),
+    SendMessageA(GetParent(Window()), Vertical() ? WM_VSCROLL : WM_HSCROLL, MAKEWPARAM(Code, Position),
                  reinterpret_cast<LPARAM>(Window()));
 }
 
-void TScrollBarControl::Click(POINT Point)
+TScrollBarControl::TThumb TScrollBarControl::Thumb() const
 {
+    constexpr int SmallestThumb = 6;
     const RECT Rect = ClientRect();
     const int Length = Vertical() ? Rect.bottom : Rect.right, Arrow = std::min(17, Length / 2);
-    const int At = Vertical() ? Point.y : Point.x;
-    if (At < Arrow)
-        Scroll(SB_LINEUP);
-    else if (At >= Length - Arrow)
-        Scroll(SB_LINEDOWN);
-    else
-        Scroll(At < Length / 2 ? SB_PAGEUP : SB_PAGEDOWN);
+    const int Room = Length - 2 * Arrow, Range = FBar.Maximum - FBar.Minimum + 1;
+    const int Size =
+        FBar.Page ? std::max(SmallestThumb, MulDiv(Room, static_cast<int>(FBar.Page), Range)) : 17;
+    const int Travel = std::max(0, Room - Size), Steps = LastPosition() - FBar.Minimum;
+    const int At = Steps > 0 ? MulDiv(Travel, FBar.Position - FBar.Minimum, Steps) : 0;
+    return {Arrow, Arrow + At, Size, Travel};
+}
+
+void TScrollBarControl::Press(POINT Point)
+{
+    const RECT Rect = ClientRect();
+    const int Length = Vertical() ? Rect.bottom : Rect.right, At = Along(Point);
+    const TThumb Bar = Thumb();
+    SetCapture(Window());
+    FPressed = true;
+    if (At < Bar.Arrow)
+        return Scroll(SB_LINEUP);
+    if (At >= Length - Bar.Arrow)
+        return Scroll(SB_LINEDOWN);
+    if (At < Bar.At || At >= Bar.At + Bar.Size)
+        return Scroll(At < Bar.At ? SB_PAGEUP : SB_PAGEDOWN);
+    FDragging = true;
+    FGrip = At - Bar.At;
+    FBar.TrackPosition = FBar.Position;
+    Scroll(SB_THUMBTRACK, FBar.Position);
+}
+
+// A thumb that is drawn so far away goes back to where it was.
+bool TScrollBarControl::IsFar(POINT Point) const
+{
+    RECT Near = ClientRect();
+    const int Width = Vertical() ? Near.right : Near.bottom;
+    InflateRect(&Near, Width * (Vertical() ? 8 : 2), Width * (Vertical() ? 2 : 8));
+    return !PtInRect(&Near, Point);
+}
+
+void TScrollBarControl::Drag(POINT Point)
+{
+    if (!FDragging)
+        return;
+    const TThumb Bar = Thumb();
+    const int At = std::clamp(Along(Point) - FGrip - Bar.Arrow, 0, Bar.Travel);
+    const int Steps = LastPosition() - FBar.Minimum;
+    const int Position =
+        IsFar(Point) ? FBar.Position : FBar.Minimum + (Bar.Travel > 0 ? MulDiv(Steps, At, Bar.Travel) : 0);
+    if (Position == FBar.TrackPosition)
+        return;
+    FBar.TrackPosition = Position;
+    Scroll(SB_THUMBTRACK, Position);
+}
+
+void TScrollBarControl::Release()
+{
+    if (!std::exchange(FPressed, false))
+        return;
+    ReleaseCapture();
+    if (FDragging)
+        Scroll(SB_THUMBPOSITION, FBar.TrackPosition);
+    FDragging = false;
+    if (Alive())
+        Scroll(SB_ENDSCROLL);
 }
 
 void TScrollBarControl::Paint(HDC Dc)
