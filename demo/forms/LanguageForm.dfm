@@ -3,8 +3,8 @@ object LanguageForm: TLanguageForm
   Top = 140
   BorderStyle = bsSingle
   Caption = 'Language and formats'
-  ClientHeight = 424
-  ClientWidth = 560
+  ClientHeight = 448
+  ClientWidth = 780
   Color = clBtnFace
   Font.Charset = DEFAULT_CHARSET
   Font.Color = clWindowText
@@ -20,7 +20,7 @@ object LanguageForm: TLanguageForm
   object LblSelector: TLabel
     Left = 12
     Top = 160
-    Width = 264
+    Width = 344
     Height = 16
     AutoSize = False
     Caption = '&Choose the language with:'
@@ -29,7 +29,7 @@ object LanguageForm: TLanguageForm
   object GrpFormats: TGroupBox
     Left = 12
     Top = 8
-    Width = 536
+    Width = 756
     Height = 140
     Caption = 'Formats'
     TabOrder = 0
@@ -142,7 +142,7 @@ object LanguageForm: TLanguageForm
   object CbxSelector: TComboBox
     Left = 12
     Top = 178
-    Width = 264
+    Width = 344
     Height = 22
     Style = csDropDownList
     ItemHeight = 14
@@ -158,9 +158,9 @@ object LanguageForm: TLanguageForm
       'tabs')
   end
   object BtnPopup: TButton
-    Left = 296
+    Left = 376
     Top = 176
-    Width = 252
+    Width = 392
     Height = 26
     Caption = '&Popup menu'
     TabOrder = 2
@@ -169,15 +169,15 @@ object LanguageForm: TLanguageForm
   object LbxLanguages: TListBox
     Left = 12
     Top = 212
-    Width = 264
+    Width = 344
     Height = 138
     ItemHeight = 14
     TabOrder = 3
   end
   object RgpLanguages: TRadioGroup
-    Left = 296
+    Left = 376
     Top = 206
-    Width = 252
+    Width = 392
     Height = 144
     Caption = 'Language'
     TabOrder = 4
@@ -185,7 +185,7 @@ object LanguageForm: TLanguageForm
   object CbxLanguages: TComboBox
     Left = 12
     Top = 362
-    Width = 264
+    Width = 344
     Height = 22
     Style = csDropDownList
     ItemHeight = 14
@@ -193,8 +193,8 @@ object LanguageForm: TLanguageForm
   end
   object TbsLanguages: TTabSet
     Left = 0
-    Top = 400
-    Width = 560
+    Top = 424
+    Width = 780
     Height = 24
     Align = alBottom
     Font.Charset = DEFAULT_CHARSET
