@@ -109,7 +109,7 @@ void TFormWalk::WalkComponent(TComponent& Component)
         return;
     FKey = Component.Name();
     const TEntered Entered(*this, Component);
-    if (FIsOrdered)
+    if (Lines)
         Descend(Component, Lines->Dot);
     else
         WalkProperties(Component, 0);

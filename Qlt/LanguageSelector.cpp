@@ -95,6 +95,7 @@ void TLocaleTranslator::SetListFormat(const std::string& Value)
 
 void TLocaleTranslator::UpdateAdoptOn()
 {
+    const TLife Life(*this);
     TListSelector List = AsListSelector(FAdoptOn);
     TMenuItem* const Menu = AsMenuSelector(FAdoptOn);
     if (RadioGroupClick && dynamic_cast<TRadioGroup*>(FAdoptOn))
@@ -103,14 +104,17 @@ void TLocaleTranslator::UpdateAdoptOn()
         TakeOver(*List.Control, {this, List.OnClick});
         List.Lines->Clear();
     } else if (Menu)
-        ClearMenu();
+        ClearMenu(*Menu);
+    if (Life.IsOver())
+        return;
     if (FAdoptOn)
         UpdateLangList();
     if (List.Control)
         List.Lines->AddStrings(*FLangList);
     else if (Menu)
         AddLanguages(*Menu);
-    UpdateLanguageSelection();
+    if (!Life.IsOver())
+        UpdateLanguageSelection();
 }
 
 void TLocaleTranslator::TakeOver(TControl& Control, const TNotifyEvent& Handler)
@@ -132,22 +136,22 @@ void TLocaleTranslator::ReleaseControls()
 
 // Of a whole menu, it is from each item the sub-item of the item's own number
 // that goes.
-void TLocaleTranslator::ClearMenu()
+void TLocaleTranslator::ClearMenu(TMenuItem& Menu)
 {
-    DestroyDroppedItems();
-    TMenuItem& Top = *AsMenuSelector(FAdoptOn);
-    for (int I = Top.Count() - 1; I >= 0; --I)
-        DropItem(&Top == FAdoptOn ? Top : *Top.Items(I), I);
-    DestroyDroppedItems();
+    const TLife Life(*this);
+    for (int I = Menu.Count() - 1; I >= 0 && !Life.IsOver(); --I)
+        DropItem(&Menu == FAdoptOn ? Menu : *Menu.Items(I), I);
+    if (!Life.IsOver())
+        DestroyDroppedItems();
 }
 
 // The items of others belong to their owners.
 void TLocaleTranslator::DropItem(TMenuItem& Menu, int Index)
 {
-    TMenuItem* const Item = Index < Menu.Count() ? Menu.Items(Index) : nullptr;
-    Menu.Delete(Index);
-    if (Item && Item->Owner() == this)
+    TMenuItem* const Item = Menu.Items(Index);
+    if (Item->Owner() == this)
         FDroppedItems.push_back(Item);
+    Menu.Delete(Index);
 }
 
 void TLocaleTranslator::DestroyDroppedItems()
@@ -158,7 +162,8 @@ void TLocaleTranslator::DestroyDroppedItems()
 
 void TLocaleTranslator::AddLanguages(TMenuItem& Menu)
 {
-    for (int I = 0; I < FLangList->Count(); ++I) {
+    const TLife Life(*this);
+    for (int I = 0; !Life.IsOver() && I < FLangList->Count(); ++I) {
         auto* const Item = new TMenuItem(this);
         Item->SetCaption(FLangList->Get(I));
         Item->SetTag(ObjectInteger(FLangList->Objects(I)));
@@ -201,9 +206,20 @@ void TLocaleTranslator::UpdateLanguageSelection()
     const TListSelector List = AsListSelector(FAdoptOn);
     if (List.Control)
         List.SetIndex(*List.Control, List.Lines->IndexOfObject(IntegerObject(FActiveLocale)));
-    else if (const TMenuItem* const Menu = AsMenuSelector(FAdoptOn))
-        for (int I = 0; I < Menu->Count(); ++I)
-            Menu->Items(I)->SetChecked(Menu->Items(I)->Tag() == FActiveLocale);
+    else
+        CheckActiveItem();
+}
+
+// Menus tell each change, also to handlers that destroy them.
+void TLocaleTranslator::CheckActiveItem()
+{
+    const TLife Life(*this);
+    for (int I = 0; !Life.IsOver(); ++I) {
+        const TMenuItem* const Menu = AsMenuSelector(FAdoptOn);
+        if (!Menu || I >= Menu->Count())
+            return;
+        Menu->Items(I)->SetChecked(Menu->Items(I)->Tag() == FActiveLocale);
+    }
 }
 
 void TLocaleTranslator::OnTabSetClick(TObject* Sender)

@@ -3,10 +3,8 @@
 #include <array>
 #include <unordered_map>
 
-#include "core/KeyLines.h"
 #include "framework/rtl/FormatSettings.h"
 #include "framework/rtl/SysUtils.h"
-#include "framework/rtl/Utf8.h"
 #include "platform/winapi.h"
 
 namespace {
@@ -178,5 +176,5 @@ void ApplyLocaleEntry(std::string_view Key, std::string_view Value)
 {
     const TEntryKind* const Kind = FindEntryKind(Key);
     if (Kind && Kind->Apply)
-        Kind->Apply(*Kind, std::string(CutAtCharacter(Value, MaxFileValueBytes)));
+        Kind->Apply(*Kind, std::string(Value));
 }

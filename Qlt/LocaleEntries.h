@@ -34,8 +34,8 @@ std::string EntryPrefix(int Locale);
 std::vector<std::string> ReadLocaleEntries(int Locale);
 
 // Sets the format variable of an entry. Key is what stands before "=" without
-// the locale; a key without a variable changes nothing. At most 4095 bytes of
-// Value are used, of separators the first character.
+// the locale; a key without a variable changes nothing. Of a separator the first
+// character is used.
 // Throws EConvertError when a number is none or a separator is empty; the
 // variable is unchanged then.
 void ApplyLocaleEntry(std::string_view Key, std::string_view Value);

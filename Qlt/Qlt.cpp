@@ -40,7 +40,7 @@ private:
 
 bool IsOrdinal(const TPropInfo* Prop)
 {
-    return Prop && Prop->Access.GetOrd && Prop->CanWrite();
+    return Prop && Prop->Access.GetOrd;
 }
 
 // What makes the components of a class follow the locale.
@@ -49,7 +49,7 @@ struct TSwitchProps {
         : Locale(Class.FindProperty("Locale")), Translate(Class.FindProperty("Translate"))
     {
     }
-    bool Complete() const { return IsOrdinal(Locale) && IsOrdinal(Translate); }
+    bool Complete() const { return IsOrdinal(Locale) && IsOrdinal(Translate) && Translate->CanWrite(); }
 
     const TPropInfo* Locale;
     const TPropInfo* Translate;

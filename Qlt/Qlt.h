@@ -126,7 +126,8 @@ private:
     void TakeOver(TControl& Control, const TNotifyEvent& Handler);
     void ReleaseControls();
     void AddLanguages(TMenuItem& Menu);
-    void ClearMenu();
+    void ClearMenu(TMenuItem& Menu);
+    void CheckActiveItem();
     void DropItem(TMenuItem& Menu, int Index);
     void DestroyDroppedItems();
     void ChooseFrom(TObject* Sender);

@@ -27,7 +27,7 @@ std::vector<TFormLine> ReadFormLines(TForm& Form)
     Reader.TranslateForm(&List, true);
     std::vector<TFormLine> Result;
     for (int I = 0; I < List.Count(); ++I) {
-        const std::string Line = List.Get(I);
+        const std::string& Line = List.Get(I);
         std::string Key(KeyOf(Line));
         if (!IsOfTranslator(Form, Key))
             Result.push_back({std::move(Key), std::string(ValueOf(Line))});

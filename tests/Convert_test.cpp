@@ -201,7 +201,8 @@ TEST(Convert, CurrencyRefusesWhatDoesNotFit)
     EXPECT_THROW(TCurrency(1e15), EIntOverflow);
     EXPECT_THROW(TCurrency(INT64_MAX), EIntOverflow);
     EXPECT_THROW(TCurrency(UINT64_MAX), EIntOverflow);
-    EXPECT_THROW(TCurrency(std::numeric_limits<double>::quiet_NaN()), EIntOverflow);
+    constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
+    EXPECT_THROW(TCurrency{NotANumber}, EIntOverflow);
 }
 
 TEST(Texts, ComparesWithoutCase)

@@ -235,7 +235,9 @@ TEST(Demo, EveryLineOfTheTranslationsFileIsUsed)
     }
     EXPECT_TRUE(std::is_sorted(Lines.begin(), Lines.end()));
     EXPECT_EQ(std::adjacent_find(Lines.begin(), Lines.end()), Lines.end());
-    for (const auto& [Name, Properties] : Forms) {
+    for (const auto& Form : Forms) {
+        const std::string& Name = Form.first;
+        const TLines& Properties = Form.second;
         ForEachTranslation(DEMO_TRANSLATIONS, Name, [&](const TTranslation& Translation) {
             SCOPED_TRACE(Name + "." + std::string(Translation.Key));
             const auto Property = Properties.find(std::string(Translation.Key));

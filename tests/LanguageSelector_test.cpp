@@ -1,5 +1,6 @@
 // The language selector: controls and menus driven as a user would.
 #include <functional>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -133,9 +134,19 @@ public:
 
     void Ignore(TObject*, const Exception&) {}
 
+    // Carries out Deed the first time.
+    void Strike(TObject*)
+    {
+        if (const auto Once = std::exchange(Deed, nullptr))
+            Once();
+    }
+    void StrikeBefore(TObject*, bool&) { Strike(nullptr); }
+    void StrikeAtChange(TObject*, TMenuItem*, bool) { Strike(nullptr); }
+
     int Selections = 0;
     std::string Message;
     std::function<void()> OnSelected;
+    std::function<void()> Deed;
 };
 
 TEST_F(Selectors, ListBox)
@@ -318,6 +329,53 @@ TEST_F(Selectors, GroupIsNotRebuiltUnderItsOwnClick)
     SendMessageA(Group.Buttons(1)->Handle(), BM_CLICK, 0, 0);
     Translator->SetListFormat("%2:s");
     EXPECT_EQ(Group.Items()->Get(0), "Deutsch") << "and when the click failed";
+}
+
+// Whoever hears of a switch, or of a change of the menu, may destroy what takes part.
+TEST_F(Selectors, HandlersMayDestroy)
+{
+    using TStep = std::function<void(TMainMenu&)>;
+    const TStep TranslatorGoes = [this](TMainMenu&) { delete std::exchange(Translator, nullptr); };
+    const TStep MenuGoes = [](TMainMenu& Menu) { delete &Menu; };
+    const TStep FormGoes = [this](TMainMenu&) { delete std::exchange(Form, nullptr); };
+    const TStep Events[] = {
+        [this](TMainMenu&) {
+            Translator->OnTranslate = {this, &Selectors::StrikeBefore};
+        },
+        [this](TMainMenu&) {
+            Translator->OnTranslated = {this, &Selectors::Strike};
+        },
+        [this](TMainMenu&) {
+            Translator->OnLocaleSelected = {this, &Selectors::Strike};
+        },
+        [this](TMainMenu& Menu) {
+            Menu.OnChange = {this, &Selectors::StrikeAtChange};
+        },
+    };
+    for (const TStep& Goes : {TranslatorGoes, MenuGoes, FormGoes}) {
+        for (const TStep& Listen : Events) {
+            delete Form;
+            Form = &AddForm("Form1");
+            Translator = new TLocaleTranslator(Form);
+            SetLocalesOf(*Translator, {English, German, Swedish});
+            auto* const Menu = new TMainMenu(Form);
+            Form->SetMenu(Menu);
+            Translator->SetAdoptOn(Menu);
+            Translator->TranslateLocale(English);
+            Listen(*Menu);
+            Deed = [&] { Goes(*Menu); };
+            Command(*Menu->Items()->Items(2));
+            EXPECT_FALSE(Deed);
+        }
+    }
+    Form = &AddForm("Form1");
+    Translator = new TLocaleTranslator(Form);
+    auto* const Menu = new TMainMenu(Form);
+    Menu->OnChange = {this, &Selectors::StrikeAtChange};
+    Deed = [&] { TranslatorGoes(*Menu); };
+    Translator->SetAdoptOn(Menu);
+    EXPECT_EQ(Menu->Items()->Count(), 0) << "the items were the translator's";
+    delete Form;
 }
 
 TEST_F(Selectors, MenuMayBeRebuiltUnderItsOwnClick)

@@ -8,11 +8,16 @@
 
 #include "Qft/Qft.h"
 #include "Qlt/OfferedValues.h"
+#include "framework/forms/DataModules.h"
 #include "framework/forms/Forms.h"
 #include "framework/forms/ListBoxes.h"
 #include "framework/rtl/Files.h"
 #include "framework/rtl/SysUtils.h"
 #include "framework/rtl/Utf8.h"
+#include "framework/streaming/ComponentReader.h"
+#include "framework/streaming/ComponentWriter.h"
+#include "framework/streaming/FormFile.h"
+#include "framework/streaming/FormText.h"
 #include "platform/winapi.h"
 #include "tests/QltScene.h"
 
@@ -21,6 +26,43 @@ namespace {
 using TTexts = std::vector<std::string>;
 
 class Locales : public TLocaleScene, public testing::Test {};
+
+// Follows the locale without being a translator.
+class TFollower : public TComponent {
+    OBX_CLASS(TComponent)
+public:
+    TFollower(TComponent* Owner, int Locale) : TComponent(Owner), FLocale(Locale) {}
+
+    int Locale() const { return FLocale; }
+    OBX_PROPERTY(bool, Translate, false)
+
+private:
+    int FLocale;
+};
+
+const TMetaClass& TFollower::MetaClass()
+{
+    static const TMetaClass Class("TFollower", &TComponent::MetaClass(), nullptr,
+                                  {Prop<&TFollower::Locale>("Locale"), OBX_ROW(TFollower, Translate)});
+    return Class;
+}
+
+// The same properties, but the locale is a text.
+class TStranger : public TComponent {
+    OBX_CLASS(TComponent)
+public:
+    using TComponent::TComponent;
+
+    OBX_PROPERTY(std::string, Locale, "0000041D")
+    OBX_PROPERTY(bool, Translate, false)
+};
+
+const TMetaClass& TStranger::MetaClass()
+{
+    static const TMetaClass Class("TStranger", &TComponent::MetaClass(), nullptr,
+                                  {OBX_ROW(TStranger, Locale), OBX_ROW(TStranger, Translate)});
+    return Class;
+}
 
 TEST_F(Locales, FreshTranslatorHoldsTheUsersLocale)
 {
@@ -97,6 +139,29 @@ TEST_F(Locales, EntriesSetTheirVariables)
     EXPECT_EQ(CurrencyFormat, 2) << "is kept for the editor only";
 }
 
+TEST_F(Locales, EntriesComeFromTheSystem)
+{
+    constexpr int Unknown = 0x7777;
+    const struct {
+        int Lcid;
+        const char* Entry;
+    } Cases[] = {
+        {0x41D, "0000041D_LONGTIMEFORMAT=hh:mm:ss"},       {0x409, "00000409_SHORTTIMEFORMAT=hh:mm AMPM"},
+        {0x412, "00000412_LONGTIMEFORMAT=AMPM hh:mm:ss"},  {0x407, "00000407_LONGDAYNAMES[1]=Montag"},
+        {0x409, "00000409_SHORTDAYNAMES[7]=Sun"},          {0x407, "00000407_LONGMONTHNAMES[12]=Dezember"},
+        {0x41D, "0000041D_SHORTDATEFORMAT=yyyy-MM-dd"},    {0x41D, "0000041D_NATIVENAME=svenska"},
+        {0x41D, "0000041D_TWODIGITYEARCENTURYWINDOW=0"},   {Unknown, "00007777_SHORTTIMEFORMAT=AMPM h:mm"},
+        {Unknown, "00007777_LONGDAYNAMES[7]=Sunday"},      {Unknown, "00007777_SHORTMONTHNAMES[12]=Dec"},
+        {Unknown, "00007777_LONGDATEFORMAT=mmmm d, yyyy"}, {Unknown, "00007777_CURRENCYSTRING="},
+        {Unknown, "00007777_NATIVECOUNTRYNAME=Unknown"},
+    };
+    for (const auto& [Lcid, Entry] : Cases) {
+        TSortList List;
+        Translator->AddOrgProps(Lcid, List);
+        EXPECT_GE(List.IndexOf(Entry), 0) << Entry << ": " << List.Text();
+    }
+}
+
 TEST_F(Locales, LongValuesAreCutBetweenCharacters)
 {
     SetEntries({"0000041D_CURRENCYSTRING=" + std::string(4094, 'k') + "\xC3\xB6r"});
@@ -126,22 +191,27 @@ TEST_F(Locales, FormatsFollowTheLocale)
     }
 }
 
-std::vector<int> SystemLocales;
+std::vector<int> Enumerated;
 
-BOOL CALLBACK AddSystemLocale(char* Hexadecimal)
+const std::vector<int>& SystemLocales()
 {
-    SystemLocales.push_back(HexToInt(Hexadecimal));
-    return TRUE;
+    Enumerated.clear();
+    EnumSystemLocalesA(
+        [](char* Hexadecimal) -> BOOL {
+            Enumerated.push_back(HexToInt(Hexadecimal));
+            return TRUE;
+        },
+        LCID_SUPPORTED);
+    return Enumerated;
 }
 
 TEST_F(Locales, EveryLocaleOfTheSystemApplies)
 {
-    SystemLocales.clear();
-    EnumSystemLocalesA(AddSystemLocale, LCID_SUPPORTED);
-    ASSERT_GT(SystemLocales.size(), 200U);
-    SetLocalesOf(*Translator, SystemLocales);
-    EXPECT_EQ(ListOf(*Translator).Count(), 58 * static_cast<int>(SystemLocales.size()));
-    for (const int Lcid : SystemLocales) {
+    const std::vector<int>& All = SystemLocales();
+    ASSERT_GT(All.size(), 200U);
+    SetLocalesOf(*Translator, All);
+    EXPECT_EQ(ListOf(*Translator).Count(), 58 * static_cast<int>(All.size()));
+    for (const int Lcid : All) {
         EXPECT_TRUE(Translator->TranslateLocale(Lcid)) << Lcid;
         EXPECT_FALSE(LongDayNames[1].empty()) << Lcid;
         EXPECT_EQ(StrToFloat(FloatToStr(-1234567.25)), -1234567.25) << Lcid;
@@ -248,6 +318,45 @@ TEST_F(Locales, OtherTranslatorsFollow)
     EXPECT_TRUE(Neutral.Translate()) << "without a locale it is left alone";
 }
 
+TEST_F(Locales, WhatPublishesLocaleAndTranslateFollows)
+{
+    auto* const Module = new TDataModule(Application);
+    TFollower Swedish(Module, 0x41D), German(Form, 0x407), Neutral(Form, 0);
+    TFollower NotOnModules(Application, 0x41D), Nested(&Swedish, 0x41D);
+    TStranger Stranger(Module);
+    German.SetTranslate(true);
+    Neutral.SetTranslate(true);
+    Translator->SetLocales(0);
+    EXPECT_TRUE(German.Translate());
+    Translator->SetLocales(0x41D);
+    EXPECT_TRUE(Swedish.Translate());
+    EXPECT_FALSE(German.Translate());
+    EXPECT_TRUE(Neutral.Translate());
+    EXPECT_FALSE(NotOnModules.Translate() || Nested.Translate() || Stranger.Translate());
+}
+
+// What a switch leaves behind adds up; the sanitizers see what is lost for good.
+TEST_F(Locales, TenThousandSwitchesLeaveNothingBehind)
+{
+    const std::vector<int>& All = SystemLocales();
+    SetLocalesOf(*Translator, All);
+    auto* const ListBox = new TListBox(Form);
+    ListBox->SetParent(Form);
+    Translator->SetAdoptOn(ListBox);
+    TFormTranslator& Swedish = AddFormTranslator(*Form, 0x41D);
+    AddFormTranslator(*Form, 0x407);
+    const int Entries = ListOf(*Translator).Count();
+    for (size_t I = 0; I < 10000; ++I)
+        ASSERT_TRUE(Translator->TranslateLocale(All[I % All.size()]));
+    Translator->TranslateLocale(0x41D);
+    EXPECT_EQ(Form->Caption(), "text of 1053");
+    EXPECT_EQ(ListOf(*Translator).Count(), Entries);
+    EXPECT_EQ(ListBox->Items()->Count(), static_cast<int>(All.size()));
+    EXPECT_EQ(Translator->ComponentCount(), 0);
+    EXPECT_EQ(Form->ComponentCount(), 4);
+    EXPECT_EQ(Swedish.Translations()->Count(), 1);
+}
+
 TEST_F(Locales, HandlersMayDestroyFormsAndTranslators)
 {
     AddFormTranslator(*Form, 0x41D).OnTranslated = {this, &Locales::DestroySecondForm};
@@ -304,6 +413,46 @@ TEST_F(Locales, StartupLocaleIsAppliedWhenLoaded)
         Translator->Loaded();
         EXPECT_EQ(Translator->ActiveLocale(), Active) << Startup;
         EXPECT_EQ(GetThreadLocale(), static_cast<LCID>(Active)) << Startup;
+    }
+}
+
+// A form file: the selector may stand behind the translator, and its items and
+// the user's locale give way to what the file has.
+TEST_F(Locales, FormFilesHoldTranslators)
+{
+    RegisterClass(TLocaleTranslator::MetaClass());
+    RegisterClass(TListBox::MetaClass());
+    const std::string TranslatorText = "  object Locales: TLocaleTranslator\r\n"
+                                       "    AdoptOn = Languages\r\n"
+                                       "    DesignLocale = 'German, Germany 00000407'\r\n"
+                                       "    ListFormat = '%2:s'\r\n"
+                                       "    Locale = 7\r\n"
+                                       "    StartupLocale = 'Swedish, Sweden 0000041D'\r\n"
+                                       "    Translate = True\r\n"
+                                       "    Translations.Strings = (\r\n"
+                                       "      '00000407_NATIVENAME=Deutsch'\r\n"
+                                       "      '0000041D_CURRENCYSTRING=kr'\r\n"
+                                       "      '0000041D_NATIVENAME=svenska')\r\n"
+                                       "    Storage = 0\r\n"
+                                       "  end\r\n";
+    const std::string SelectorText = "  object Languages: TListBox\r\n"
+                                     "    Items.Strings = (\r\n      'old')\r\n"
+                                     "  end\r\n";
+    for (const std::string& Objects : {TranslatorText + SelectorText, SelectorText + TranslatorText}) {
+        const TFormDocument Document = ReadForm("object Read: TForm\r\n" + Objects + "end\r\n");
+        TForm Read(Application);
+        TComponentReader(Document, TUnknownClasses::Refuse).ReadRoot(Read);
+        auto* const Loaded = static_cast<TLocaleTranslator*>(Read.FindComponent("Locales"));
+        auto* const ListBox = static_cast<TListBox*>(Read.FindComponent("Languages"));
+        EXPECT_EQ(LinesOf(*ListBox->Items()), (TTexts{"Deutsch", "svenska"}));
+        EXPECT_EQ(ListBox->ItemIndex(), 1);
+        EXPECT_EQ(Loaded->ActiveLocale(), 0x41D);
+        EXPECT_EQ(CurrencyString, "kr");
+        TFormDocument Written;
+        Written.Root = TComponentWriter(Read).WriteRoot();
+        EXPECT_NE(WriteFormText(Written).find(TranslatorText), std::string::npos) << WriteFormText(Written);
+        Loaded->SetFileName("none.txt");
+        EXPECT_FALSE(IsStoredProp(*Loaded, *GetPropInfo(*Loaded, "Translations")));
     }
 }
 

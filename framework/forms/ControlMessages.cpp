@@ -320,9 +320,8 @@ void TControl::SendCancelMode(TControl* Sender)
 // A handler other than the action's own is called as it is.
 void TControl::Click()
 {
-    if (OnClick && Action() && OnClick != Action()->OnExecute())
-        OnClick(this);
-    else if (!HasState(csDesigning) && FActionLink)
+    const bool HasOwnHandler = OnClick && Action() && OnClick != Action()->OnExecute();
+    if (FActionLink && !HasOwnHandler && !HasState(csDesigning))
         FActionLink->Execute(this);
     else if (OnClick)
         OnClick(this);

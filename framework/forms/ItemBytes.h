@@ -29,7 +29,7 @@ public:
         const auto Length = static_cast<size_t>(Byte()) * (Wide ? 2 : 1);
         if (!Need(Length))
             return "";
-        const std::string Raw = FBytes.substr(FPosition, Length);
+        std::string Raw = FBytes.substr(FPosition, Length);
         FPosition += Length;
         std::u16string Characters;
         if (!Wide) {

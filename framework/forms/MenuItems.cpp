@@ -122,11 +122,14 @@ void TMenuItem::SetParentComponent(TComponent* Value)
         Item->Add(this);
 }
 
-void TMenuItem::GetChildren(const std::function<void(TComponent*)>& Visit, TComponent*)
+// Items that another component made and owns, such as the languages of a language
+// menu, are made by it again and not written.
+void TMenuItem::GetChildren(const std::function<void(TComponent*)>& Visit, TComponent* Root)
 {
     const std::vector<TMenuItem*> Children = FItems;
     for (TMenuItem* const Item : Children)
-        Visit(Item);
+        if (Item->Owner() == Root || Item->Owner() == Owner() || Item->Owner() == this)
+            Visit(Item);
 }
 
 void TMenuItem::SetChildOrder(TComponent* Child, int Order)
@@ -377,9 +380,8 @@ void TMenuItem::Click()
     if (FAutoCheck && !LinkChecks)
         SetChecked(!FChecked);
     TBasicAction* const Linked = Action();
-    if (OnClick && (!Linked || !(OnClick == Linked->OnExecute())))
-        OnClick(this);
-    else if (Linked && !HasState(csDesigning))
+    const bool HasOwnHandler = OnClick && Linked && OnClick != Linked->OnExecute();
+    if (Linked && !HasOwnHandler && !HasState(csDesigning))
         FActionLink->Execute(this);
     else if (OnClick)
         OnClick(this);

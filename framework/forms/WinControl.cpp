@@ -49,6 +49,8 @@ bool TWinControl::ContainsControl(const TControl* Control) const
 
 void TWinControl::InsertControl(TControl* AControl)
 {
+    if (!AControl)
+        return;
     if (auto* const Window = dynamic_cast<TWinControl*>(AControl); Window && Window->ContainsControl(this))
         throw EInvalidOperation(SControlParentSetToSelf);
     Perform(CM_CONTROLLISTCHANGE, reinterpret_cast<WPARAM>(AControl), TRUE);
@@ -427,13 +429,14 @@ void TWinControl::ScrollBy(int DeltaX, int DeltaY)
     const bool Scrolls = FHandle && IsWindowVisible(FHandle);
     if (Scrolls)
         ScrollWindow(FHandle, DeltaX, DeltaY, nullptr, nullptr);
-    for (int Index = 0; Index < ControlCount(); ++Index) {
-        TControl& Control = *Controls(Index);
-        const auto* const Window = dynamic_cast<const TWinControl*>(&Control);
-        if (Scrolls && Window && Window->FHandle)
-            continue;
+    const auto Move = [&](TControl& Control) {
         Control.SetBounds(Control.Left() + DeltaX, Control.Top() + DeltaY, Control.Width(), Control.Height());
-    }
+    };
+    for (TControl* const Control : FControls)
+        Move(*Control);
+    for (TWinControl* const Control : FWinControls)
+        if (!Scrolls || !Control->FHandle)
+            Move(*Control);
     EnableAlign();
 }
 

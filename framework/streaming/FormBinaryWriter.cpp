@@ -98,7 +98,7 @@ std::string TFormBinaryWriter::ResourceHeader(std::size_t Length) const
                 Letter = static_cast<char>(Letter - ('a' - 'A'));
     }
     std::string Result(FormResourceStart);
-    Result += Name.c_str(); // a zero byte in it would end it
+    Result.append(Name, 0, Name.find('\0')); // a zero byte ends it
     Result += '\0';
     Result += FormResourceFlags;
     for (int Index = 0; Index < 4; ++Index)

@@ -55,7 +55,7 @@ ATOM AddClass(std::shared_ptr<TWindowClass> Class)
         return 0;
     }
     Class->Atom = Class->Name == "#32770" ? 32770 : ++Last;
-    All.push_back(Class);
+    All.push_back(std::move(Class));
     return All.back()->Atom;
 }
 

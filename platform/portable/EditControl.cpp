@@ -547,7 +547,7 @@ bool TEdit::Edits(WPARAM Key)
         UINT Message;
     } Keys[] = {{'C', WM_COPY}, {'V', WM_PASTE}, {'X', WM_CUT}, {'Z', WM_UNDO}};
     for (const auto& Each : Keys)
-        if (Key == static_cast<WPARAM>(Each.Key - 'A' + 1)) {
+        if (static_cast<int>(Key) == Each.Key - 'A' + 1) {
             SendMessageA(Window(), Each.Message, 0, 0);
             return true;
         }
@@ -706,7 +706,7 @@ const std::vector<std::size_t>& TEdit::Lines()
     FLines.push_back(0);
     if (!Multiline())
         return FLines;
-    const bool Wraps = !(Style() & (ES_AUTOHSCROLL | WS_HSCROLL)) && FText.size() > 0;
+    const bool Wraps = !(Style() & (ES_AUTOHSCROLL | WS_HSCROLL)) && !FText.empty();
     const int Width = ClientRect().right - 2 * Margin;
     std::size_t From = 0;
     for (;;) {

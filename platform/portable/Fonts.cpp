@@ -263,7 +263,7 @@ int TextWidth(TFontFace& Face, std::string_view Text)
         return LayoutWidth(Face, DrawableText(Text));
     int Width = 0;
     for (const char C : Text) {
-        int& Known = Face.AsciiWidths[static_cast<int>(C)];
+        int& Known = Face.AsciiWidths[static_cast<unsigned char>(C)];
         if (Known < 0)
             Known = LayoutWidth(Face, {&C, 1});
         Width += Known;

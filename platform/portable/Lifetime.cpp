@@ -46,8 +46,11 @@ TWindow* AddWindow(std::unique_ptr<TWindow> Window)
 {
     TStateLock Lock;
     TWindow* const Result = Window.get();
-    Result->Handle = reinterpret_cast<HWND>(Table().Add(std::move(Window)));
-    return Result->Handle ? Result : nullptr;
+    const HWND Handle = reinterpret_cast<HWND>(Table().Add(std::move(Window)));
+    if (!Handle)
+        return nullptr; // no handle is left, and Add has destroyed the window
+    Result->Handle = Handle;
+    return Result;
 }
 
 void RemoveWindow(HWND Handle)
