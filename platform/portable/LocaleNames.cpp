@@ -60,7 +60,7 @@ icu::Locale WindowsLocale(const TLocaleRow& Row, const icu::Locale& Otherwise)
     return U_SUCCESS(Error) && *Named.getLanguage() ? Named : Otherwise;
 }
 
-std::string Or(std::string First, std::string Second)
+std::string Or(const std::string& First, const std::string& Second)
 {
     return First.empty() ? Second : First;
 }

@@ -77,7 +77,7 @@ void AddPercent(TLocaleItems& Items, const icu::UnicodeString& Percent)
 }
 
 // Windows has no narrow space between thousands.
-std::string Group(std::string Separator)
+std::string Group(const std::string& Separator)
 {
     return Separator == "\u202F" ? "\u00A0" : Separator;
 }

@@ -28,8 +28,10 @@ HMENU MakeMenu(bool Popup)
     auto Menu = std::make_unique<TMenuData>();
     TMenuData* const Result = Menu.get();
     Result->Popup = Popup;
-    Result->Handle = reinterpret_cast<HMENU>(Table().Add(std::move(Menu)));
-    return Result->Handle;
+    const HMENU Handle = reinterpret_cast<HMENU>(Table().Add(std::move(Menu)));
+    if (Handle) // else Add has destroyed the menu
+        Result->Handle = Handle;
+    return Handle;
 }
 
 } // namespace

@@ -98,7 +98,7 @@ DWORD GiveData(const std::string& Data, LPBYTE Buffer, LPDWORD Size)
         return ERROR_SUCCESS;
     if (Room < Data.size())
         return ERROR_MORE_DATA;
-    std::memcpy(Buffer, Data.data(), Data.size());
+    std::copy(Data.begin(), Data.end(), Buffer);
     return ERROR_SUCCESS;
 }
 
@@ -209,7 +209,7 @@ LSTATUS RegSetValueExA(HKEY Handle, LPCSTR Name, DWORD, DWORD Kind, const BYTE* 
     // A text that was handed over without its final zero gets one when the zero
     // stands right behind it.
     const bool IsText = Kind == REG_SZ || Kind == REG_EXPAND_SZ || Kind == REG_MULTI_SZ;
-    if (IsText && Size > 0 && Bytes.back() != 0 && Data[Size] == 0)
+    if (IsText && !Bytes.empty() && Bytes.back() != 0 && Data[Size] == 0)
         Bytes += '\0';
     return Modify(Handle, [&](TRegistryKey& Key) {
         Key.Values[Name ? Name : ""] = {Kind, Bytes};
