@@ -97,8 +97,9 @@ struct TButtonScene : testing::Test, TObject {
     }
     std::string ShownYes() { return Show(mbYesNo).Captions["Yes"]; }
 
-    void Look(TObject*, bool&)
+    void Look(TObject*, bool& Done)
     {
+        Done = false;
         for (int I = 0; I < Application->ComponentCount(); ++I)
             if (auto* const Box = dynamic_cast<TForm*>(Application->Components(I)))
                 if (Box->IsModal() && Box->HandleAllocated() && Box->Handle() == GetActiveWindow())
@@ -540,14 +541,16 @@ struct TButtonStreams : TButtonFiles {
 
     TButtonTranslator& Read(const std::string& Properties)
     {
-        const std::string Text =
-            "object Form9: TForm\n  Font.Name = 'Arial'\n  object Buttons: TButtonTranslator\n" + Properties +
-            "  end\nend\n";
+        const std::string Text = "object Form" + std::to_string(++Forms) +
+                                 ": TForm\n  Font.Name = 'Arial'\n  object Buttons: TButtonTranslator\n" +
+                                 Properties + "  end\nend\n";
         const TFormDocument Document = ReadForm(Text);
         TForm* const Root = new TForm(Application);
         TComponentReader(Document, TUnknownClasses::Refuse).ReadRoot(*Root);
         return dynamic_cast<TButtonTranslator&>(*Root->FindComponent("Buttons"));
     }
+
+    int Forms = 10;
 
     static std::string Write(TButtonTranslator& Translator)
     {
@@ -578,10 +581,11 @@ TEST_F(TButtonStreams, LanguageWinsOverCaptionsAndTheFileOverBoth)
 
 TEST_F(TButtonStreams, WritesItsPropertiesInOrder)
 {
-    const std::string Text = Write(Read("    Title = 'Titel'\n    Language = lnJapan\n"));
+    const std::string Text =
+        Write(Read("    FileName = '" + File + "'\n    Title = 'Titel'\n    Language = lnJapan\n"));
     size_t Place = 0;
     for (const char* const Each :
-         {"Captions.Strings = (", "FileName = ''", "Locale = 0", "Title = 'Titel'", "Translate = True",
+         {"Captions.Strings = (", "FileName = '", "Locale = 0", "Title = 'Titel'", "Translate = True",
           "Font.Name = 'Arial'", "Language = lnJapan", "Storage = ()"}) {
         const size_t Next = Text.find(Each, Place);
         ASSERT_NE(Next, Text.npos) << Each << " in " << Text;
