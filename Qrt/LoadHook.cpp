@@ -103,8 +103,8 @@ std::string CustomLoadResString(const TResStringRec* Rec)
     int Length = 0;
     {
         const TFlagGuard Plain(LoadingPlain);
-        Length = LoadStringSlot()(FindResourceHInstance(*Rec->Module), static_cast<UINT>(Rec->Identifier),
-                                  Buffer, ResStringBufferBytes);
+        Length =
+            LoadModuleString(*Rec->Module, static_cast<UINT>(Rec->Identifier), Buffer, ResStringBufferBytes);
     }
     if (Length <= 0)
         return {};

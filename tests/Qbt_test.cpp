@@ -249,8 +249,8 @@ std::string LoadOwnText(const TResStringRec* Rec)
 TEST_F(TButtonScene, ListIsFilledByWhatTheFrameworkSays)
 {
     TButtonTranslator& Translator = Add(Form, {"Zoom|Größer", "&No|old", "C|own"});
-    const TVarRec Replacements[] = {"a", std::string("b\0c", 3), "c", "d", "e", "f", "g", "h", "i", "j|J",
-                                    "k"};
+    const TVarRec Replacements[] = {
+        "a", std::string_view("b\0c", 3), "c", "d", "e", "f", "g", "h", "i", "j|J", "k"};
     Translator.ReplaceCaptions(Replacements, 2);
     EXPECT_EQ(LinesOf(*Translator.Captions()),
               (TLines{"Zoom|Größer", "&No|b", "C|own", "&Yes|a", "OK|j|J", "Cancel|k", "&Help|e", "&Abort|f",

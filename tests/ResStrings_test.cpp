@@ -78,6 +78,7 @@ TEST(ResStrings, ComeFromALanguageModule)
     ASSERT_TRUE(LoadResourceLanguage(0x0407));
     EXPECT_EQ(std::string(SGreeting), "Guten Morgen");
     EXPECT_EQ(std::string(SMsgDlgYes), "&Ja");
+    EXPECT_EQ(std::string(SMsgDlgNo), "&No") << "what it lacks comes from the program";
     EXPECT_EQ(LoadDirectly(static_cast<UINT>(SGreeting.Identifier)), "Good morning")
         << "a direct call names its module";
     EXPECT_TRUE(LoadResourceLanguage(0x0407)) << "the same again";

@@ -84,6 +84,15 @@ HINSTANCE FindResourceHInstance(HINSTANCE Instance)
     return Instance;
 }
 
+int LoadModuleString(HINSTANCE Instance, UINT Identifier, char* Buffer, int Capacity)
+{
+    // By the slot's content at this moment: a compiler may take it for a constant.
+    const HINSTANCE Resources = FindResourceHInstance(Instance);
+    const int Length = LoadStringSlot()(Resources, Identifier, Buffer, Capacity);
+    return Length > 0 || Resources == Instance ? Length
+                                               : LoadStringSlot()(Instance, Identifier, Buffer, Capacity);
+}
+
 HINSTANCE LoadResourceModule(const std::string& ModuleFile, LCID Locale)
 {
     const std::string Language = AbbreviationOf(Locale);

@@ -32,6 +32,10 @@ void UnregisterModule(TLibModule& Module);
 // when one is loaded, otherwise Instance. Any thread.
 HINSTANCE FindResourceHInstance(HINSTANCE Instance);
 
+// LoadStringA from the module that holds the resources of Instance, and from
+// Instance itself when the language module lacks the text. Any thread.
+int LoadModuleString(HINSTANCE Instance, UINT Identifier, char* Buffer, int Capacity);
+
 // Loads the resource-language module of a program or library by its file name;
 // null when there is none for the locale's language. Free it with FreeLibrary.
 HINSTANCE LoadResourceModule(const std::string& ModuleFile, LCID Locale);

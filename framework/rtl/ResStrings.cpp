@@ -14,8 +14,8 @@ std::string LoadPlain(const TResStringRec* Rec)
     if (Rec->Identifier > MaxResourceIdentifier)
         return reinterpret_cast<const char*>(Rec->Identifier);
     char Buffer[ResStringBufferBytes];
-    const int Length = LoadStringA(FindResourceHInstance(*Rec->Module), static_cast<UINT>(Rec->Identifier),
-                                   Buffer, ResStringBufferBytes);
+    const int Length =
+        LoadModuleString(*Rec->Module, static_cast<UINT>(Rec->Identifier), Buffer, ResStringBufferBytes);
     return Length > 0 ? std::string(Buffer, static_cast<size_t>(Length)) : std::string();
 }
 
