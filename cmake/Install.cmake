@@ -4,10 +4,10 @@ include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
 install(TARGETS orbilex_options orbilex_platform orbilex_framework orbilex_core orbilex_qft
-        orbilex_qlt
+        orbilex_qrt orbilex_qbt orbilex_qlt
         EXPORT OrbilexTargets
         INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/orbilex)
-foreach(Layer platform framework core Qft Qlt)
+foreach(Layer platform framework core Qft Qrt Qbt Qlt)
     install(DIRECTORY ${Layer} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/orbilex
             FILES_MATCHING PATTERN "*.h" PATTERN "*.inc")
 endforeach()
@@ -19,5 +19,5 @@ configure_package_config_file(cmake/OrbilexConfig.cmake.in ${CMAKE_BINARY_DIR}/O
                               INSTALL_DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/Orbilex)
 write_basic_package_version_file(${CMAKE_BINARY_DIR}/OrbilexConfigVersion.cmake COMPATIBILITY SameMinorVersion)
 install(FILES ${CMAKE_BINARY_DIR}/OrbilexConfig.cmake ${CMAKE_BINARY_DIR}/OrbilexConfigVersion.cmake
-              cmake/Forms.cmake
+              cmake/Forms.cmake cmake/ResStrings.cmake cmake/LanguageModule.cpp.in
         DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/Orbilex)

@@ -36,7 +36,14 @@ bool IsOnApplicationForm(const TTranslatorFrame& Frame)
     return Application && Form && Form->Owner() == Application && dynamic_cast<const TForm*>(Form);
 }
 
-// By the owner's place in the application, then by the place in the owner.
+bool IsInApplication(const TTranslatorFrame& Frame)
+{
+    const TComponent* const Owner = Frame.Owner();
+    return Application && Owner && (Owner == Application || Owner->Owner() == Application);
+}
+
+// By the owner's place in the application, then by the place in the owner. What
+// the application owns itself comes before that which this one owns.
 void SortByPlace(std::vector<TTranslatorFrame*>& Frames)
 {
     if (Frames.size() < 2)
@@ -44,7 +51,10 @@ void SortByPlace(std::vector<TTranslatorFrame*>& Frames)
     using TPlaced = std::pair<std::pair<int, int>, TTranslatorFrame*>;
     std::vector<TPlaced> Placed;
     for (TTranslatorFrame* const Each : Frames)
-        Placed.push_back({{Each->Owner()->ComponentIndex(), Each->ComponentIndex()}, Each});
+        if (Each->Owner() == Application)
+            Placed.push_back({{Each->ComponentIndex(), -1}, Each});
+        else
+            Placed.push_back({{Each->Owner()->ComponentIndex(), Each->ComponentIndex()}, Each});
     std::sort(Placed.begin(), Placed.end());
     std::transform(Placed.begin(), Placed.end(), Frames.begin(),
                    [](const TPlaced& Each) { return Each.second; });
@@ -64,8 +74,9 @@ const TMetaClass& TTranslatorFrame::MetaClass()
     return Class;
 }
 
-TTranslatorFrame::TTranslatorFrame(TComponent* Owner, const TMetaClass& Kind, const char* Marker)
-    : TComponent(Owner), FKind(Kind), FMarker(Marker), FNumber(NextNumber())
+TTranslatorFrame::TTranslatorFrame(TComponent* Owner, const TMetaClass& Kind, const char* Marker,
+                                   TPeerRule Rule)
+    : TComponent(Owner), FKind(Kind), FMarker(Marker), FRule(Rule), FNumber(NextNumber())
 {
     Living().push_back({FNumber, this});
 }
@@ -87,9 +98,9 @@ void TTranslatorFrame::Loaded()
     TComponent::Loaded();
     if (FLocale == 0)
         return;
-    const auto Others = Peers();
-    if (!Others.empty())
-        SetTranslate(Others.front()->Translate());
+    const auto Same = Peers();
+    if (!Same.empty())
+        SetTranslate(Same.front()->Translate());
 }
 
 void TTranslatorFrame::DefineProperties(TFiler& Filer)
@@ -100,43 +111,72 @@ void TTranslatorFrame::DefineProperties(TFiler& Filer)
         [this](TWriter& Writer) { WriteStorage(Writer); }, true);
 }
 
+// Handlers that Switch calls may destroy any of them.
+template<class TSwitch>
+void TTranslatorFrame::SwitchAll(const std::vector<TTranslatorFrame*>& Frames, const TSwitch& Switch)
+{
+    std::vector<std::pair<TTranslatorFrame*, TLife>> Watched;
+    for (TTranslatorFrame* const Each : Frames)
+        Watched.emplace_back(Each, TLife(*Each));
+    for (const auto& [Each, EachLife] : Watched)
+        if (!EachLife.IsOver())
+            Switch(*Each);
+}
+
+// The other translators of this kind that Wanted says yes to.
+template<class TWanted>
+std::vector<TTranslatorFrame*> TTranslatorFrame::Others(const TWanted& Wanted) const
+{
+    std::vector<TTranslatorFrame*> Result;
+    for (const TLiving& Each : Living())
+        if (Each.Frame != this && &Each.Frame->FKind == &FKind && Wanted(*Each.Frame))
+            Result.push_back(Each.Frame);
+    SortByPlace(Result);
+    return Result;
+}
+
 void TTranslatorFrame::SetTranslate(bool Value)
 {
     if (Value == FTranslate)
         return;
     const TLife Life(*this);
     InternalTranslate(Value);
-    if (Life.IsOver() || !FLoadedDone || FLocale == 0)
+    if (Life.IsOver())
         return;
-    std::vector<std::pair<TTranslatorFrame*, TLife>> Others;
-    for (TTranslatorFrame* const Peer : Peers())
-        Others.emplace_back(Peer, TLife(*Peer));
-    for (const auto& [Peer, PeerLife] : Others)
-        if (!PeerLife.IsOver())
-            Peer->InternalTranslate(Value);
+    if (FRule == prApplication)
+        FollowLocale(Value);
+    else if (FLoadedDone && FLocale != 0)
+        SwitchAll(Peers(), [Value](TTranslatorFrame& Peer) { Peer.InternalTranslate(Value); });
+}
+
+// The Locale of each is looked at when its turn comes: handlers may change it.
+void TTranslatorFrame::FollowLocale(bool Value)
+{
+    const auto InApplication = Others(IsInApplication);
+    const int Wanted = FLocale;
+    SwitchAll(InApplication, [Value, Wanted](TTranslatorFrame& Other) {
+        if (Other.FLocale == 0)
+            return;
+        if (Other.FLocale == Wanted)
+            Other.InternalTranslate(Value);
+        else if (Value)
+            Other.InternalTranslate(false);
+    });
 }
 
 std::vector<TTranslatorFrame*> TTranslatorFrame::Peers() const
 {
-    std::vector<TTranslatorFrame*> Result;
-    for (const TLiving& Each : Living())
-        if (Each.Frame != this && Each.Frame->FLocale == FLocale && &Each.Frame->FKind == &FKind &&
-            IsOnApplicationForm(*Each.Frame))
-            Result.push_back(Each.Frame);
-    SortByPlace(Result);
-    return Result;
+    return Others([this](const TTranslatorFrame& Each) {
+        return Each.FLocale == FLocale &&
+               (FRule == prApplication ? IsInApplication(Each) : IsOnApplicationForm(Each));
+    });
 }
 
 std::vector<TTranslatorFrame*> TTranslatorFrame::Siblings() const
 {
-    std::vector<TTranslatorFrame*> Result;
     if (!Owner())
-        return Result;
-    for (const TLiving& Each : Living())
-        if (Each.Frame != this && Each.Frame->Owner() == Owner() && &Each.Frame->FKind == &FKind)
-            Result.push_back(Each.Frame);
-    SortByPlace(Result);
-    return Result;
+        return {};
+    return Others([this](const TTranslatorFrame& Each) { return Each.Owner() == Owner(); });
 }
 
 std::string TTranslatorFrame::Section() const

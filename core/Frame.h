@@ -17,6 +17,18 @@ OBX_EVENT(TTranslateEvent, TObject*, bool&)
 // After a translation.
 OBX_EVENT(TTranslatedEvent, TObject*)
 
+// Which translators of a kind are switched together.
+enum TPeerRule {
+    // Those on the application's forms, by Locale. Locale 0 has no peers, and
+    // nothing is passed on before the translator is loaded.
+    prForms,
+    // For work that is done once in the application: all that are owned by it, or
+    // by one of its forms and data modules. Those of Locale 0 are left alone, those
+    // of the same Locale follow, and switching one on switches the others off;
+    // also one that is not loaded yet, or whose own Locale is 0.
+    prApplication,
+};
+
 // A non-visual component on a form or data module, which owns it.
 // User-interface thread only.
 class TTranslatorFrame : public TComponent {
@@ -37,8 +49,7 @@ public:
     // Published. Whether this translator's language is shown.
     bool Translate() const { return FTranslate; }
 
-    // Switches this translator and then, once loaded and unless Locale is 0, its
-    // peers: the translators of its kind and Locale on the application's forms.
+    // Switches this translator and then its peers as TPeerRule tells.
     virtual void SetTranslate(bool Value);
 
     // Switches this translator alone.
@@ -55,7 +66,7 @@ public:
     // True when the texts go into the form file: FileName is empty.
     bool StoreTranslationsInForm() const { return FFileName.empty(); }
 
-    // Takes the state of the first peer on the application's forms.
+    // Takes the state of the first peer of the same Locale, unless that is 0.
     void Loaded() override;
 
     // Adds the stream property "Storage".
@@ -64,7 +75,7 @@ public:
 protected:
     // Kind is the class whose instances are peers; Marker, in static storage,
     // stands before the form's name in translations files: "", "#0", "#1", "#2".
-    TTranslatorFrame(TComponent* Owner, const TMetaClass& Kind, const char* Marker);
+    TTranslatorFrame(TComponent* Owner, const TMetaClass& Kind, const char* Marker, TPeerRule Rule = prForms);
 
     // The value of "Storage": an integer without meaning. Reading it then loads
     // the translations file, writing it saves that file.
@@ -79,8 +90,8 @@ protected:
     // the owner's name; without a name, its class name without the first letter.
     std::string Section() const;
 
-    // The other translators of this kind on the application's forms, with the
-    // same Locale; form by form, in owner order.
+    // The other translators of this kind and Locale where TPeerRule looks for
+    // them; form by form, in owner order.
     std::vector<TTranslatorFrame*> Peers() const;
     // The other translators of this kind with the same owner, in owner order.
     std::vector<TTranslatorFrame*> Siblings() const;
@@ -103,8 +114,15 @@ protected:
     bool FTranslate = true;
 
 private:
+    template<class TWanted>
+    std::vector<TTranslatorFrame*> Others(const TWanted& Wanted) const;
+    template<class TSwitch>
+    static void SwitchAll(const std::vector<TTranslatorFrame*>& Frames, const TSwitch& Switch);
+    void FollowLocale(bool Value);
+
     const TMetaClass& FKind;
     const char* FMarker;
+    const TPeerRule FRule;
     const uint64_t FNumber; // of no other translator before or after
     std::string FFileName;
     int FLocale = 0;

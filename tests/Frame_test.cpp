@@ -44,7 +44,10 @@ public:
     std::string Log;
 
 protected:
-    TProbe(TComponent* Owner, const TMetaClass& Kind) : TTranslatorFrame(Owner, Kind, "#9") {}
+    TProbe(TComponent* Owner, const TMetaClass& Kind, TPeerRule Rule = prForms)
+        : TTranslatorFrame(Owner, Kind, "#9", Rule)
+    {
+    }
 };
 
 const TMetaClass& TProbe::MetaClass()
@@ -67,6 +70,18 @@ public:
 const TMetaClass& TOtherProbe::MetaClass()
 {
     static const TMetaClass Class("TOtherProbe", &TProbe::MetaClass(), nullptr);
+    return Class;
+}
+
+class TServiceProbe : public TProbe {
+    OBX_CLASS(TProbe)
+public:
+    explicit TServiceProbe(TComponent* Owner) : TProbe(Owner, MetaClass(), prApplication) {}
+};
+
+const TMetaClass& TServiceProbe::MetaClass()
+{
+    static const TMetaClass Class("TServiceProbe", &TProbe::MetaClass(), nullptr);
     return Class;
 }
 
@@ -196,6 +211,50 @@ TEST_F(FramePeers, SwitchesThoseThatBelongTogether)
     EXPECT_FALSE(Data->Translate()) << "a data module is no form";
     EXPECT_FALSE(Kind->Translate());
     EXPECT_FALSE(Locale->Translate());
+}
+
+// Translators that work for the whole application reach data modules and the
+// application's own components, and one language excludes the others.
+TEST_F(FramePeers, SwitchesByLocaleInTheWholeApplication)
+{
+    const struct {
+        const char* Name;
+        int Locale;
+        bool Value;
+        bool Before;
+        std::string After; // form 1053, module 1053, application 1053, form 1031, form 0, elsewhere 1053
+    } Cases[] = {
+        {"on", 1053, true, false, "111000"},
+        {"on, others off", 1053, true, true, "111011"},
+        {"off leaves other locales", 1053, false, true, "000111"},
+        {"locale 0 switches the others off", 0, true, true, "000011"},
+    };
+    for (const auto& Case : Cases) {
+        SCOPED_TRACE(Case.Name);
+        TForm Root(nullptr);
+        TForm* const Form = NewForm();
+        TForm* const Second = NewForm();
+        auto* const Module = new TDataModule(Application);
+        TServiceProbe* const Others[] = {
+            Add<TServiceProbe>(Second, 1053, Case.Before),      Add<TServiceProbe>(Module, 1053, Case.Before),
+            Add<TServiceProbe>(Application, 1053, Case.Before), Add<TServiceProbe>(Second, 1031, Case.Before),
+            Add<TServiceProbe>(Second, 0, Case.Before),         Add<TServiceProbe>(&Root, 1053, Case.Before)};
+        Add<TServiceProbe>(Form, Case.Locale, !Case.Value)->SetTranslate(Case.Value);
+        std::string After;
+        for (const TServiceProbe* const Each : Others)
+            After += Each->Translate() ? '1' : '0';
+        EXPECT_EQ(After, Case.After);
+        for (TComponent* const Each : std::initializer_list<TComponent*>{Form, Second, Module, Others[2]})
+            delete Each;
+    }
+}
+
+TEST_F(FramePeers, AdoptsFromADataModule)
+{
+    Add<TServiceProbe>(new TDataModule(Application), 1053, false);
+    auto* const Late = Add<TServiceProbe>(NewForm(), 1053, true);
+    Late->Loaded();
+    EXPECT_FALSE(Late->Translate());
 }
 
 // Forms and owners decide what is first, not the time of creation.

@@ -64,7 +64,7 @@ void TCanvas::RequireHandle()
     if (!FHandle)
         CreateHandle();
     if (!FHandle)
-        throw EInvalidOperation("Canvas does not allow drawing");
+        throw EInvalidOperation(SNoCanvasHandle);
 }
 
 void TCanvas::NeedTools()

@@ -160,7 +160,7 @@ void TCustomForm::SetVisible(bool Value)
 void TCustomForm::VisibleChanging()
 {
     if (FFormStyle == fsMDIChild && FVisible && Parent() == nullptr && !HasState(csDestroying))
-        throw EInvalidOperation("Cannot hide an MDI Child Form");
+        throw EInvalidOperation(SMDIChildNotVisible);
 }
 
 void TCustomForm::SetParentControl(TWinControl* AParent)

@@ -28,7 +28,7 @@ void TCustomForm::CreateMDIChild(const TCreateParams& Params)
 {
     TForm* const Frame = Application ? Application->MainForm() : nullptr;
     if (!Frame || !Frame->FClientHandle)
-        throw EInvalidOperation("Cannot create form. No MDI forms are currently active");
+        throw EInvalidOperation(SNoMDIForm);
     MDICREATESTRUCTA Create{};
     Create.szClass = Params.WinClassName.c_str();
     Create.szTitle = Params.Caption.c_str();

@@ -193,7 +193,7 @@ void TNotebook::SetActivePage(const std::string& Value)
 {
     const int Index = FList->IndexOf(Value);
     if (Index < 0)
-        throw EStringListError("There is no page '" + Value + "'");
+        throw EStringListError(Format(SPageNotFound, {Value}));
     SetPageIndex(Index);
 }
 

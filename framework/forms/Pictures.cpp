@@ -246,7 +246,7 @@ void TPicture::LoadFromFile(const std::string& FileName)
             Graphic->LoadFromFile(FileName);
             return SetGraphic(std::move(Graphic));
         }
-    throw EInvalidGraphic("Unknown picture file extension (" + Extension + ")");
+    throw EInvalidGraphic(Format(SUnknownExtension, {Extension}));
 }
 
 void TPicture::SaveToFile(const std::string& FileName) const

@@ -39,7 +39,7 @@ void TScrollBar::SetKind(TScrollBarKind Value)
 void TScrollBar::SetParams(int APosition, int AMin, int AMax)
 {
     if (AMax < AMin)
-        throw EInvalidOperation("Scroll bar range is out of order");
+        throw EInvalidOperation(SScrollBarRangeOrder);
     FMin = AMin;
     FMax = AMax;
     APosition = std::clamp(APosition, FMin, FMax);

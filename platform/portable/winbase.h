@@ -101,6 +101,18 @@ void OutputDebugStringA(LPCSTR Text);
 HMODULE GetModuleHandleA(LPCSTR Name);
 DWORD GetModuleFileNameA(HMODULE Module, LPSTR Name, DWORD Size);
 
+// Loads a shared object by its file name. What it offers is its string table
+// (StringTable.h); File and Flags mean nothing. Each load is to be freed.
+#define LOAD_LIBRARY_AS_DATAFILE 0x00000002
+HMODULE LoadLibraryExA(LPCSTR Name, HANDLE File, DWORD Flags);
+BOOL FreeLibrary(HMODULE Module);
+
+// A text of a module's string table; null is the program. Returns its bytes
+// without the zero at its end; 0 when there is none. A text that is too long for
+// Capacity is cut between characters. Any thread. How it is redirected:
+// platform/Strings.h.
+int LoadStringA(HINSTANCE Instance, UINT Identifier, LPSTR Buffer, int Capacity);
+
 // Blocks as the clipboard wants them: a handle is the address of its memory.
 HGLOBAL GlobalAlloc(UINT Flags, SIZE_T Size);
 HGLOBAL GlobalReAlloc(HGLOBAL Block, SIZE_T Size, UINT Flags);

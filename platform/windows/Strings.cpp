@@ -1,0 +1,27 @@
+#include "platform/Strings.h"
+
+#include <atomic>
+
+// Made by the linker: the first byte of the module.
+extern "C" HINSTANCE__ __ImageBase;
+
+// The import slot itself. The system fills it when the module is loaded.
+extern "C" TLoadStringA __imp_LoadStringA;
+
+constinit HINSTANCE HInstance = &__ImageBase;
+
+TLoadStringA LoadStringSlot()
+{
+    return std::atomic_ref(__imp_LoadStringA).load(std::memory_order_acquire);
+}
+
+bool SetLoadStringSlot(TLoadStringA Loader)
+{
+    // Executable as well: a linker may put code into the same page.
+    DWORD Protection = 0;
+    if (!VirtualProtect(&__imp_LoadStringA, sizeof(Loader), PAGE_EXECUTE_READWRITE, &Protection))
+        return false;
+    std::atomic_ref(__imp_LoadStringA).store(Loader, std::memory_order_release);
+    VirtualProtect(&__imp_LoadStringA, sizeof(Loader), Protection, &Protection);
+    return true;
+}
