@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <thread>
 
+#include "platform/ThreadEnd.h"
+
 namespace {
 
 // One a thread. Count is odd while the thread is in a section. Never destroyed:
@@ -19,16 +21,12 @@ constinit std::atomic<TSlot*> Slots{nullptr};
 constinit thread_local TSlot* Mine = nullptr;
 constinit thread_local unsigned Depth = 0;
 
-// Gives the slot back at the end of the thread. Sections after that (destructors
-// of global objects load texts too) take a slot for good.
-struct TReturn {
-    ~TReturn()
-    {
-        Mine->Taken.store(false, std::memory_order_release);
-        Mine = nullptr;
-    }
-    void Arm() const {}
-};
+// At the end of the thread.
+void GiveBack(void* Slot)
+{
+    Mine = nullptr;
+    static_cast<TSlot*>(Slot)->Taken.store(false, std::memory_order_release);
+}
 
 TSlot* TakeSlot()
 {
@@ -44,9 +42,8 @@ TSlot* TakeSlot()
 
 void Join()
 {
-    static thread_local const TReturn Return;
     Mine = TakeSlot();
-    Return.Arm();
+    AtThreadEnd(GiveBack, Mine);
 }
 
 } // namespace
