@@ -53,7 +53,7 @@ struct TSeen {
     std::map<std::string, std::string> Fonts;
 };
 
-struct TButtonScene : testing::Test, TObject {
+struct TButtonScene : TObject, testing::Test {
     TButtonScene()
     {
         Application->OnException = {this, &TButtonScene::Fail};

@@ -93,11 +93,11 @@ void DrawArrow(HDC Dc, const RECT& Rect, int DirectionX, int DirectionY, int Col
     for (int Row = 0; Row < Half; ++Row) {
         const int Long = 2 * (Half - 1 - Row) + 1;
         const int Along = Row - Half / 2;
-        const int Side = Long / 2 + 1;
+        const int Reach = Long / 2 + 1;
         if (DirectionY)
-            cairo_rectangle(Draw, X - Side, Y + DirectionY * Along - (DirectionY < 0 ? 1 : 0), Long, 1);
+            cairo_rectangle(Draw, X - Reach, Y + DirectionY * Along - (DirectionY < 0 ? 1 : 0), Long, 1);
         else
-            cairo_rectangle(Draw, X + DirectionX * Along - (DirectionX < 0 ? 1 : 0), Y - Side, 1, Long);
+            cairo_rectangle(Draw, X + DirectionX * Along - (DirectionX < 0 ? 1 : 0), Y - Reach, 1, Long);
     }
     cairo_fill(Draw);
 }
