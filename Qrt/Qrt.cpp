@@ -181,11 +181,7 @@ void TResourceTranslator::TranslateTo(const std::string& FileName)
 
 void TResourceTranslator::TranslateFrom(const std::string& FileName)
 {
-    std::vector<std::pair<std::string, std::string>> Pairs;
-    ForEachDictionaryPair(FileName, [&](const std::string& Source, const std::string& Translation) {
-        Pairs.emplace_back(Source, Translation);
-    });
-    for (const auto& [Source, Translation] : Pairs)
+    for (const auto& [Source, Translation] : ReadDictionaryPairs(FileName))
         if (int Index = -1; ResStrings().SortFind(Source, Index))
             FTable.Set(Source, Translation);
 }

@@ -27,6 +27,15 @@ void ForEachDictionaryPair(
     }
 }
 
+TDictionaryPairs ReadDictionaryPairs(const std::string& FileName)
+{
+    TDictionaryPairs Pairs;
+    ForEachDictionaryPair(FileName, [&](const std::string& Source, const std::string& Translation) {
+        Pairs.emplace_back(Source, Translation);
+    });
+    return Pairs;
+}
+
 void TDictionary::Load(const std::string& FileName)
 {
     std::vector<std::string> Lines;

@@ -11,6 +11,8 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "core/LineBlocks.h"
 #include "core/SortList.h"
@@ -22,6 +24,10 @@
 void ForEachDictionaryPair(
     const std::string& FileName,
     const std::function<void(const std::string& Source, const std::string& Translation)>& Visit);
+
+// All pairs of a file. Throws as ForEachDictionaryPair.
+using TDictionaryPairs = std::vector<std::pair<std::string, std::string>>;
+TDictionaryPairs ReadDictionaryPairs(const std::string& FileName);
 
 // A dictionary in memory, for adding to a file. Lines that are no pairs are kept.
 class TDictionary {
