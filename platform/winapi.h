@@ -12,8 +12,10 @@
 #endif
 #include <windows.h>
 
+#include <cderr.h>
 #include <commctrl.h>
 #include <commdlg.h>
+#include <dlgs.h>
 #include <richedit.h>
 
 #include "platform/windows/CleanNames.h"
@@ -28,6 +30,8 @@
 #include "platform/portable/winuser.h"
 
 #include "platform/portable/commctrl.h"
+#include "platform/portable/commdlg.h"
+#include "platform/portable/dlgs.h"
 
 #undef ERROR
 

@@ -9,18 +9,6 @@ constexpr char PictureFilter[] =
 
 } // namespace
 
-const TMetaClass& TCommonDialog::MetaClass()
-{
-    static const TMetaClass Class("TCommonDialog", &TComponent::MetaClass(), nullptr,
-                                  {
-                                      OBX_ROW(TCommonDialog, Ctl3D).Default(true),
-                                      OBX_ROW(TCommonDialog, HelpContext).Default(0),
-                                      Prop<&TCommonDialog::OnClose>("OnClose"),
-                                      Prop<&TCommonDialog::OnShow>("OnShow"),
-                                  });
-    return Class;
-}
-
 const TMetaClass& TOpenDialog::MetaClass()
 {
     static const TMetaClass Class(

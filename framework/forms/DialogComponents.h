@@ -2,21 +2,8 @@
 // with.
 #pragma once
 
-#include "framework/forms/Form.h"
+#include "framework/forms/CommonDialog.h"
 #include "framework/rtl/Strings.h"
-
-class TCommonDialog : public TComponent {
-    OBX_CLASS(TComponent)
-public:
-    explicit TCommonDialog(TComponent* Owner) : TComponent(Owner) {}
-
-    // Published by all dialogs.
-    OBX_PROPERTY(bool, Ctl3D, true)
-    OBX_PROPERTY(THelpContext, HelpContext, 0)
-public:
-    TNotifyEvent OnClose;
-    TNotifyEvent OnShow;
-};
 
 OBX_ENUM(TOpenOption, ofReadOnly, ofOverwritePrompt, ofHideReadOnly, ofNoChangeDir, ofShowHelp, ofNoValidate,
          ofAllowMultiSelect, ofExtensionDifferent, ofPathMustExist, ofFileMustExist, ofCreatePrompt,

@@ -352,6 +352,51 @@
 #define GetGValue(Color) (static_cast<BYTE>((Color) >> 8))
 #define GetBValue(Color) (static_cast<BYTE>((Color) >> 16))
 
+// Printer settings; the printer's members only, at their places in the real structure.
+#define CCHDEVICENAME 32
+#define CCHFORMNAME 32
+struct DEVMODEA {
+    BYTE dmDeviceName[CCHDEVICENAME];
+    WORD dmSpecVersion, dmDriverVersion, dmSize, dmDriverExtra;
+    DWORD dmFields;
+    SHORT dmOrientation, dmPaperSize, dmPaperLength, dmPaperWidth, dmScale, dmCopies, dmDefaultSource,
+        dmPrintQuality;
+    SHORT dmColor, dmDuplex, dmYResolution, dmTTOption, dmCollate;
+    BYTE dmFormName[CCHFORMNAME];
+    WORD dmLogPixels;
+    DWORD dmBitsPerPel, dmPelsWidth, dmPelsHeight, dmNup, dmDisplayFrequency, dmICMMethod, dmICMIntent,
+        dmMediaType, dmDitherType, dmReserved1, dmReserved2, dmPanningWidth, dmPanningHeight;
+};
+using DEVMODE = DEVMODEA;
+using LPDEVMODEA = DEVMODEA*;
+using PDEVMODEA = DEVMODEA*;
+#define DM_SPECVERSION 0x0401
+#define DM_ORIENTATION 0x00000001
+#define DM_PAPERSIZE 0x00000002
+#define DM_PAPERLENGTH 0x00000004
+#define DM_PAPERWIDTH 0x00000008
+#define DM_SCALE 0x00000010
+#define DM_COPIES 0x00000100
+#define DM_DEFAULTSOURCE 0x00000200
+#define DM_PRINTQUALITY 0x00000400
+#define DM_COLOR 0x00000800
+#define DM_DUPLEX 0x00001000
+#define DM_YRESOLUTION 0x00002000
+#define DM_COLLATE 0x00008000
+#define DM_FORMNAME 0x00010000
+#define DMORIENT_PORTRAIT 1
+#define DMORIENT_LANDSCAPE 2
+#define DMPAPER_LETTER 1
+#define DMPAPER_LEGAL 5
+#define DMPAPER_A3 8
+#define DMPAPER_A4 9
+#define DMPAPER_A5 11
+#define DMPAPER_B5 13
+#define DMBIN_UPPER 1
+#define DMBIN_AUTO 7
+#define DMCOLLATE_FALSE 0
+#define DMCOLLATE_TRUE 1
+
 struct LOGFONTA {
     LONG lfHeight; // negative: height of the characters; positive: of the line; 0: default
     LONG lfWidth;
