@@ -85,5 +85,6 @@ HFONT TDialogFonts::Keep(HWND Dialog, HFONT Made)
 
 void TDialogFonts::Release()
 {
-    std::erase_if(FFonts, [](const auto& Each) { return !IsWindow(Each.first) && DeleteObject(Each.second); });
+    std::erase_if(FFonts,
+                  [](const auto& Each) { return !IsWindow(Each.first) && DeleteObject(Each.second); });
 }

@@ -123,7 +123,7 @@ void SetSize(HWND Dialog, bool IsWidth, int Value)
 }
 
 // Null for a control without an identifier, even if the dialog has one with that number.
-HWND FindControl(HWND Dialog, int Identifier)
+HWND ControlWith(HWND Dialog, int Identifier)
 {
     return Identifier < 0 ? nullptr : GetDlgItem(Dialog, Identifier);
 }
@@ -132,7 +132,7 @@ enum class TEdge { Left, Top, Width };
 
 void SetEdge(HWND Dialog, int Identifier, TEdge Edge, int Value)
 {
-    const HWND Control = FindControl(Dialog, Identifier);
+    const HWND Control = ControlWith(Dialog, Identifier);
     if (!Control)
         return;
     const RECT Now = PlaceInDialog(Dialog, Control);
@@ -143,7 +143,7 @@ void SetEdge(HWND Dialog, int Identifier, TEdge Edge, int Value)
 // Where no other rule applies, in the screen's coordinates.
 void SetControlHeight(HWND Dialog, int Identifier, int Value)
 {
-    const HWND Control = FindControl(Dialog, Identifier);
+    const HWND Control = ControlWith(Dialog, Identifier);
     if (!Control)
         return;
     const RECT Now = PlaceOnScreen(Control);

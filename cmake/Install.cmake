@@ -4,10 +4,10 @@ include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
 install(TARGETS orbilex_options orbilex_platform orbilex_framework orbilex_core orbilex_qft
-        orbilex_qrt orbilex_qbt orbilex_qlt
+        orbilex_qrt orbilex_qct orbilex_qbt orbilex_qlt
         EXPORT OrbilexTargets
         INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/orbilex)
-foreach(Layer platform framework core Qft Qrt Qbt Qlt)
+foreach(Layer platform framework core Qft Qrt Qct Qbt Qlt)
     install(DIRECTORY ${Layer} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/orbilex
             FILES_MATCHING PATTERN "*.h" PATTERN "*.inc")
 endforeach()

@@ -96,6 +96,7 @@ void TTranslatorFrame::Loaded()
 {
     FLoadedDone = true;
     TComponent::Loaded();
+    OwnLoaded();
     if (FLocale == 0)
         return;
     const auto Same = Peers();
@@ -177,6 +178,15 @@ std::vector<TTranslatorFrame*> TTranslatorFrame::Siblings() const
     if (!Owner())
         return {};
     return Others([this](const TTranslatorFrame& Each) { return Each.Owner() == Owner(); });
+}
+
+TTranslatorFrame* TTranslatorFrame::NewestOther() const
+{
+    const auto IsOther = [this](const TLiving& Each) {
+        return Each.Frame != this && &Each.Frame->FKind == &FKind;
+    };
+    const auto Found = std::find_if(Living().rbegin(), Living().rend(), IsOther);
+    return Found == Living().rend() ? nullptr : Found->Frame;
 }
 
 std::string TTranslatorFrame::Section() const

@@ -96,6 +96,11 @@ protected:
     // The other translators of this kind with the same owner, in owner order.
     std::vector<TTranslatorFrame*> Siblings() const;
 
+    // The newest other translator of this kind; null when there is none.
+    TTranslatorFrame* NewestOther() const;
+
+    // Called by Loaded before the state of a peer is taken.
+    virtual void OwnLoaded() {}
     bool LoadedDone() const { return FLoadedDone; }
 
     // Tells whether a translator still exists after code that may destroy it:
