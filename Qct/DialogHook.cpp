@@ -31,7 +31,11 @@ void Take(HWND Dialog, const TCommonDialog& Component)
     LeftAlone = nullptr;
     OldWndProc = reinterpret_cast<WNDPROC>(
         SetWindowLongPtrA(Dialog, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&ComDlgProc)));
-    Taken = OldWndProc ? Dialog : nullptr;
+    if (!OldWndProc)
+        return;
+    Taken = Dialog;
+    // It may be active and painted already: painting it again tells ComDlgProc.
+    InvalidateRect(Dialog, nullptr, TRUE);
 }
 
 // Until the dialog is there, the active window is one of the application's forms.
