@@ -26,9 +26,9 @@ esac
 case $what in
 both | windows)
     scripts/install-packages "${native_packages[@]}" "${windows_packages[@]}"
-    # One display and one Wine server for all tests; both end with this script.
+    # One printer, one display and one Wine server for all tests; all end with this script.
     export WINEPREFIX=$PWD/build/wine WINEDEBUG=-all
-    xvfb-run -a -s '-screen 0 1280x1024x24' bash -c '
+    scripts/with-printer xvfb-run -a -s '-screen 0 1280x1024x24' bash -c '
         scripts/run-wine cmd /c exit
         "$@"; status=$?
         timeout 30 wineserver -k

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "framework/forms/DialogComponents.h"
+#include "framework/forms/Dialogs.h"
 #include "framework/forms/StdCtrls.h"
 #include "framework/rtl/SysUtils.h"
 #include "framework/streaming/FormFile.h"
@@ -303,7 +303,7 @@ end
     TApplicationScope Scope;
     RegisterStdCtrls();
     RegisterExtCtrls();
-    RegisterDialogComponents();
+    RegisterDialogClasses();
     TLoadedForm Loaded(ReadFormText(Source), TUnknownClasses::Refuse,
                        [](const TFormObject&) { return std::make_unique<TForm>(nullptr); });
     const auto Find = [&](const char* Name) { return Loaded.Root().FindComponent(Name); };

@@ -204,24 +204,30 @@ void TApplication::ShowException(const Exception& Error)
 int TApplication::MessageBox(const std::string& Text, const std::string& Caption, UINT Flags)
 {
     const HWND Active = GetActiveWindow();
-    const std::vector<HWND> Disabled = TScreen::DisableTaskWindows(nullptr);
-    const int Result = MessageBoxA(Active ? Active : FHandle, Text.c_str(), Caption.c_str(), Flags);
-    TScreen::EnableTaskWindows(Disabled);
-    if (Active)
-        SetActiveWindow(Active);
-    return Result;
+    const TModalState State;
+    return MessageBoxA(Active ? Active : FHandle, Text.c_str(), Caption.c_str(), Flags);
 }
 
-void TApplication::ModalStarted()
+void TApplication::RunModally(const std::function<void()>& Body)
 {
-    if (++FModalLevel == 1 && OnModalBegin)
-        OnModalBegin(this);
-}
-
-void TApplication::ModalFinished()
-{
-    if (--FModalLevel == 0 && OnModalEnd)
-        OnModalEnd(this);
+    if (const HWND Captured = GetCapture())
+        SendMessageA(Captured, WM_CANCELMODE, 0, 0);
+    ReleaseCapture();
+    const auto Finished = [this] {
+        if (--FModalLevel == 0 && OnModalEnd)
+            OnModalEnd(this);
+    };
+    try {
+        if (++FModalLevel == 1 && OnModalBegin)
+            OnModalBegin(this);
+        const TCursorGuard Cursor(crDefault);
+        const TModalState State;
+        Body();
+    } catch (...) {
+        Finished();
+        throw;
+    }
+    Finished();
 }
 
 void TApplication::BringToFront()

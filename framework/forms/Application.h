@@ -99,6 +99,9 @@ public:
     // A modeless dialog of the system that wants dialog keys; null for none.
     HWND DialogHandle = nullptr;
     int ModalLevel() const { return FModalLevel; }
+    // Runs what is modal, a form or a dialog of the system: the program's other
+    // windows are disabled meanwhile. Calls nest.
+    void RunModally(const std::function<void()>& Body);
 
     // Carries out or updates an action for the form that is active.
     bool ExecuteAction(TBasicAction* Action);
@@ -143,8 +146,6 @@ private:
     bool IsDlgMsg(MSG& Msg);
     bool OfferAction(TBasicAction* Action, bool Execute);
     void MouseMoved(TControl* Control);
-    void ModalStarted();
-    void ModalFinished();
 
     HWND FHandle = nullptr;
     TForm* FMainForm = nullptr;

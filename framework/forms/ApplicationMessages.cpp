@@ -92,7 +92,7 @@ bool TApplication::Dispatch(MSG& Msg)
         return true;
     if (Msg.message == WM_MOUSEMOVE)
         MouseMoved(FindDragTarget(Msg.pt, true));
-    return IsMDIMsg(Msg) || IsKeyMsg(Msg) || IsDlgMsg(Msg);
+    return IsMDIMsg(Msg) || IsDlgMsg(Msg) || IsKeyMsg(Msg);
 }
 
 void TApplication::ProcessMessages()

@@ -1,8 +1,11 @@
 #include "framework/forms/CommonDialog.h"
 
+#include <algorithm>
 #include <unordered_map>
 
 #include "framework/forms/Application.h"
+#include "framework/forms/DialogSession.h"
+#include "framework/rtl/SysUtils.h"
 
 namespace {
 
@@ -45,11 +48,102 @@ void SetDialogMessageHook(const TMetaClass& Class, TDialogMessageHook Hook)
         MessageHooks().erase(&Class);
 }
 
+void CentreWindow(HWND Window, HWND Over)
+{
+    TRect Area = Screen->WorkAreaRect();
+    if (!IsWindowVisible(Over) && Application->MainForm() && Application->MainForm()->HandleAllocated())
+        Over = Application->MainForm()->Handle();
+    if (IsWindowVisible(Over) && !IsIconic(Over))
+        GetWindowRect(Over, &Area);
+    MONITORINFO Monitor{};
+    Monitor.cbSize = sizeof Monitor;
+    if (!GetMonitorInfoA(MonitorFromWindow(Over, MONITOR_DEFAULTTOPRIMARY), &Monitor))
+        Monitor.rcWork = Screen->WorkAreaRect();
+    TRect Place{};
+    GetWindowRect(Window, &Place);
+    const auto Middle = [](LONG From, LONG To, LONG Size, LONG Least, LONG Most) {
+        return static_cast<int>(std::max(std::min(From + (To - From - Size) / 2, Most - Size), Least));
+    };
+    SetWindowPos(Window, nullptr,
+                 Middle(Area.left, Area.right, RectWidth(Place), Monitor.rcWork.left, Monitor.rcWork.right),
+                 Middle(Area.top, Area.bottom, RectHeight(Place), Monitor.rcWork.top, Monitor.rcWork.bottom),
+                 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+TCommonDialog::~TCommonDialog()
+{
+    if (FSession)
+        FSession->DialogDestroyed();
+}
+
+TCommonDialog::TDialogEnd TCommonDialog::RunModal(const std::function<bool()>& Show)
+{
+    if (FSession)
+        throw EInvalidOperation(SCannotShowModal);
+    TDialogSession Session(*this);
+    const bool Chosen = Session.Run(Show);
+    if (!Session.Dialog())
+        return TDialogEnd::Destroyed;
+    return Chosen ? TDialogEnd::Chosen : TDialogEnd::Cancelled;
+}
+
+UINT_PTR CALLBACK TCommonDialog::HookProc(HWND Window, UINT Msg, WPARAM WParam, LPARAM LParam)
+{
+    TMessage Message{Msg, WParam, LParam, 0};
+    return TDialogSession::Hook(Window, Message);
+}
+
+void TCommonDialog::CheckError()
+{
+    switch (const DWORD Error = CommDlgExtendedError()) {
+    case 0:
+    // The system itself has told the user.
+    case PDERR_NODEFAULTPRN:
+    case PDERR_PRINTERNOTFOUND:
+    case PDERR_NODEVICES:
+        return;
+    case FNERR_BUFFERTOOSMALL:
+        throw EInvalidOperation(STooManyFiles);
+    case FNERR_INVALIDFILENAME:
+        throw EInvalidOperation(SInvalidDialogFileName);
+    default:
+        throw EInvalidOperation(Format(SDialogError, {static_cast<int>(Error)}));
+    }
+}
+
+HWND TCommonDialog::OwnerWindow()
+{
+    return Application->Handle();
+}
+
+bool TCommonDialog::RouteMessage(TMessage& Msg)
+{
+    return DialogMessageHook(ClassType())(*this, Msg);
+}
+
 bool TCommonDialog::MessageHook(TMessage& Msg)
 {
     static const UINT HelpMessage = RegisterWindowMessageA(HELPMSGSTRINGA);
-    if (Msg.Msg != HelpMessage || FHelpContext == 0)
+    if (Msg.Msg != HelpMessage)
         return false;
-    Application->HelpContext(FHelpContext);
+    Help();
     return true;
+}
+
+void TCommonDialog::Help()
+{
+    if (FHelpContext != 0)
+        Application->HelpContext(FHelpContext);
+}
+
+void TCommonDialog::DoShow()
+{
+    if (OnShow)
+        OnShow(this);
+}
+
+void TCommonDialog::DoClose()
+{
+    if (OnClose)
+        OnClose(this);
 }

@@ -257,48 +257,18 @@ void TCustomForm::CloseModal()
     }
 }
 
-namespace {
-
-// Puts the program's other windows back when the modal form is done.
-class TModalState {
-public:
-    TModalState() : FActive(GetActiveWindow()), FDisabled(TScreen::DisableTaskWindows(nullptr)) {}
-    ~TModalState()
-    {
-        TScreen::EnableTaskWindows(FDisabled);
-        if (FActive && IsWindow(FActive))
-            SetActiveWindow(FActive);
-    }
-    TModalState(const TModalState&) = delete;
-    TModalState& operator=(const TModalState&) = delete;
-
-private:
-    HWND FActive;
-    std::vector<HWND> FDisabled;
-};
-
-} // namespace
-
 TModalResult TCustomForm::ShowModal()
 {
     if (FShowing || !Enabled() || IsModal() || FFormStyle == fsMDIChild)
         throw EInvalidOperation(SCannotShowModal);
-    if (const HWND Captured = GetCapture())
-        SendMessageA(Captured, WM_CANCELMODE, 0, 0);
-    ReleaseCapture();
-    Application->ModalStarted();
     FFormState.Include(fsModal);
     try {
-        const TCursorGuard Cursor(crDefault);
-        const TModalState State;
-        RunModal();
+        Application->RunModally([this] { RunModal(); });
     } catch (...) {
         FFormState.Exclude(fsModal);
-        Application->ModalFinished();
         throw;
     }
     FFormState.Exclude(fsModal);
-    Application->ModalFinished();
     return FModalResult;
 }
 

@@ -277,3 +277,12 @@ void TScreen::EnableTaskWindows(const std::vector<HWND>& Windows)
         if (IsWindow(Window))
             EnableWindow(Window, TRUE);
 }
+
+TModalState::TModalState() : FActive(GetActiveWindow()), FDisabled(TScreen::DisableTaskWindows(nullptr)) {}
+
+TModalState::~TModalState()
+{
+    TScreen::EnableTaskWindows(FDisabled);
+    if (FActive && IsWindow(FActive))
+        SetActiveWindow(FActive);
+}

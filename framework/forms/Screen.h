@@ -96,3 +96,17 @@ public:
 private:
     TCursor FOld;
 };
+
+// Disables all windows of the program as long as it lives; then those are enabled
+// again and the window that was active becomes so again.
+class TModalState {
+public:
+    TModalState();
+    ~TModalState();
+    TModalState(const TModalState&) = delete;
+    TModalState& operator=(const TModalState&) = delete;
+
+private:
+    HWND FActive;
+    std::vector<HWND> FDisabled;
+};

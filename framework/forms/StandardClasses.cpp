@@ -2,7 +2,7 @@
 
 #include "framework/forms/Application.h"
 #include "framework/forms/ComCtrls.h"
-#include "framework/forms/DialogComponents.h"
+#include "framework/forms/Dialogs.h"
 #include "framework/forms/ExtCtrls.h"
 #include "framework/forms/StdCtrls.h"
 
@@ -31,6 +31,6 @@ void RegisterStandardClasses()
     RegisterFormClasses();
     RegisterStdCtrls();
     RegisterExtCtrls();
-    RegisterDialogComponents();
+    RegisterDialogClasses();
     RegisterComCtrls();
 }
