@@ -149,8 +149,9 @@ TEST_F(Qct, ClassesAreRegisteredOneByOne)
     for (const auto& Case : Cases) {
         EXPECT_EQ(RegisterDialogClass(Case.Class), Case.Expected != nullptr);
         EXPECT_FALSE(RegisterDialogClass(Case.Class)) << "twice";
-        if (Case.Expected)
+        if (Case.Expected) {
             EXPECT_EQ(DialogMessageHook(*Case.Class), Case.Expected) << Case.Class->ClassName();
+        }
     }
     EXPECT_EQ(DialogMessageHook(TSaveDialog::MetaClass()), Default) << "a descendant";
     EXPECT_EQ(DialogMessageHook(TFindDialog::MetaClass()), Default) << "an ancestor";

@@ -1,0 +1,297 @@
+// Translation of the dialogs themselves, as somebody who uses them sees it.
+#include <algorithm>
+#include <fstream>
+#include <map>
+#include <set>
+
+#include "Qct/DialogHook.h"
+#include "Qct/DialogProps.h"
+#include "Qct/Qct.h"
+#include "framework/rtl/FileNames.h"
+#include "framework/rtl/Files.h"
+#include "framework/rtl/SysUtils.h"
+#include "tests/DialogUser.h"
+
+namespace {
+
+class TOwnFontDialog : public TFontDialog {
+    OBX_CLASS(TFontDialog)
+public:
+    using TFontDialog::TFontDialog;
+};
+const TMetaClass& TOwnFontDialog::MetaClass()
+{
+    static const TMetaClass Class("TOwnFontDialog", &inherited::MetaClass(), CreateComponent<TOwnFontDialog>);
+    return Class;
+}
+
+const TMetaClass* const Kinds[] = {
+    &TOpenDialog::MetaClass(),  &TSaveDialog::MetaClass(),         &TFontDialog::MetaClass(),
+    &TColorDialog::MetaClass(), &TFindDialog::MetaClass(),         &TReplaceDialog::MetaClass(),
+    &TPrintDialog::MetaClass(), &TPrinterSetupDialog::MetaClass(), &TOwnFontDialog::MetaClass(),
+};
+
+std::string LinesOf(const TStrings& List)
+{
+    std::string Result;
+    for (int I = 0; I < List.Count(); ++I)
+        Result += List.Get(I) + "\n";
+    return Result;
+}
+
+std::vector<HWND> ChildrenOf(HWND Dialog)
+{
+    std::vector<HWND> Result;
+    for (HWND Each = GetWindow(Dialog, GW_CHILD); Each; Each = GetWindow(Each, GW_HWNDNEXT))
+        Result.push_back(Each);
+    return Result;
+}
+
+// The controls whose texts are captions; those of others belong to the user.
+bool HasCaption(HWND Control)
+{
+    char Class[64] = "";
+    GetClassNameA(Control, Class, sizeof Class);
+    return std::string(Class) == "Button" || std::string(Class) == "Static";
+}
+
+struct TQctDialogs : TDialogs {
+    TQctDialogs()
+    {
+        StartQct();
+        Translator = new TCommonDialogTranslator(Form);
+        Translator->SetLocale(1053);
+    }
+    ~TQctDialogs() override { StopQct(); }
+
+    TCommonDialog& New(const TMetaClass& Class) const
+    {
+        return *dynamic_cast<TCommonDialog*>(Class.Create(Form));
+    }
+    void Use(const std::string& Lines) const
+    {
+        TStringList List;
+        List.SetText(Lines);
+        Translator->SetTranslations(&List);
+    }
+    // Each line of the scan once, without the class.
+    std::vector<std::string> Scan(TCommonDialog& Dialog) const
+    {
+        TStringList List;
+        EXPECT_EQ(Translator->GetDlgProps(&Dialog, &List), 0);
+        EXPECT_EQ(Dialog.Handle(), nullptr) << "closes by itself";
+        EXPECT_FALSE(DebugDlg);
+        std::vector<std::string> Result;
+        std::set<std::string> Seen;
+        for (int I = 0; I < List.Count(); ++I)
+            if (Seen.insert(List.Get(I)).second)
+                Result.push_back(List.Get(I).substr(Dialog.ClassName().size() + 1));
+        return Result;
+    }
+    // Shows a dialog, lets Look at it, and closes it.
+    static void Show(TCommonDialog& Dialog, const TDialogUser::TStep& Look)
+    {
+        if (!dynamic_cast<TFindDialog*>(&Dialog)) {
+            ExecuteWith(Dialog, {Look, Pressing(IDCANCEL)});
+            return;
+        }
+        const TDialogUser User(Dialog, {Look, Pressing(IDCANCEL)});
+        Dialog.Execute();
+        while (Dialog.Handle())
+            Application->HandleMessage();
+    }
+
+    void CloseShown(TObject*)
+    {
+        ++Translated;
+        PostMessageA(Shown->Handle(), WM_CLOSE, 0, 0);
+    }
+
+    TCommonDialogTranslator* Translator;
+    TCommonDialog* Shown = nullptr;
+    int Translated = 0;
+};
+
+// The lines without places, sizes and what follows from the machine.
+std::string Comparable(const std::vector<std::string>& Lines)
+{
+    std::string Result;
+    for (const std::string& Line : Lines) {
+        const std::string Name = Line.substr(0, Line.find('='));
+        const bool IsSize = Name.find("Caption") == Name.npos && Name.find("Font") == Name.npos;
+        Result += (IsSize ? Name : Line) + "\n";
+    }
+    return Result;
+}
+
+std::string Recorded(const std::string& ClassName)
+{
+    const std::string All = ReadWholeFile(TEST_DATA "/dialog-lines.txt");
+    const std::string Head = "[" + ClassName + "]\n";
+    const size_t Start = All.find(Head);
+    if (Start == All.npos)
+        return "not recorded";
+    return All.substr(Start + Head.size(), All.find("\n[", Start) + 1 - Start - Head.size());
+}
+
+} // namespace
+
+// The names and texts are those of the real dialogs.
+TEST_F(TQctDialogs, ScansListTheDialogAndCloseIt)
+{
+    for (const TMetaClass* const Class : Kinds) {
+        SCOPED_TRACE(Class->ClassName());
+        TCommonDialog& Dialog = New(*Class);
+        const auto Lines = Scan(Dialog);
+        EXPECT_TRUE(Translator->Translate());
+        EXPECT_EQ(Comparable(Lines), Recorded(Class->ClassName()));
+        TStringList Now;
+        Show(Dialog, [&](HWND Window) { ListDialog(Window, "x", Now); });
+        std::string Scanned;
+        for (const std::string& Line : Lines)
+            Scanned += "x." + Line + "\n";
+        EXPECT_EQ(LinesOf(Now), Scanned);
+        delete &Dialog;
+    }
+    EXPECT_EQ(TakeEvents(), TNames{});
+}
+
+// Every caption is translated when the dialog opens, and each time it opens.
+TEST_F(TQctDialogs, EveryCaptionIsTranslated)
+{
+    for (const TMetaClass* const Class : Kinds) {
+        SCOPED_TRACE(Class->ClassName());
+        TCommonDialog& Dialog = New(*Class);
+        std::string Lines;
+        for (const std::string& Line : Scan(Dialog))
+            if (Line.starts_with("Caption"))
+                Lines += Class->ClassName() + "." + Line.substr(0, Line.find('=')) + "='Ü" +
+                         Line.substr(Line.find('=') + 2) + "\n";
+        Use(Lines);
+        int Captions = 0;
+        const auto Look = [&](HWND Window) {
+            EXPECT_EQ(TextOf(Window).substr(0, 2), "Ü");
+            for (const HWND Each : ChildrenOf(Window))
+                if (HasCaption(Each) && !TextOf(Each).empty()) {
+                    ++Captions;
+                    EXPECT_EQ(TextOf(Each).substr(0, 2), "Ü") << GetDlgCtrlID(Each);
+                }
+        };
+        for (int Round = 1; Round <= 2; ++Round) {
+            Captions = 0;
+            Show(Dialog, Look);
+            EXPECT_GE(Captions, 7);
+            EXPECT_EQ(OldWndProc, nullptr);
+        }
+        Translator->SetTranslate(false);
+        Show(Dialog, [&](HWND Window) { EXPECT_NE(TextOf(Window).substr(0, 2), "Ü"); });
+        Translator->SetTranslate(true);
+        delete &Dialog;
+    }
+    EXPECT_EQ(TakeEvents(), TNames{});
+}
+
+TEST_F(TQctDialogs, ControlsAreMovedAndSized)
+{
+    for (const TMetaClass* const Class : Kinds) {
+        SCOPED_TRACE(Class->ClassName());
+        RegisterDialogClass(Class);
+        const std::string Front = Class->ClassName() + ".";
+        Use(Front + "Font.Name='DejaVu Serif'\n" + Front + "Height=260\n" + Front + "Width=555\n" + Front +
+            "Left[2]=11\n" + Front + "Top[2]=13\n" + Front + "Width[2]=123\n" + Front + "Height[2]=77\n" +
+            Front + "Left[4711]=5\n");
+        TCommonDialog& Dialog = New(*Class);
+        Show(Dialog, [&](HWND Window) {
+            TStringList First, Second;
+            ListDialog(Window, "x", First);
+            std::map<std::string, std::string> Values;
+            for (int I = 0; I < First.Count(); ++I)
+                Values.emplace(First.Names(I), First.Get(I).substr(First.Names(I).size() + 1));
+            EXPECT_EQ(Values["x.Height"], "261");
+            EXPECT_EQ(Values["x.Width"], "556");
+            EXPECT_EQ(Values["x.Left[2]"], "11");
+            EXPECT_EQ(Values["x.Top[2]"], "13");
+            EXPECT_EQ(Values["x.Width[2]"], "124");
+            EXPECT_NE(Values["x.Height[2]"], "78");
+            SendMessageA(Window, WM_ACTIVATE, WA_ACTIVE, 0);
+            ListDialog(Window, "x", Second);
+            EXPECT_EQ(LinesOf(First), LinesOf(Second)) << "a second time";
+        });
+        delete &Dialog;
+    }
+}
+
+TEST_F(TQctDialogs, AMalformedLineIsToldOnceAndTheDialogGoesOn)
+{
+    Use("TFontDialog.Caption='Teckensnitt'\nTFontDialog.Left[2]=far\n");
+    TCommonDialog& Dialog = New(TFontDialog::MetaClass());
+    RegisterDialogClass(&TFontDialog::MetaClass());
+    Show(Dialog, [&](HWND Window) {
+        EXPECT_EQ(TextOf(Window), "Teckensnitt");
+        SendMessageA(Window, WM_ACTIVATE, WA_ACTIVE, 0);
+    });
+    EXPECT_EQ(TakeEvents(), TNames{"error 'far' is not a valid integer value"});
+}
+
+// The scan would wait for a dialog that is not taken, and never close it.
+TEST_F(TQctDialogs, NothingIsScannedBesideAnOpenDialog)
+{
+    auto& Find = dynamic_cast<TFindDialog&>(New(TFindDialog::MetaClass()));
+    TCommonDialog& Font = New(TFontDialog::MetaClass());
+    RegisterDialogClass(&TFindDialog::MetaClass());
+    Find.Execute();
+    Application->ProcessMessages();
+    EXPECT_NE(OldWndProc, nullptr);
+    TStringList Lines;
+    Translator->GetDlgProps(&Font, &Lines);
+    Translator->GetDlgProps(&Find, &Lines);
+    Translator->GetDlgProps(Form, &Lines);
+    EXPECT_EQ(Lines.Count(), 0);
+    delete Translator;
+    SendMessageA(Find.Handle(), WM_ACTIVATE, WA_ACTIVE, 0);
+    Find.CloseDialog();
+    Application->ProcessMessages();
+    EXPECT_EQ(OldWndProc, nullptr);
+}
+
+TEST_F(TQctDialogs, ManyDialogsLeaveNothingBehind)
+{
+    const auto CountWindows = [] {
+        int Count = 0;
+        EnumThreadWindows(
+            GetCurrentThreadId(),
+            [](HWND, LPARAM Counter) -> BOOL { return ++*reinterpret_cast<int*>(Counter); },
+            reinterpret_cast<LPARAM>(&Count));
+        return Count;
+    };
+    constexpr int Rounds = 250;
+    int Windows = 0;
+    DWORD Objects = 0;
+    const TMetaClass* const Quick[] = {&TFindDialog::MetaClass(), &TReplaceDialog::MetaClass(),
+                                       &TColorDialog::MetaClass(), &TFontDialog::MetaClass()};
+    std::vector<TCommonDialog*> Dialogs;
+    for (const TMetaClass* const Class : Quick) {
+        Dialogs.push_back(&New(*Class));
+        RegisterDialogClass(Class);
+    }
+    Translator->OnTranslated = {this, &TQctDialogs::CloseShown};
+    Use("TFindDialog.Font.Name='DejaVu Serif'\nTColorDialog.Font.Name='DejaVu Serif'\n"
+        "TFontDialog.Font.Charset=1\n");
+    for (int Round = 0; Round < Rounds; ++Round) {
+        if (Round == 3) { // what is made once is there
+            Windows = CountWindows();
+            Objects = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+        }
+        for (TCommonDialog* const Dialog : Dialogs) {
+            Shown = Dialog;
+            Translated = 0;
+            Dialog->Execute();
+            while (Dialog->Handle())
+                Application->HandleMessage();
+            EXPECT_GE(Translated, 1);
+        }
+    }
+    EXPECT_EQ(CountWindows(), Windows);
+    EXPECT_LE(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS), Objects);
+    EXPECT_EQ(OldWndProc, nullptr);
+}
