@@ -101,14 +101,14 @@ struct TQctDialogs : TDialogs {
             Application->HandleMessage();
     }
 
-    void CloseShown(TObject*)
+    void CloseCurrent(TObject*)
     {
         ++Translated;
-        PostMessageA(Shown->Handle(), WM_CLOSE, 0, 0);
+        PostMessageA(Current->Handle(), WM_CLOSE, 0, 0);
     }
 
     TCommonDialogTranslator* Translator;
-    TCommonDialog* Shown = nullptr;
+    TCommonDialog* Current = nullptr;
     int Translated = 0;
 };
 
@@ -274,7 +274,7 @@ TEST_F(TQctDialogs, ManyDialogsLeaveNothingBehind)
         Dialogs.push_back(&New(*Class));
         RegisterDialogClass(Class);
     }
-    Translator->OnTranslated = {this, &TQctDialogs::CloseShown};
+    Translator->OnTranslated = {this, &TQctDialogs::CloseCurrent};
     Use("TFindDialog.Font.Name='DejaVu Serif'\nTColorDialog.Font.Name='DejaVu Serif'\n"
         "TFontDialog.Font.Charset=1\n");
     for (int Round = 0; Round < Rounds; ++Round) {
@@ -283,7 +283,7 @@ TEST_F(TQctDialogs, ManyDialogsLeaveNothingBehind)
             Objects = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
         }
         for (TCommonDialog* const Dialog : Dialogs) {
-            Shown = Dialog;
+            Current = Dialog;
             Translated = 0;
             Dialog->Execute();
             while (Dialog->Handle())
