@@ -386,6 +386,16 @@ void ShowDefault(HWND Dialog, HWND Focus)
         Draw(Shown, BS_DEFPUSHBUTTON);
 }
 
+// In the colour that the dialog procedure gives for it.
+LRESULT EraseDialog(HWND Dialog, WPARAM Dc)
+{
+    const LRESULT Brush = SendMessageA(Dialog, WM_CTLCOLORDLG, Dc, reinterpret_cast<LPARAM>(Dialog));
+    RECT Client;
+    if (Brush && GetClientRect(Dialog, &Client))
+        FillRect(reinterpret_cast<HDC>(Dc), &Client, reinterpret_cast<HBRUSH>(Brush));
+    return TRUE;
+}
+
 LRESULT DefaultDialogAnswer(HWND Dialog, UINT Message, WPARAM WParam, LPARAM LParam)
 {
     switch (Message) {
@@ -401,6 +411,8 @@ LRESULT DefaultDialogAnswer(HWND Dialog, UINT Message, WPARAM WParam, LPARAM LPa
     case WM_NCDESTROY:
         SetWindowLongPtrA(Dialog, DWLP_DLGPROC, 0);
         return DefWindowProcA(Dialog, Message, WParam, LParam);
+    case WM_ERASEBKGND:
+        return EraseDialog(Dialog, WParam);
     case WM_CLOSE:
         PostMessageA(Dialog, WM_COMMAND, IDCANCEL, reinterpret_cast<LPARAM>(GetDlgItem(Dialog, IDCANCEL)));
         return 0;
