@@ -40,6 +40,7 @@ public:
 
 protected:
     void Init() override;
+    bool Started(bool HookAnswer) override;
     bool Command(int Id, int Code) override;
     INT_PTR Message(UINT Message, WPARAM WParam, LPARAM LParam) override;
 
@@ -90,7 +91,12 @@ void TColorDialog::Init()
         SetWidth(ClosedWidth);
     if (FData.Flags & (CC_PREVENTFULLOPEN | CC_FULLOPEN))
         Enable(DefineColors, false);
+}
+
+bool TColorDialog::Started(bool HookAnswer)
+{
     SetColor(FColor);
+    return HookAnswer;
 }
 
 void TColorDialog::SetWidth(short Units) const
@@ -105,7 +111,6 @@ void TColorDialog::SetWidth(short Units) const
 
 void TColorDialog::OpenRightHalf()
 {
-    SetWidth(ColorTemplate.Width);
     for (const TItemRow& Row : ColorTemplate.Items)
         if (Row.Left >= ClosedWidth || Row.Id == ColorField)
             Show(Row.Id, true);
@@ -188,6 +193,7 @@ bool TColorDialog::Command(int Id, int Code)
             End(false);
         return true;
     case DefineColors:
+        SetWidth(ColorTemplate.Width);
         OpenRightHalf();
         SetFocus(Item(RedEdit));
         return true;

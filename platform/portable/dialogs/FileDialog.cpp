@@ -139,10 +139,14 @@ void TFileDialog::MakeToolBars()
     RECT Rect;
     GetWindowRect(Item(stc1), &Rect);
     MapWindowPoints(nullptr, Window(), reinterpret_cast<POINT*>(&Rect), 2);
+    RECT Places; // it begins where they end
+    GetWindowRect(Item(cmb2), &Places);
+    MapWindowPoints(nullptr, Window(), reinterpret_cast<POINT*>(&Places), 2);
+    OffsetRect(&Rect, Places.right - Rect.left, 0);
     const HWND Bar =
         CreateWindowExA(0, TOOLBARCLASSNAMEA, "",
-                        WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | WS_GROUP | TBSTYLE_FLAT | TBSTYLE_TOOLTIPS |
-                            CCS_NODIVIDER | CCS_NORESIZE | CCS_TOP,
+                        WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | WS_GROUP | TBSTYLE_FLAT |
+                            TBSTYLE_TRANSPARENT | TBSTYLE_TOOLTIPS | CCS_NODIVIDER | CCS_NORESIZE | CCS_TOP,
                         Rect.left, Rect.top, Rect.right - Rect.left, Rect.bottom - Rect.top, Window(),
                         reinterpret_cast<HMENU>(static_cast<INT_PTR>(FolderBar)), nullptr, nullptr);
     SendMessageA(Bar, WM_SETFONT, static_cast<WPARAM>(SendMessageA(Window(), WM_GETFONT, 0, 0)), FALSE);
@@ -184,10 +188,8 @@ void TFileDialog::MakeHookWindow()
     FHookWindow = CreateDialogIndirectParamA(FData.hInstance, &Template.Dialog, Window(),
                                              reinterpret_cast<DLGPROC>(FData.lpfnHook),
                                              reinterpret_cast<LPARAM>(&FData));
-    if (!FHookWindow)
-        return;
-    SetWindowPos(FHookWindow, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE);
-    ShowWindow(FHookWindow, SW_SHOW);
+    if (FHookWindow)
+        ShowWindow(FHookWindow, SW_SHOW);
 }
 
 void TFileDialog::Arrange()
