@@ -12,6 +12,7 @@
 
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -236,10 +237,9 @@ inline TDialogListing ListDialog(const TDialogCase& Case)
 inline HWND OpenFile(HWND Owner, LPOFNHOOKPROC Hook, BOOL (*Function)(OPENFILENAMEA*))
 {
     char File[MAX_PATH] = "";
-    char Folder[MAX_PATH] = "";
-    GetTempPathA(sizeof Folder, Folder);
-    std::strcat(Folder, "listing");
-    CreateDirectoryA(Folder, nullptr);
+    const auto Folder = std::filesystem::temp_directory_path() / "listing";
+    std::filesystem::create_directory(Folder);
+    const std::string FolderName = Folder.string();
     OPENFILENAMEA Data{};
     Data.lStructSize = sizeof Data;
     Data.hwndOwner = Owner;
@@ -247,11 +247,11 @@ inline HWND OpenFile(HWND Owner, LPOFNHOOKPROC Hook, BOOL (*Function)(OPENFILENA
     Data.nFilterIndex = 1;
     Data.lpstrFile = File;
     Data.nMaxFile = sizeof File;
-    Data.lpstrInitialDir = Folder;
+    Data.lpstrInitialDir = FolderName.c_str();
     Data.Flags = OFN_EXPLORER | OFN_ENABLEHOOK | OFN_ENABLESIZING | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
     Data.lpfnHook = Hook;
     Function(&Data);
-    RemoveDirectoryA(Folder);
+    std::filesystem::remove(Folder);
     return nullptr;
 }
 

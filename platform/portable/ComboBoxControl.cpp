@@ -186,7 +186,8 @@ LRESULT TComboBox::HandleItems(UINT Message, WPARAM WParam, LPARAM LParam)
     };
     for (const auto& Row : Same)
         if (Row.Combo == Message) {
-            Invalidate();
+            if (Message == CB_ADDSTRING || Message == CB_INSERTSTRING || Message == CB_SETITEMDATA)
+                Invalidate(); // a question must not: who draws the items may ask it
             return List(Row.List, WParam, LParam);
         }
     switch (Message) {

@@ -246,6 +246,7 @@ void RegisterBuiltInClasses()
     RegisterSystemEdits();
     RegisterSystemListBoxes();
     RegisterSystemComboBoxes();
+    RegisterSystemComboBoxesEx();
     RegisterSystemScrollBars();
     RegisterSystemStatusBars();
     RegisterSystemTabs();
@@ -257,6 +258,7 @@ void RegisterBuiltInClasses()
     RegisterSystemTrackBars();
     RegisterSystemUpDowns();
     RegisterSystemDates();
+    RegisterShellViews();
 }
 
 void InitCommonControls() {}

@@ -261,7 +261,7 @@ HWND CreateDialogWindow(HINSTANCE Instance, const void* Template, HWND Owner, DL
     DWORD ExStyle = Data.Box.ExStyle;
     if (Data.Box.Style & DS_MODALFRAME)
         ExStyle |= WS_EX_DLGMODALFRAME;
-    if (Data.Box.Style & DS_CONTROL)
+    if ((Data.Box.Style & DS_CONTROL) || !(Data.Box.Style & WS_CHILD))
         ExStyle |= WS_EX_CONTROLPARENT;
     const RECT Rect = OuterRect(*State, Data, Owner);
     const std::string ClassName = Data.ClassName.empty() ? "#32770" : Data.ClassName;
@@ -328,14 +328,20 @@ void SaveFocus(HWND Dialog)
         Window->SavedFocus = Focus;
 }
 
-void RestoreFocus(HWND Dialog)
+// Being activated gives back the focus that the dialog had; only getting the focus
+// itself makes the dialog pass it to its first control. A dialog that has ended
+// keeps it.
+enum class TRestore { Saved, SavedOrFirst };
+
+void RestoreFocus(HWND Dialog, TRestore Restore)
 {
     TWindow* const Window = WindowOf(Dialog);
-    if (!Window || Window->Has(WS_MINIMIZE))
+    const TDialog* const State = StateOf<TDialog>(Dialog);
+    if (!Window || Window->Has(WS_MINIMIZE) || (State && State->Ended))
         return;
     if (Window->SavedFocus && IsWindow(Window->SavedFocus))
         SetFocus(Window->SavedFocus);
-    else
+    else if (Restore == TRestore::SavedOrFirst)
         GiveFirstFocus(Dialog);
     if (TWindow* const Kept = WindowOf(Dialog))
         Kept->SavedFocus = nullptr;
@@ -386,21 +392,33 @@ void ShowDefault(HWND Dialog, HWND Focus)
         Draw(Shown, BS_DEFPUSHBUTTON);
 }
 
+// In the colour that the dialog procedure gives for it.
+LRESULT EraseDialog(HWND Dialog, WPARAM Dc)
+{
+    const LRESULT Brush = SendMessageA(Dialog, WM_CTLCOLORDLG, Dc, reinterpret_cast<LPARAM>(Dialog));
+    RECT Client;
+    if (Brush && GetClientRect(Dialog, &Client))
+        FillRect(reinterpret_cast<HDC>(Dc), &Client, reinterpret_cast<HBRUSH>(Brush));
+    return TRUE;
+}
+
 LRESULT DefaultDialogAnswer(HWND Dialog, UINT Message, WPARAM WParam, LPARAM LParam)
 {
     switch (Message) {
     case WM_ACTIVATE:
         if (LOWORD(WParam))
-            RestoreFocus(Dialog);
+            RestoreFocus(Dialog, TRestore::Saved);
         else
             SaveFocus(Dialog);
         return 0;
     case WM_SETFOCUS:
-        RestoreFocus(Dialog);
+        RestoreFocus(Dialog, TRestore::SavedOrFirst);
         return 0;
     case WM_NCDESTROY:
         SetWindowLongPtrA(Dialog, DWLP_DLGPROC, 0);
         return DefWindowProcA(Dialog, Message, WParam, LParam);
+    case WM_ERASEBKGND:
+        return EraseDialog(Dialog, WParam);
     case WM_CLOSE:
         PostMessageA(Dialog, WM_COMMAND, IDCANCEL, reinterpret_cast<LPARAM>(GetDlgItem(Dialog, IDCANCEL)));
         return 0;
@@ -505,6 +523,8 @@ BOOL EndDialog(HWND Dialog, INT_PTR Result)
     State->Ended = true;
     if (const HWND Owner = GetWindow(Dialog, GW_OWNER))
         EnableWindow(Owner, TRUE);
+    if (IsChild(Dialog, GetFocus()))
+        SetFocus(Dialog);
     SetWindowPos(Dialog, nullptr, 0, 0, 0, 0,
                  SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_HIDEWINDOW);
     if (const HWND Owner = GetWindow(Dialog, GW_OWNER); Owner && Dialog == GetActiveWindow())

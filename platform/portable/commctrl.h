@@ -26,6 +26,7 @@
 #define HOTKEY_CLASS HOTKEY_CLASSA
 #define WC_HEADERA "SysHeader32"
 #define WC_HEADER WC_HEADERA
+#define WC_COMBOBOXEXA "ComboBoxEx32"
 #define WC_LISTVIEWA "SysListView32"
 #define WC_LISTVIEW WC_LISTVIEWA
 #define WC_TREEVIEWA "SysTreeView32"
@@ -929,6 +930,10 @@ struct PBRANGE {
     int iLow;
     int iHigh;
 };
+
+// Extended combo boxes, which take the messages of combo boxes too
+#define CBEM_GETCOMBOCONTROL 0x406
+#define CBEM_GETEDITCONTROL 0x407
 
 // List view
 #define LVM_FIRST 0x1000
