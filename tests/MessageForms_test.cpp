@@ -381,6 +381,42 @@ TEST_F(TMessageForms, ShowsCaptionsThatAreSetAsItComesUp)
     UnhookWindowsHookEx(Hook);
 }
 
+// A translated caption is set after the box was measured.
+TEST_F(TMessageForms, ButtonsGrowWithTheirCaptions)
+{
+    for (const TBiDiMode Reading : {bdLeftToRight, bdRightToLeft}) {
+        SCOPED_TRACE(Reading);
+        Application->BiDiMode = Reading;
+        TUser User;
+        User.Then([] {
+                TForm& Form = Shown();
+                const TRect Yes = Button("Yes").BoundsRect();
+                const TRect Box = Form.BoundsRect();
+                Button("Yes").SetCaption("Ja");
+                const TRect Now = Button("Yes").BoundsRect();
+                EXPECT_TRUE(EqualRect(&Yes, &Now)) << "it fits";
+                Button("No").SetCaption("Nein, und auch nicht später, gleichgültig warum");
+                Button("Cancel").Font()->SetHeight(-40);
+                ExpectNothingIsClipped(Form);
+                EXPECT_EQ(Button("Yes").Width(), RectWidth(Yes));
+                EXPECT_NEAR(2 * Form.Left() + Form.Width(), Box.left + Box.right, 1);
+                const int Width = Form.Width();
+                Button("No").SetCaption("Nein");
+                EXPECT_EQ(Form.Width(), Width) << "nothing shrinks";
+            })
+            .Press(VK_ESCAPE);
+        EXPECT_EQ(MessageDlg("?", mtConfirmation, mbYesNoCancel, 0), mrCancel);
+    }
+    TUser User;
+    User.Then([] {
+            Button("OK").SetCaption("Diese Schaltfläche ist breiter als die ganze Meldung");
+            EXPECT_EQ(Shown().Left(), 33);
+            ExpectNothingIsClipped(Shown());
+        })
+        .Press(VK_ESCAPE);
+    ShowMessagePos("here", 33, 44);
+}
+
 TEST_F(TMessageForms, ControlCCopiesTheText)
 {
     Application->SetTitle("Editor");
