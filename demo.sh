@@ -33,4 +33,5 @@ case ${1:-} in
 esac
 echo
 echo "Look at the pictures in $PWD/$pictures: main-sv.png is the main form in Swedish,"
-echo "booking-ja.png a booking in Japanese, planning-ar.png the harbour's planning in Arabic."
+echo "booking-ja.png a booking in Japanese, planning-ar.png the harbour's planning in Arabic,"
+echo "box-question-de.png a message box in German."

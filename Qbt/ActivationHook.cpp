@@ -54,8 +54,10 @@ void InstallActivationHook(TActivationHandler Handler)
     Hook = SetWindowsHookExA(WH_CBT, &HookProc, GetModuleHandleA(nullptr), GetCurrentThreadId());
 }
 
-void RemoveActivationHook() noexcept
+bool RemoveActivationHook() noexcept
 {
-    if (Hook)
-        UnhookWindowsHookEx(std::exchange(Hook, nullptr));
+    if (!Hook)
+        return false;
+    UnhookWindowsHookEx(std::exchange(Hook, nullptr));
+    return true;
 }

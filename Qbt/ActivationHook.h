@@ -16,5 +16,5 @@ using TActivationHandler = void (*)(TForm& Form);
 // one already.
 void InstallActivationHook(TActivationHandler Handler);
 
-// Does nothing when there is none.
-void RemoveActivationHook() noexcept;
+// False, with nothing done, when there is none.
+bool RemoveActivationHook() noexcept;

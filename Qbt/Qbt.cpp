@@ -1,5 +1,6 @@
 #include "Qbt/Qbt.h"
 
+#include <utility>
 #include <vector>
 
 #include "Qbt/ActivationHook.h"
@@ -29,6 +30,9 @@ std::vector<TButtonTranslator*>& Translators()
     static auto& Living = *new std::vector<TButtonTranslator*>;
     return Living;
 }
+
+// StopQbt removed the hook, and no translator was switched off since.
+bool Interrupted = false;
 
 void TranslateActivated(TForm& Form)
 {
@@ -63,6 +67,18 @@ private:
 };
 
 } // namespace
+
+void StartQbt()
+{
+    if (std::exchange(Interrupted, false))
+        InstallActivationHook(&TranslateActivated);
+}
+
+void StopQbt()
+{
+    if (RemoveActivationHook())
+        Interrupted = true;
+}
 
 const TMetaClass& TButtonTranslator::MetaClass()
 {
@@ -144,10 +160,12 @@ void TButtonTranslator::InternalTranslate(bool Value)
     if (Value == FTranslate)
         return;
     FTranslate = Value;
-    if (!Value)
+    if (!Value) {
+        Interrupted = false;
         RemoveActivationHook();
-    else if (!HasState(csDesigning))
+    } else if (!HasState(csDesigning)) {
         InstallActivationHook(&TranslateActivated);
+    }
 }
 
 void TButtonTranslator::TranslateForm(TForm* Form)

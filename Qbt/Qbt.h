@@ -112,3 +112,8 @@ private:
     std::string FTitle;
     TLangName FLanguage = lnUser;
 };
+
+// For the package (Obxc3/Obxc3.h): StopQbt removes the hook although translators may
+// be on, and StartQbt sets it up again unless one was switched off in between.
+void StartQbt();
+void StopQbt();

@@ -289,6 +289,8 @@ void StartQct()
                        if (qctInstance)
                            qctInstance->TranslateDialog(Dialog);
                    }});
+    if (qctInstance)
+        qctInstance->RegisterOwnedDialogClasses();
 }
 
 void StopQct()

@@ -118,6 +118,8 @@ private:
 };
 
 // Begins and ends the translation of dialogs in this program. StopQct gives all
-// dialog classes back what they had; a dialog that is open keeps its texts.
+// dialog classes back what they had, and a dialog that is open its procedure;
+// StartQct then registers the classes anew that are in reach of the translators
+// that are still there.
 void StartQct();
 void StopQct();

@@ -1,13 +1,14 @@
 # `cmake --install` gives applications find_package(Orbilex) with the target
-# Orbilex::orbilex_qft, or that of another translator, which brings the layers below.
+# Orbilex::orbilex_package, or that of one translator (orbilex_qft), which brings the
+# layers below.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
 install(TARGETS orbilex_options orbilex_platform orbilex_framework orbilex_core orbilex_qft
-        orbilex_qrt orbilex_qct orbilex_qbt orbilex_qlt
+        orbilex_qrt orbilex_qct orbilex_qbt orbilex_qlt orbilex_package
         EXPORT OrbilexTargets
         INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/orbilex)
-foreach(Layer platform framework core Qft Qrt Qct Qbt Qlt)
+foreach(Layer platform framework core Qft Qrt Qct Qbt Qlt Obxc3)
     install(DIRECTORY ${Layer} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/orbilex
             FILES_MATCHING PATTERN "*.h" PATTERN "*.inc")
 endforeach()

@@ -36,10 +36,15 @@ const TBooking* TBookingDesk::FindBooking(int Sailing) const
     return Found == FBookings.end() ? nullptr : &Found->second;
 }
 
-bool TBookingDesk::Book(int Sailing, const TBooking& Booking)
+int TBookingDesk::PlacesFor(int Sailing) const
 {
     const TBooking* const Earlier = FindBooking(Sailing);
-    const int Free = FSailings[static_cast<size_t>(Sailing)].FreePlaces + (Earlier ? Earlier->Places : 0);
+    return FSailings[static_cast<size_t>(Sailing)].FreePlaces + (Earlier ? Earlier->Places : 0);
+}
+
+bool TBookingDesk::Book(int Sailing, const TBooking& Booking)
+{
+    const int Free = PlacesFor(Sailing);
     if (Booking.Places < 1 || Booking.Places > Free)
         return false;
     FSailings[static_cast<size_t>(Sailing)].FreePlaces = Free - Booking.Places;

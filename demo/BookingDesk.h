@@ -44,6 +44,9 @@ public:
     const std::vector<TSailing>& Sailings() const { return FSailings; }
     // Null when nothing is booked.
     const TBooking* FindBooking(int Sailing) const;
+    // How many places a booking can have: those that are free and those of an earlier
+    // booking.
+    int PlacesFor(int Sailing) const;
     // Replaces an earlier booking. False, and nothing booked, when there are not
     // enough places left or Places is not positive.
     bool Book(int Sailing, const TBooking& Booking);

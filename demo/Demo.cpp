@@ -6,6 +6,7 @@
 #include <iostream>
 #include <string>
 
+#include "Obxc3/Obxc3.h"
 #include "demo/Programs.h"
 #include "demo/Tour.h"
 #include "framework/forms/Forms.h"
@@ -37,7 +38,8 @@ bool ReadOptions(int Count, char** Arguments, TOptions& Options)
 
 void RunProgram(bool Planning)
 {
-    TApplicationScope Scope;
+    const TApplicationScope Scope;
+    const TPackageScope Package;
     RegisterDemoForms();
     if (Planning)
         CreatePlanning();

@@ -1,16 +1,21 @@
 #include "demo/Language.h"
 
+#include <algorithm>
+#include <iterator>
+#include <string>
+
+#include "Qbt/Qbt.h"
 #include "Qlt/Qlt.h"
 #include "framework/forms/Forms.h"
 
 namespace {
 
-constexpr TLanguage Known[] = {{0x409, "en", "English (United States)", true},
-                               {0x809, "en-gb", "English (United Kingdom)", true},
-                               {0x41D, "sv", "Swedish", false},
-                               {0x407, "de", "German", false},
-                               {0x411, "ja", "Japanese", false},
-                               {0x401, "ar", "Arabic", false}};
+constexpr TLanguage Known[] = {{0x409, "en", "English (United States)", true, lnUser},
+                               {0x809, "en-gb", "English (United Kingdom)", true, lnUser},
+                               {0x41D, "sv", "Swedish", false, lnSwedish},
+                               {0x407, "de", "German", false, lnGerman},
+                               {0x411, "ja", "Japanese", false, lnJapan},
+                               {0x401, "ar", "Arabic", false, lnArabic}};
 
 TLocaleTranslator& FindTranslator()
 {
@@ -28,6 +33,20 @@ TLocaleTranslator& FindTranslator()
 std::span<const TLanguage> Languages()
 {
     return Known;
+}
+
+const TLanguage& LanguageOf(int Locale)
+{
+    const auto* const Found =
+        std::ranges::find_if(Known, [=](const TLanguage& Each) { return Each.Locale == Locale; });
+    return Found == std::end(Known) ? Known[0] : *Found;
+}
+
+void ShowButtonsIn(const TLanguage& Language, TButtonTranslator& Buttons)
+{
+    Buttons.Captions()->Clear();
+    Buttons.SetLanguage(Language.Buttons);
+    Buttons.TranslateFrom(Buttons.GetAppDir() + "buttons-" + Language.Code + ".txt");
 }
 
 void AddSystemLocales(TLocaleTranslator& Translator)

@@ -2,11 +2,15 @@
 
 #include <algorithm>
 
+#include "DemoTexts.h"
+#include "Qbt/Qbt.h"
 #include "Qlt/Qlt.h"
 #include "demo/AboutForm.h"
 #include "demo/BookingForm.h"
 #include "demo/FormParts.h"
+#include "demo/Language.h"
 #include "demo/LanguageForm.h"
+#include "demo/MessagesForm.h"
 #include "demo/OptionsForm.h"
 #include "framework/forms/ComboBoxes.h"
 #include "framework/forms/Edits.h"
@@ -14,6 +18,7 @@
 #include "framework/forms/ListBoxes.h"
 #include "framework/forms/ListViews.h"
 #include "framework/forms/Menus.h"
+#include "framework/forms/MessageForms.h"
 #include "framework/forms/PushButtons.h"
 #include "framework/forms/StatusBars.h"
 #include "framework/forms/ToolBars.h"
@@ -53,6 +58,7 @@ const TMetaClass& TMainForm::MetaClass()
                                    Published<&TMainForm::ItemByDepartureClick>("ItemByDepartureClick"),
                                    Published<&TMainForm::ItemByVesselClick>("ItemByVesselClick"),
                                    Published<&TMainForm::ItemFormatsClick>("ItemFormatsClick"),
+                                   Published<&TMainForm::ItemMessagesClick>("ItemMessagesClick"),
                                    Published<&TMainForm::ItemRulesClick>("ItemRulesClick"),
                                    Published<&TMainForm::ItemAboutClick>("ItemAboutClick")});
     return Class;
@@ -62,6 +68,7 @@ void TMainForm::Loaded()
 {
     inherited::Loaded();
     FindPart(*this, "Locales", Locales);
+    FindPart(*this, "Buttons", Buttons);
     FindPart(*this, "ItemToolBar", ItemToolBar);
     FindPart(*this, "ItemStatusBar", ItemStatusBar);
     FindPart(*this, "ItemByDeparture", ItemByDeparture);
@@ -89,6 +96,9 @@ void TMainForm::FormCreate(TObject*)
 
 void TMainForm::LocaleChanged(TObject*)
 {
+    Application->SetTitle(SBookingDesk);
+    Application->BiDiMode = BiDiMode();
+    ShowButtonsIn(LanguageOf(Locales->ActiveLocale()), *Buttons);
     const TListItem* const Item = LvwSailings->Selected();
     const int Row = Item ? Item->Index() : 0;
     LblTodayValue->SetCaption(FormatDateTime(LongDateFormat, Date()));
@@ -163,7 +173,7 @@ void TMainForm::Book(int Sailing, const TBooking& Booking)
     if (!BookingForm->Edit(FDesk.Sailings()[static_cast<size_t>(Sailing)].Title(), Answer))
         return;
     if (!FDesk.Book(Sailing, Answer))
-        ::MessageBeep(MB_ICONEXCLAMATION);
+        MessageDlg(Format(SFreePlaces, {FDesk.PlacesFor(Sailing)}), mtWarning, {mbOK}, 0);
     const TListItem* const Item = LvwSailings->Selected();
     const int Row = Item ? Item->Index() : 0;
     ListSailings();
@@ -191,12 +201,17 @@ void TMainForm::ActEditExecute(TObject* Sender)
 
 void TMainForm::ActCancelExecute(TObject*)
 {
-    if (const int Sailing = SelectedSailing(); Sailing >= 0) {
-        FDesk.Cancel(Sailing);
-        const int Row = LvwSailings->Selected()->Index();
-        ListSailings();
-        SelectRow(Row);
-    }
+    const int Sailing = SelectedSailing();
+    const TBooking* const Booking = Sailing < 0 ? nullptr : FDesk.FindBooking(Sailing);
+    if (!Booking)
+        return;
+    if (OptionsForm->CkxAsk->Checked() &&
+        MessageDlg(Format(SCancelBooking, {Booking->Name}), mtConfirmation, mbYesNo, 0) != mrYes)
+        return;
+    FDesk.Cancel(Sailing);
+    const int Row = LvwSailings->Selected()->Index();
+    ListSailings();
+    SelectRow(Row);
 }
 
 void TMainForm::ActOptionsExecute(TObject*)
@@ -276,6 +291,11 @@ void TMainForm::ItemByVesselClick(TObject*)
 void TMainForm::ItemFormatsClick(TObject*)
 {
     LanguageForm->Show();
+}
+
+void TMainForm::ItemMessagesClick(TObject*)
+{
+    MessagesForm->Show();
 }
 
 void TMainForm::ItemRulesClick(TObject*)

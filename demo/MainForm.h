@@ -7,6 +7,7 @@
 #include "demo/BookingDesk.h"
 #include "framework/forms/Forms.h"
 
+class TButtonTranslator;
 class TComboBox;
 class TGroupBox;
 class TLabel;
@@ -24,6 +25,7 @@ public:
     explicit TMainForm(TComponent* Owner) : TForm(Owner) {}
 
     TLocaleTranslator* Locales = nullptr;
+    TButtonTranslator* Buttons = nullptr;
     TMenuItem* ItemToolBar = nullptr;
     TMenuItem* ItemStatusBar = nullptr;
     TMenuItem* ItemByDeparture = nullptr;
@@ -60,6 +62,7 @@ public:
     void ItemByDepartureClick(TObject* Sender);
     void ItemByVesselClick(TObject* Sender);
     void ItemFormatsClick(TObject* Sender);
+    void ItemMessagesClick(TObject* Sender);
     void ItemRulesClick(TObject* Sender);
     void ItemAboutClick(TObject* Sender);
 

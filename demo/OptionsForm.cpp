@@ -23,6 +23,7 @@ void TOptionsForm::Loaded()
     FindPart(*this, "CkxToolBar", CkxToolBar);
     FindPart(*this, "CkxStatusBar", CkxStatusBar);
     FindPart(*this, "CkxHints", CkxHints);
+    FindPart(*this, "CkxAsk", CkxAsk);
     FindPart(*this, "CbxCurrency", CbxCurrency);
     FindPart(*this, "CbxPaper", CbxPaper);
 }

@@ -16,6 +16,7 @@ public:
     TCheckBox* CkxToolBar = nullptr;
     TCheckBox* CkxStatusBar = nullptr;
     TCheckBox* CkxHints = nullptr;
+    TCheckBox* CkxAsk = nullptr; // before a booking is cancelled
     TComboBox* CbxCurrency = nullptr;
     TComboBox* CbxPaper = nullptr;
 

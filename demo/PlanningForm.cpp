@@ -1,5 +1,6 @@
 #include "demo/PlanningForm.h"
 
+#include "DemoTexts.h"
 #include "Qlt/Qlt.h"
 #include "demo/BerthsForm.h"
 #include "demo/CrewForm.h"
@@ -29,6 +30,14 @@ void TPlanningForm::Loaded()
 void TPlanningForm::FormCreate(TObject*)
 {
     AddSystemLocales(*Locales);
+    Locales->OnTranslated = {this, &TPlanningForm::LocaleChanged};
+    LocaleChanged(Locales);
+}
+
+void TPlanningForm::LocaleChanged(TObject*)
+{
+    Application->SetTitle(SHarbourPlanning);
+    Application->BiDiMode = BiDiMode();
 }
 
 void TPlanningForm::ItemBerthsClick(TObject*)

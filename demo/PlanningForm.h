@@ -22,4 +22,7 @@ public:
     void ItemCascadeClick(TObject* Sender);
     void ItemTileClick(TObject* Sender);
     void ItemArrangeClick(TObject* Sender);
+
+private:
+    void LocaleChanged(TObject* Sender);
 };

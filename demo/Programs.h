@@ -5,7 +5,7 @@
 
 class TForm;
 
-// Registers the form files and classes. After StartApplication.
+// Registers the form files and classes. The package must have been started.
 void RegisterDemoForms();
 
 // Make the forms; Application owns them, and the first one is the main form.

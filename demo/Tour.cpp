@@ -6,13 +6,17 @@
 #include <iostream>
 #include <vector>
 
+#include "Obxc3/Obxc3.h"
 #include "demo/BookingForm.h"
+#include "demo/BoxWatch.h"
 #include "demo/FormTexts.h"
 #include "demo/Language.h"
 #include "demo/LanguageForm.h"
+#include "demo/MessagesForm.h"
 #include "demo/OptionsForm.h"
 #include "demo/Programs.h"
 #include "framework/forms/PageControls.h"
+#include "framework/forms/PushButtons.h"
 #include "framework/rtl/Files.h"
 #include "platform/Picture.h"
 
@@ -38,14 +42,17 @@ public:
 private:
     void ShowLanguage(const TLanguage& Language);
     void ShowSelectors();
+    std::vector<TBoxTexts> ShowMessages(const std::string& Code);
     void PrintChanges(const TFormState& State) const;
     void TakePictures(TForm& Form, const TLanguage& Language);
     void TakePicture(TForm& Form, const std::string& Name);
+    void SavePicture(HWND Window, const std::string& Name);
     void CheckRestored(const std::string& Translations);
     void Fail(const std::string& Text);
 
     std::string FFolder;
     std::vector<TFormState> FStates;
+    std::vector<TBoxTexts> FMessages; // in the program's own language
     int FPictures = 0;
     bool FFailed = false;
 };
@@ -55,13 +62,25 @@ std::string TranslationsFile()
     return (std::filesystem::path(Application->ExeName()).parent_path() / "demo.lng").string();
 }
 
+std::string LowerCase(std::string Text)
+{
+    for (char& Letter : Text)
+        Letter = static_cast<char>(std::tolower(static_cast<unsigned char>(Letter)));
+    return Text;
+}
+
 // TMainForm -> main, TOptionsForm -> options
 std::string PictureName(const TForm& Form)
 {
-    std::string Result = Form.ClassName().substr(1, Form.ClassName().size() - 5);
-    for (char& Letter : Result)
-        Letter = static_cast<char>(std::tolower(static_cast<unsigned char>(Letter)));
-    return Result;
+    return LowerCase(Form.ClassName().substr(1, Form.ClassName().size() - 5));
+}
+
+void Print(const TBoxTexts& Box)
+{
+    std::cout << "    " << Box.Title << ": " << Box.Text;
+    for (const std::string& Button : Box.Buttons)
+        std::cout << " [" << Button << "]";
+    std::cout << "\n";
 }
 
 // Shows the pages of the options one after the other, and the first one at the
@@ -93,9 +112,11 @@ void FillSample()
 
 void TTour::Visit(const std::function<std::vector<TForm*>()>& Create)
 {
-    TApplicationScope Scope;
+    const TApplicationScope Scope;
+    const TPackageScope Package;
     RegisterDemoForms();
     FStates.clear();
+    FMessages.clear();
     // Windows come first: what only a window can tell belongs to the state that
     // is to be restored.
     for (TForm* const Form : Create()) {
@@ -115,6 +136,8 @@ void TTour::Visit(const std::function<std::vector<TForm*>()>& Create)
     SwitchLanguage(Languages().front().Locale);
     Application->ProcessMessages();
     CheckRestored(Translations);
+    if (MessagesForm && ShowMessages("") != FMessages)
+        Fail("messages are not in the program's own language again");
     if (LanguageForm)
         ShowSelectors();
 }
@@ -128,6 +151,31 @@ void TTour::ShowLanguage(const TLanguage& Language)
         PrintChanges(State);
     for (const TFormState& State : FStates)
         TakePictures(*State.Form, Language);
+    if (!MessagesForm)
+        return;
+    const std::vector<TBoxTexts> Messages = ShowMessages(Language.Code);
+    for (const TBoxTexts& Message : Messages)
+        Print(Message);
+    if (FMessages.empty())
+        FMessages = Messages;
+}
+
+// Takes pictures of them, unless Code is empty.
+std::vector<TBoxTexts> TTour::ShowMessages(const std::string& Code)
+{
+    std::vector<TBoxTexts> Result;
+    MessagesForm->BringToFront();
+    for (TButton* const Button : MessagesForm->Buttons()) {
+        const std::string Name = LowerCase(Button->Name().substr(3)) + "-" + Code;
+        const std::vector<TBoxTexts> Boxes = ClickAndClose(*Button, [&](HWND Box) {
+            if (!Code.empty())
+                SavePicture(Box, "box-" + Name);
+        });
+        if (Boxes.empty())
+            Fail(Button->Name() + " showed no message");
+        Result.insert(Result.end(), Boxes.begin(), Boxes.end());
+    }
+    return Result;
 }
 
 void TTour::ShowSelectors()
@@ -164,8 +212,13 @@ void TTour::TakePicture(TForm& Form, const std::string& Name)
 {
     Form.BringToFront();
     Application->ProcessMessages();
+    SavePicture(Form.Handle(), Name);
+}
+
+void TTour::SavePicture(HWND Window, const std::string& Name)
+{
     const std::string File = FFolder + "/" + Name + ".png";
-    if (SaveWindowPicture(Form.Handle(), File))
+    if (SaveWindowPicture(Window, File))
         ++FPictures;
     else
         Fail("cannot write " + File);

@@ -10,7 +10,10 @@
 #include <string>
 #include <vector>
 
+#include "DemoTexts.h"
+#include "Obxc3/Obxc3.h"
 #include "Qft/Qft.h"
+#include "Qrt/Qrt.h"
 #include "core/KeyLines.h"
 #include "core/LineSplitter.h"
 #include "core/Literals.h"
@@ -19,6 +22,7 @@
 #include "demo/FormTexts.h"
 #include "demo/Language.h"
 #include "demo/Programs.h"
+#include "demo/TextsModule.h"
 #include "demo/Tour.h"
 #include "framework/forms/ComboBoxes.h"
 #include "framework/forms/Edits.h"
@@ -26,6 +30,7 @@
 #include "framework/forms/Menus.h"
 #include "framework/forms/PageControls.h"
 #include "framework/rtl/Files.h"
+#include "framework/rtl/RtlConsts.h"
 #include "framework/rtl/Texts.h"
 #include "framework/streaming/FormFile.h"
 #include "framework/streaming/FormText.h"
@@ -38,7 +43,8 @@ constexpr TCreate Programs[] = {CreateBookingDesk, CreatePlanning};
 void ForEachForm(const std::function<void(TForm&)>& Visit)
 {
     for (const TCreate Create : Programs) {
-        TApplicationScope Scope;
+        const TApplicationScope Scope;
+        const TPackageScope Package;
         RegisterDemoForms();
         for (TForm* const Form : Create()) {
             SCOPED_TRACE(Form->Name());
@@ -231,7 +237,8 @@ TEST(Demo, EveryLineOfTheTranslationsFileIsUsed)
     std::string_view Line;
     for (TLineSplitter Splitter(File); Splitter.Next(Line);) {
         Lines.emplace_back(Line);
-        EXPECT_TRUE(Forms.contains(Lines.back().substr(0, Line.find('.')))) << Line;
+        const std::string Section(Line.substr(0, Line.find('.')));
+        EXPECT_TRUE(Forms.contains(Section) || Section == "#1TextsModule") << Line;
     }
     EXPECT_TRUE(std::is_sorted(Lines.begin(), Lines.end()));
     EXPECT_EQ(std::adjacent_find(Lines.begin(), Lines.end()), Lines.end());
@@ -264,17 +271,75 @@ TEST(Demo, FormFilesAreCanonical)
         EXPECT_EQ(WriteFormText(Document, TFormTextProfile{}), ReadWholeFile(Name)) << Name;
         ++Count;
     }
-    EXPECT_EQ(Count, 8);
+    EXPECT_EQ(Count, 10);
 }
 
-// Every language shown, every form restored and every file left as it was.
-TEST(Demo, TourSucceeds)
+std::set<const TResStringRec*> Loaded;
+
+std::string NoteAndLoad(const TResStringRec* Rec)
+{
+    Loaded.insert(Rec);
+    return CustomLoadResString(Rec);
+}
+
+// The translators of resource strings, all switched off.
+std::vector<TResourceTranslator*> MakeTextTranslators()
+{
+    RegisterDemoForms();
+    Application->CreateForm(TextsModule);
+    std::vector<TResourceTranslator*> Result;
+    for (int I = 0; I < TextsModule->ComponentCount(); ++I)
+        Result.push_back(&dynamic_cast<TResourceTranslator&>(*TextsModule->Components(I)));
+    return Result;
+}
+
+// Every language shown, every form restored and every file left as it was; and no
+// message was put together from texts that have no translation.
+TEST(Demo, TourSucceedsAndTranslatesAllThatItSays)
 {
     const std::string Folder = (std::filesystem::temp_directory_path() / "orbilex-demo-tour").string();
     std::filesystem::remove_all(Folder);
+    const TPackageScope Package;
+    RedirectLoadResString(NoteAndLoad);
     EXPECT_EQ(RunTour(Folder), 0);
     EXPECT_GT(std::filesystem::file_size(Folder + "/main-ar.png"), 1000u);
+    EXPECT_GT(std::filesystem::file_size(Folder + "/box-question-ar.png"), 1000u);
     std::filesystem::remove_all(Folder);
+
+    const TResStringRec* const Captions[] = {&SMsgDlgYes,  &SMsgDlgNo,    &SMsgDlgOK,    &SMsgDlgCancel,
+                                             &SMsgDlgHelp, &SMsgDlgAbort, &SMsgDlgRetry, &SMsgDlgIgnore,
+                                             &SMsgDlgAll,  &SOKButton,    &SCancelButton};
+    for (const TResStringRec* const Caption : Captions)
+        EXPECT_EQ(Loaded.erase(Caption), 1u) << "the button translator's";
+#define ORBILEX_TEXT(Name, Identifier, Text) Loaded.insert(&Name);
+#include "demo/DemoTexts.inc"
+#undef ORBILEX_TEXT
+    EXPECT_TRUE(Loaded.contains(&SListIndexError));
+    const TApplicationScope Scope;
+    const std::vector<TResourceTranslator*> Translators = MakeTextTranslators();
+    EXPECT_EQ(Translators.size(), TranslatedLanguages());
+    for (const TResStringRec* const Rec : Loaded)
+        for (const TResourceTranslator* const Translator : Translators) {
+            const std::string Source = LoadResString(Rec);
+            int Index = -1;
+            ASSERT_TRUE(Translator->ResStrings().SortFind(Source, Index)) << Source;
+            const int Text = ObjectInteger(Translator->ResStrings().Objects(Index));
+            EXPECT_NE(Translator->Translations()->Get(Text), "") << Source << " in " << Translator->Name();
+        }
+}
+
+// Texts whose numbers are not those that saving would give them change as a whole
+// when the designer saves them for the first time.
+TEST(Demo, TextsAreStoredAsTranslatorsWriteThem)
+{
+    const std::string File = (std::filesystem::temp_directory_path() / "orbilex-demo-texts.lng").string();
+    ReplaceWholeFile(File, ReadWholeFile(DEMO_TRANSLATIONS));
+    const TApplicationScope Scope;
+    const TPackageScope Package;
+    for (TResourceTranslator* const Translator : MakeTextTranslators())
+        Translator->SaveTo(File);
+    EXPECT_EQ(ReadWholeFile(File), ReadWholeFile(DEMO_TRANSLATIONS));
+    std::filesystem::remove(File);
 }
 
 } // namespace

@@ -15,6 +15,7 @@
 #include "framework/rtl/Streams.h"
 #include "framework/rtl/SysUtils.h"
 #include "framework/rtl/Utf8.h"
+#include "tests/ClippedControls.h"
 
 namespace {
 
@@ -110,34 +111,6 @@ std::string ButtonNames(const TForm& Form)
         if (dynamic_cast<TButton*>(Form.Components(Index)))
             Result += (Result.empty() ? "" : ",") + Form.Components(Index)->Name();
     return Result;
-}
-
-// Everything lies inside the form, apart from everything else, with all its text.
-void ExpectNothingIsClipped(TForm& Form)
-{
-    TRect Inside{};
-    GetClientRect(Form.Handle(), &Inside);
-    TScreenCanvas Canvas;
-    for (int Index = 0; Index < Form.ControlCount(); ++Index) {
-        TControl& Control = *Form.Controls(Index);
-        SCOPED_TRACE(Control.Name());
-        const TRect Area = Control.BoundsRect();
-        TRect Common{};
-        EXPECT_TRUE(UnionRect(&Common, &Inside, &Area) && EqualRect(&Common, &Inside));
-        for (int Other = 0; Other < Index; ++Other) {
-            const TRect Taken = Form.Controls(Other)->BoundsRect();
-            EXPECT_FALSE(IntersectRect(&Common, &Area, &Taken)) << Form.Controls(Other)->Name();
-        }
-        Canvas.Font()->Assign(Control.Font());
-        if (dynamic_cast<TButton*>(&Control)) {
-            EXPECT_LE(Canvas.TextWidth(StripHotkey(Control.Caption())) + 8, Control.Width());
-        } else if (dynamic_cast<TLabel*>(&Control)) {
-            TRect Needed{0, 0, Control.Width(), 0};
-            Canvas.DrawText(Control.Caption(), Needed, DT_CALCRECT | DT_WORDBREAK | DT_EXPANDTABS);
-            EXPECT_LE(RectWidth(Needed), Control.Width());
-            EXPECT_LE(RectHeight(Needed), Control.Height());
-        }
-    }
 }
 
 constexpr int NoAnswer = -1;
@@ -406,6 +379,42 @@ TEST_F(TMessageForms, ShowsCaptionsThatAreSetAsItComesUp)
         EXPECT_EQ(MessageDlg("?", mtConfirmation, mbYesNo, 0), mrYes);
     }
     UnhookWindowsHookEx(Hook);
+}
+
+// A translated caption is set after the box was measured.
+TEST_F(TMessageForms, ButtonsGrowWithTheirCaptions)
+{
+    for (const TBiDiMode Reading : {bdLeftToRight, bdRightToLeft}) {
+        SCOPED_TRACE(Reading);
+        Application->BiDiMode = Reading;
+        TUser User;
+        User.Then([] {
+                TForm& Form = Shown();
+                const TRect Yes = Button("Yes").BoundsRect();
+                const TRect Box = Form.BoundsRect();
+                Button("Yes").SetCaption("Ja");
+                const TRect Now = Button("Yes").BoundsRect();
+                EXPECT_TRUE(EqualRect(&Yes, &Now)) << "it fits";
+                Button("No").SetCaption("Nein, und auch nicht später, gleichgültig warum");
+                Button("Cancel").Font()->SetHeight(-40);
+                ExpectNothingIsClipped(Form);
+                EXPECT_EQ(Button("Yes").Width(), RectWidth(Yes));
+                EXPECT_NEAR(2 * Form.Left() + Form.Width(), Box.left + Box.right, 1);
+                const int Width = Form.Width();
+                Button("No").SetCaption("Nein");
+                EXPECT_EQ(Form.Width(), Width) << "nothing shrinks";
+            })
+            .Press(VK_ESCAPE);
+        EXPECT_EQ(MessageDlg("?", mtConfirmation, mbYesNoCancel, 0), mrCancel);
+    }
+    TUser User;
+    User.Then([] {
+            Button("OK").SetCaption("Diese Schaltfläche ist breiter als die ganze Meldung");
+            EXPECT_EQ(Shown().Left(), 33);
+            ExpectNothingIsClipped(Shown());
+        })
+        .Press(VK_ESCAPE);
+    ShowMessagePos("here", 33, 44);
 }
 
 TEST_F(TMessageForms, ControlCCopiesTheText)

@@ -1,6 +1,7 @@
 // Message boxes whose buttons a translator rewrites as they come up.
 #include "Qbt/Qbt.h"
 
+#include <algorithm>
 #include <charconv>
 #include <filesystem>
 #include <functional>
@@ -23,6 +24,7 @@
 #include "framework/streaming/FormFile.h"
 #include "platform/CodePage.h"
 #include "platform/winapi.h"
+#include "tests/ClippedControls.h"
 
 namespace {
 
@@ -109,6 +111,8 @@ struct TButtonScene : TObject, testing::Test {
     }
     void LookAt(TForm& Box)
     {
+        if (Inspect)
+            Inspect(Box);
         FSeen.Title = WindowText(Box.Handle());
         for (int I = 0; I < Box.ComponentCount(); ++I)
             if (auto* const Button = dynamic_cast<TButton*>(Box.Components(I))) {
@@ -133,6 +137,7 @@ struct TButtonScene : TObject, testing::Test {
 
     TApplicationScope Scope;
     TForm* Form = AddForm("Form1");
+    std::function<void(TForm&)> Inspect; // the box that is shown
     TComponent* Victim = nullptr;
     int Asked = 0;
     int Told = 0;
@@ -214,6 +219,53 @@ TEST_F(TButtonScene, MessageBoxesSpeakEachLanguage)
         EXPECT_EQ(Seen.Captions["NoToAll"], "N&o to All");
         EXPECT_EQ(Seen.Title, "Confirm");
     }
+}
+
+// Whether the row of buttons and the form itself are in the middle.
+void ExpectInTheMiddle(TForm& Box)
+{
+    int Left = Box.ClientWidth();
+    int Right = 0;
+    for (int I = 0; I < Box.ComponentCount(); ++I)
+        if (const auto* const Button = dynamic_cast<TButton*>(Box.Components(I))) {
+            Left = std::min(Left, Button->Left());
+            Right = std::max(Right, Button->Left() + Button->Width());
+        }
+    EXPECT_NEAR(Left, Box.ClientWidth() - Right, 1);
+    EXPECT_NEAR(2 * Box.Left() + Box.Width(), Screen->Width(), 2);
+}
+
+// The form has the size for the framework's captions and font when it comes up.
+TEST_F(TButtonScene, EveryCaptionFitsItsButton)
+{
+    const struct {
+        const char* Name;
+        TBiDiMode Reading;
+        int FontHeight;
+        std::function<void()> Open;
+    } Cases[] = {
+        {"all buttons", bdLeftToRight, -13, [&] { MessageDlg("?", mtConfirmation, AllButtons, 0); }},
+        {"from the right", bdRightToLeft, -13, [&] { MessageDlg("?", mtWarning, mbAbortRetryIgnore, 0); }},
+        {"large font", bdRightToLeft, -26, [&] { MessageDlg("?", mtError, mbAbortRetryIgnore, 0); }},
+        {"question for a text", bdLeftToRight, -32,
+         [&] {
+             std::string Value;
+             InputQuery("Name", "?", Value);
+         }},
+    };
+    TButtonTranslator& Translator = Add(Form);
+    Inspect = [](TForm& Box) {
+        ExpectNothingIsClipped(Box);
+        ExpectInTheMiddle(Box);
+    };
+    for (const auto& Case : Cases)
+        for (int Language = lnArabic; Language <= lnTurkish; ++Language) {
+            SCOPED_TRACE(std::string(Case.Name) + ", language " + std::to_string(Language));
+            Application->BiDiMode = Case.Reading;
+            Translator.Font()->SetHeight(Case.FontHeight);
+            Translator.SetLanguage(static_cast<TLangName>(Language));
+            Watch(Case.Open);
+        }
 }
 
 TEST_F(TButtonScene, OtherDialogsOfTheFrameworkTooWithTitleAndFont)

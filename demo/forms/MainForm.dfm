@@ -405,6 +405,12 @@ object MainForm: TMainForm
         Hint = 'See dates and numbers, and choose the language in other ways'
         OnClick = ItemFormatsClick
       end
+      object ItemMessages: TMenuItem
+        Caption = '&Messages and errors...'
+        GroupIndex = 1
+        Hint = 'See what errors and message boxes say'
+        OnClick = ItemMessagesClick
+      end
     end
     object MnuLanguage: TMenuItem
       Caption = '&Language'
@@ -501,6 +507,19 @@ object MainForm: TMainForm
     Left = 216
     Top = 160
     Storage = 0
+  end
+  object Buttons: TButtonTranslator
+    Locale = 0
+    Translate = True
+    Font.Charset = DEFAULT_CHARSET
+    Font.Color = clWindowText
+    Font.Height = -12
+    Font.Name = 'Tahoma'
+    Font.Style = []
+    Language = lnUser
+    Left = 344
+    Top = 160
+    Storage = ()
   end
   object Locales: TLocaleTranslator
     AdoptOn = MnuLanguage

@@ -205,6 +205,8 @@ int TApplication::MessageBox(const std::string& Text, const std::string& Caption
 {
     const HWND Active = GetActiveWindow();
     const TModalState State;
+    if (BiDiMode != bdLeftToRight)
+        Flags |= MB_RTLREADING;
     return MessageBoxA(Active ? Active : FHandle, Text.c_str(), Caption.c_str(), Flags);
 }
 

@@ -3,22 +3,17 @@
 #include <memory>
 
 #include "framework/forms/Application.h"
-#include "framework/forms/DialogUnits.h"
+#include "framework/forms/ButtonRow.h"
 #include "framework/forms/Edits.h"
 #include "framework/forms/Labels.h"
-#include "framework/forms/PushButtons.h"
 #include "framework/rtl/RtlConsts.h"
 
 namespace {
 
 // Places in dialog units.
 constexpr int FormWidth = 180;
-constexpr int Margin = 8;
+constexpr int Margin = RowMargin;
 constexpr int FieldWidth = 164;
-constexpr int ButtonWidth = 50;
-constexpr int ButtonHeight = 14;
-constexpr int OKLeft = 38;
-constexpr int CancelLeft = 92;
 // Pixels between prompt, edit, buttons and the form's lower edge.
 constexpr int PromptSpacing = 5;
 constexpr int EditSpacing = 15;
@@ -65,9 +60,10 @@ public:
 
     void AddButtons()
     {
-        AddButton("OK", SMsgDlgOK, OKLeft, mrOk)->SetDefault(true);
-        AddButton("Cancel", SMsgDlgCancel, CancelLeft, mrCancel)->SetCancel(true);
-        FForm->SetClientHeight(FTop + FUnits.Y(ButtonHeight) + BottomMargin);
+        FForm->SetClientHeight(FTop + FUnits.Y(RowButtonHeight) + BottomMargin);
+        AddButton("OK", SMsgDlgOK, mrOk)->SetDefault(true);
+        AddButton("Cancel", SMsgDlgCancel, mrCancel)->SetCancel(true);
+        LayOutButtonRow(*FForm);
     }
 
     bool Ask() { return FForm->ShowModal() == mrOk; }
@@ -80,13 +76,10 @@ private:
         return TDialogUnits(FCanvas);
     }
 
-    TButton* AddButton(const char* Name, const std::string& Caption, int Left, TModalResult ModalResult)
+    TButton* AddButton(const char* Name, const std::string& Caption, TModalResult ModalResult)
     {
-        auto* const Button = new TButton(FForm.get());
-        Button->SetName(Name);
-        Button->SetCaption(Caption);
+        auto* const Button = new TRowButton(FForm.get(), FUnits, Name, Caption, FTop);
         Button->SetModalResult(ModalResult);
-        Place(Button, FUnits.X(Left), FTop, FUnits.X(ButtonWidth), FUnits.Y(ButtonHeight));
         return Button;
     }
 

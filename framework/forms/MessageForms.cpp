@@ -6,10 +6,10 @@
 #include <vector>
 
 #include "framework/forms/Application.h"
+#include "framework/forms/ButtonRow.h"
 #include "framework/forms/DialogUnits.h"
 #include "framework/forms/Images.h"
 #include "framework/forms/Labels.h"
-#include "framework/forms/PushButtons.h"
 #include "framework/rtl/RtlConsts.h"
 #include "framework/rtl/Utf8.h"
 
@@ -67,13 +67,8 @@ TMsgDlgBtn FirstOf(TMsgDlgButtons Buttons, std::array<TMsgDlgBtn, 3> Wanted)
 }
 
 // Places in dialog units.
-constexpr int Margin = 8;
+constexpr int Margin = RowMargin;
 constexpr int Spacing = 10;
-constexpr int LeastButtonWidth = 50;
-constexpr int ButtonHeight = 14;
-constexpr int ButtonSpacing = 4;
-// Pixels beside the caption of a button that is wider.
-constexpr int ButtonPadding = 16;
 // Pixels.
 constexpr int IconSize = 32;
 
@@ -118,8 +113,8 @@ void CopyToClipboard(HWND Owner, const std::string& Text)
 
 } // namespace
 
-// Measures first, then makes the controls from left to right, or from right to
-// left where the application reads so.
+// Measures the message first, then makes the controls from left to right, or from
+// right to left where the application reads so.
 class TMessageFormBuilder {
 public:
     TMessageFormBuilder(TMessageForm& Form, const std::string& Msg, TMsgDlgType DlgType,
@@ -133,7 +128,7 @@ public:
         FForm.SetCaption(FKind.Title ? std::string(*FKind.Title) : Application->Title());
         Measure();
         FForm.SetClientWidth(FClientWidth);
-        FForm.SetClientHeight(FBodyHeight + FUnits.Y(ButtonHeight + Spacing + 2 * Margin));
+        FForm.SetClientHeight(FBodyHeight + FUnits.Y(RowButtonHeight + Spacing + 2 * Margin));
         FForm.SetPosition(poScreenCenter);
         AddImage();
         AddMessage();
@@ -161,20 +156,7 @@ private:
             BodyWidth += IconSize + FUnits.X(Spacing);
             FBodyHeight = std::max(FBodyHeight, IconSize);
         }
-        FButtonWidth = FUnits.X(LeastButtonWidth);
-        int Count = 0;
-        for (size_t Index = 0; Index < std::size(ButtonKinds); ++Index) {
-            if (!FButtons.Contains(static_cast<TMsgDlgBtn>(Index)))
-                continue;
-            ++Count;
-            TRect Area{};
-            FCanvas.DrawText(*ButtonKinds[Index].Caption, Area,
-                             ReadingFlags(DT_CALCRECT | DT_LEFT | DT_SINGLELINE));
-            FButtonWidth = std::max(FButtonWidth, RectWidth(Area) + ButtonPadding);
-        }
-        FRowWidth = std::max(0, Count * FButtonWidth + (Count - 1) * FUnits.X(ButtonSpacing));
-        FClientWidth = std::max(BodyWidth, FRowWidth) + 2 * FUnits.X(Margin);
-        FClientWidth = std::max(FClientWidth, TitleWidth(FForm.Caption()));
+        FClientWidth = std::max(BodyWidth + 2 * FUnits.X(Margin), TitleWidth(FForm.Caption()));
     }
 
     void Place(TControl* Control, int Left, int Top, int Width, int Height)
@@ -211,26 +193,23 @@ private:
     {
         const TMsgDlgBtn DefaultButton = FirstOf(FButtons, {mbOK, mbYes, mbRetry});
         const TMsgDlgBtn CancelButton = FirstOf(FButtons, {mbCancel, mbNo, mbOK});
-        int Left = (FClientWidth - FRowWidth) / 2;
+        const int Top = FBodyHeight + FUnits.Y(Margin + Spacing);
         for (size_t Index = 0; Index < std::size(ButtonKinds); ++Index) {
             const auto Kind = static_cast<TMsgDlgBtn>(Index);
             if (!FButtons.Contains(Kind))
                 continue;
-            auto* const Button = new TButton(&FForm);
-            Button->SetName(ButtonKinds[Index].Name);
-            Button->SetCaption(*ButtonKinds[Index].Caption);
+            auto* const Button =
+                new TRowButton(&FForm, FUnits, ButtonKinds[Index].Name, *ButtonKinds[Index].Caption, Top);
             Button->SetModalResult(ButtonKinds[Index].ModalResult);
             Button->SetCancel(Kind == CancelButton);
             if (Kind == mbHelp)
                 Button->OnClick = {&FForm, &TMessageForm::HelpClick};
-            Place(Button, Left, FBodyHeight + FUnits.Y(Margin + Spacing), FButtonWidth,
-                  FUnits.Y(ButtonHeight));
-            Left += FButtonWidth + FUnits.X(ButtonSpacing);
             if (Kind == DefaultButton) {
                 Button->SetDefault(true);
                 FForm.SetActiveControl(Button);
             }
         }
+        LayOutButtonRow(FForm);
     }
 
     TMessageForm& FForm;
@@ -241,8 +220,6 @@ private:
     TMsgDlgButtons FButtons;
     TRect FTextArea{};
     int FBodyHeight = 0; // of text and icon
-    int FButtonWidth = 0;
-    int FRowWidth = 0; // of all buttons
     int FClientWidth = 0;
 };
 

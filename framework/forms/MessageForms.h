@@ -26,6 +26,7 @@ constexpr TMsgDlgButtons mbAbortIgnore{mbAbort, mbIgnore};
 // The form of a message box. Its components, in this order: "Image" (TImage; none
 // for mtCustom), "Message" (TLabel), then the buttons (TButton): "Yes", "No", "OK",
 // "Cancel", "Abort", "Retry", "Ignore", "All", "NoToAll", "YesToAll", "Help".
+// A button that gets a longer caption grows, and the form with it (ButtonRow.h).
 // Ctrl+C copies FormText. User-interface thread only.
 class TMessageForm : public TForm {
     OBX_CLASS(TForm)
