@@ -251,7 +251,8 @@ inline HWND OpenFile(HWND Owner, LPOFNHOOKPROC Hook, BOOL (*Function)(OPENFILENA
     Data.Flags = OFN_EXPLORER | OFN_ENABLEHOOK | OFN_ENABLESIZING | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
     Data.lpfnHook = Hook;
     Function(&Data);
-    std::filesystem::remove(Folder);
+    std::error_code Ignored; // who put a file there may keep it
+    std::filesystem::remove(Folder, Ignored);
     return nullptr;
 }
 

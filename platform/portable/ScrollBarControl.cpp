@@ -224,7 +224,11 @@ void TScrollBarControl::Release()
 
 void TScrollBarControl::Paint(HDC Dc)
 {
-    PaintScrollBar(Dc, ClientRect(), Vertical(), FBar, Enabled());
+    RECT Rect = ClientRect();
+    if (!(Style() & (SBS_SIZEBOX | SBS_SIZEGRIP)))
+        return PaintScrollBar(Dc, Rect, Vertical(), FBar, Enabled());
+    FillRect(Dc, &Rect, GetSysColorBrush(COLOR_BTNFACE));
+    DrawFrameControl(Dc, &Rect, DFC_SCROLL, DFCS_SCROLLSIZEGRIP);
 }
 } // namespace
 

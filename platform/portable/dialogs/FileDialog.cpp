@@ -127,7 +127,7 @@ void TFileDialog::MakeToolBars()
         TBBUTTON Data{};
         Data.iBitmap = I_IMAGENONE;
         Data.idCommand = Command;
-        Data.fsState = TBSTATE_ENABLED | TBSTATE_WRAP;
+        Data.fsState = TBSTATE_ENABLED;
         Data.fsStyle = BTNS_BUTTON | BTNS_AUTOSIZE;
         Data.iString = reinterpret_cast<INT_PTR>(Text);
         return Data;
@@ -151,7 +151,7 @@ void TFileDialog::MakeToolBars()
                         reinterpret_cast<HMENU>(static_cast<INT_PTR>(FolderBar)), nullptr, nullptr);
     SendMessageA(Bar, WM_SETFONT, static_cast<WPARAM>(SendMessageA(Window(), WM_GETFONT, 0, 0)), FALSE);
     Fill(Bar, {Button(UpFolder, "Up"), Button(NewFolder, "New Folder")});
-    Fill(Item(PlacesBar), {Button(HomeFolder, "Home"), Button(RootFolder, "Computer")});
+    Fill(Item(PlacesBar), {Button(HomeFolder, "Home"), Button(RootFolder, "Root")});
 }
 
 // The help button and the read-only box need a line of their own.
