@@ -38,7 +38,7 @@ struct TFolder {
         const auto Text = Path.u8string();
         return {Text.begin(), Text.end()};
     }
-    fs::path Path = fs::temp_directory_path() / "orbilex_dialogs";
+    fs::path Path = fs::temp_directory_path() / ("orbilex_dialogs" + std::to_string(GetCurrentProcessId()));
 };
 
 std::deque<TDialogUser::TStep> Choosing(const std::string& Name)
