@@ -33,7 +33,7 @@ bool ShowPrintDialog(PRINTDLGA& Data)
 }
 
 // Settings of the printer come before what the call says.
-void SetCopies(HGLOBAL Settings, WORD Copies, bool Collate)
+void PutCopies(HGLOBAL Settings, WORD Copies, bool Collate)
 {
     auto* const Mode = Settings ? static_cast<DEVMODEA*>(GlobalLock(Settings)) : nullptr;
     if (!Mode)
@@ -127,7 +127,7 @@ bool TPrintDialog::Execute()
     Data.nMaxPage = PageNumber(FMaxPage);
     Data.nCopies = PageNumber(std::max(FCopies, 1));
     Data.lpfnPrintHook = &HookProc;
-    SetCopies(Data.hDevMode, Data.nCopies, FCollate);
+    PutCopies(Data.hDevMode, Data.nCopies, FCollate);
     if (RunModal([&] { return ShowPrintDialog(Data); }) != TDialogEnd::Chosen)
         return false;
     FCollate = (Data.Flags & PD_COLLATE) != 0;
