@@ -102,8 +102,6 @@ void TCommonDialog::CheckError()
     case PDERR_PRINTERNOTFOUND:
     case PDERR_NODEVICES:
         return;
-    case FNERR_BUFFERTOOSMALL:
-        throw EInvalidOperation(STooManyFiles);
     case FNERR_INVALIDFILENAME:
         throw EInvalidOperation(SInvalidDialogFileName);
     default:

@@ -37,7 +37,8 @@ bool TDialogSession::Run(const std::function<bool()>& Show)
         FOwnerHook = Application->HookMainWindow([this](TMessage& Msg) { return HandleOwner(Msg); });
         Chosen = Show();
     });
-    if (!Chosen && FDialog)
+    // A dialog that was shown has been cancelled: not all of them set the error back.
+    if (!Chosen && FDialog && !FShown)
         TCommonDialog::CheckError();
     return Chosen;
 }
@@ -108,6 +109,7 @@ bool TDialogSession::HandleOwner(TMessage& Msg)
 void TDialogSession::Initialised()
 {
     FInitialised = true;
+    FShown = true;
     FDialog->FHandle = FWindow;
     CentreWindow(FWindow, FOver);
     FDialog->DoShow();

@@ -37,7 +37,8 @@ private:
     HWND FOver = nullptr;       // was active before
     HWND FHookWindow = nullptr; // what the hook procedure is called for
     HWND FWindow = nullptr;
-    bool FInitialised = false;
+    bool FInitialised = false; // and not destroyed yet
+    bool FShown = false;
     bool FAnnounced = false;
     int FOwnerHook = 0;
 };

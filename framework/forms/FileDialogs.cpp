@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "framework/rtl/FileNames.h"
+#include "framework/rtl/SysUtils.h"
 
 namespace {
 
@@ -165,6 +166,8 @@ bool TOpenDialog::Execute()
         FFileName = OldName;
         FFilterIndex = OldFilterIndex;
         FFiles.Assign(&OldFiles);
+        if (CommDlgExtendedError() == FNERR_BUFFERTOOSMALL)
+            throw EInvalidOperation(STooManyFiles);
     }
     return false;
 }

@@ -119,7 +119,9 @@ void TFindDialog::Closed()
         return;
     FPosition = Position();
     FHandle = nullptr;
-    DoClose();
+    // The handler may be a part of the form that is going.
+    if (!Owner() || !Owner()->HasState(csDestroying))
+        DoClose();
 }
 
 void TFindDialog::DoFind()

@@ -32,6 +32,18 @@ bool ShowPrintDialog(PRINTDLGA& Data)
     return Result;
 }
 
+// Settings of the printer come before what the call says.
+void PutCopies(HGLOBAL Settings, WORD Copies, bool Collate)
+{
+    auto* const Mode = Settings ? static_cast<DEVMODEA*>(GlobalLock(Settings)) : nullptr;
+    if (!Mode)
+        return;
+    Mode->dmFields |= DM_COPIES | DM_COLLATE;
+    Mode->dmCopies = static_cast<short>(Copies);
+    Mode->dmCollate = Collate ? DMCOLLATE_TRUE : DMCOLLATE_FALSE;
+    GlobalUnlock(Settings);
+}
+
 WORD PageNumber(int Value)
 {
     return static_cast<WORD>(std::clamp(Value, 0, 0xFFFF));
@@ -76,8 +88,10 @@ HGLOBAL PrinterDevNames()
 bool TPrinterSetupDialog::Execute()
 {
     PRINTDLGA Data = PrinterData(OwnerWindow());
-    Data.Flags = PD_PRINTSETUP | PD_ENABLESETUPHOOK | (HelpContext() ? PD_SHOWHELP : 0);
+    // Not all systems call the hook procedure that is meant for this dialog.
+    Data.Flags = PD_PRINTSETUP | PD_ENABLESETUPHOOK | PD_ENABLEPRINTHOOK | (HelpContext() ? PD_SHOWHELP : 0);
     Data.lpfnSetupHook = &HookProc;
+    Data.lpfnPrintHook = &HookProc;
     return RunModal([&] { return ShowPrintDialog(Data); }) == TDialogEnd::Chosen;
 }
 
@@ -113,6 +127,7 @@ bool TPrintDialog::Execute()
     Data.nMaxPage = PageNumber(FMaxPage);
     Data.nCopies = PageNumber(std::max(FCopies, 1));
     Data.lpfnPrintHook = &HookProc;
+    PutCopies(Data.hDevMode, Data.nCopies, FCollate);
     if (RunModal([&] { return ShowPrintDialog(Data); }) != TDialogEnd::Chosen)
         return false;
     FCollate = (Data.Flags & PD_COLLATE) != 0;
