@@ -42,11 +42,6 @@ TPoint SizeFor(TRowButton& Button)
     return {RectWidth(Area) + PaddingAcross, RectHeight(Area) + PaddingDown};
 }
 
-bool IsInMiddle(int Place, int Size, LONG From, LONG To)
-{
-    return std::abs(2 * Place + Size - static_cast<int>(From + To)) <= 1;
-}
-
 int BottomOf(const TRow& Row)
 {
     int Result = 0;
@@ -55,13 +50,21 @@ int BottomOf(const TRow& Row)
     return Result;
 }
 
+// Where something of one size in the range stands that becomes as large as another;
+// what was in the middle stays there.
+int PlaceOfLarger(int Place, int Size, int Larger, LONG From, LONG To)
+{
+    const auto Middle = static_cast<int>(From + To);
+    return std::abs(2 * Place + Size - Middle) <= 1 ? (Middle - Larger) / 2 : Place;
+}
+
 void Enlarge(TForm& Form, int Across, int Down)
 {
     const TRect Area = Screen->WorkAreaRect();
-    const bool Centered = IsInMiddle(Form.Left(), Form.Width(), Area.left, Area.right);
-    const bool CenteredDown = IsInMiddle(Form.Top(), Form.Height(), Area.top, Area.bottom);
-    Form.SetBounds(Form.Left() - (Centered ? Across / 2 : 0), Form.Top() - (CenteredDown ? Down / 2 : 0),
-                   Form.Width() + Across, Form.Height() + Down);
+    const int Width = Form.Width() + Across;
+    const int Height = Form.Height() + Down;
+    Form.SetBounds(PlaceOfLarger(Form.Left(), Form.Width(), Width, Area.left, Area.right),
+                   PlaceOfLarger(Form.Top(), Form.Height(), Height, Area.top, Area.bottom), Width, Height);
     if (!Form.UseRightToLeftAlignment())
         return;
     for (int Index = 0; Index < Form.ControlCount(); ++Index) {
