@@ -96,8 +96,9 @@ BENCHMARK(LoadTranslated)
     ->ArgsProduct({{1, 10}, {100, 1000, 10000, 100000}, Places})
     ->ArgsProduct({{100}, {100, 1000, 10000}, Places});
 
-// The translating step. LookUp(Source, Buffer) puts the translation of Source, which
-// Buffer holds too, into Buffer; false when there is none.
+// The translating step: LookUp(Buffer) replaces the text in Buffer by its translation;
+// false when there is none. A text is put there some time before it is looked up: what
+// reads it at once, in other pieces than those it was written in, waits for the writing.
 template<class TLookUp>
 void LookUpAll(benchmark::State& State, const TLookUp& LookUp)
 {
@@ -107,18 +108,20 @@ void LookUpAll(benchmark::State& State, const TLookUp& LookUp)
         Sources.push_back(Hits ? Source : "Die" + Source.substr(3));
     // So that the processor cannot learn the order of the texts.
     std::shuffle(Sources.begin(), Sources.end(), std::mt19937(3));
-    char Buffer[256];
+    char Buffers[32][256];
     size_t Next = 0;
     int64_t Found = 0;
-    for (auto _ : State) {
-        const std::string& Source = Sources[Next];
-        std::memcpy(Buffer, Source.c_str(), Source.size() + 1);
-        Found += LookUp(Source, Buffer) ? 1 : 0;
-        benchmark::DoNotOptimize(Buffer);
-        if (++Next == Sources.size())
-            Next = 0;
+    while (State.KeepRunningBatch(std::size(Buffers))) {
+        for (char* const Buffer : Buffers) {
+            std::memcpy(Buffer, Sources[Next].c_str(), Sources[Next].size() + 1);
+            if (++Next == Sources.size())
+                Next = 0;
+        }
+        for (char* const Buffer : Buffers)
+            Found += LookUp(Buffer) ? 1 : 0;
+        benchmark::DoNotOptimize(Buffers);
     }
-    if (Found != (Hits ? State.iterations() : 0))
+    if (Found != (Hits ? static_cast<int64_t>(State.iterations()) : 0))
         State.SkipWithError("not what was to be measured");
 }
 
@@ -130,17 +133,15 @@ void TranslateBuffer(benchmark::State& State)
         char Other[] = "other";
         Translator->TranslateBuffer(Other, Length);
     }
-    LookUpAll(State, [&](const std::string&, char* Buffer) {
-        return Translator->TranslateBuffer(Buffer, 256, Length);
-    });
+    LookUpAll(State, [&](char* Buffer) { return Translator->TranslateBuffer(Buffer, 256, Length); });
 }
 
 void HashMap(benchmark::State& State)
 {
     const auto Pairs = Texts(State.range(0));
     const std::unordered_map<std::string, std::string> Map(Pairs.begin(), Pairs.end());
-    LookUpAll(State, [&](const std::string& Source, char* Buffer) {
-        const auto Place = Map.find(Source);
+    LookUpAll(State, [&](char* Buffer) {
+        const auto Place = Map.find(Buffer);
         if (Place == Map.end())
             return false;
         std::memcpy(Buffer, Place->second.c_str(), Place->second.size() + 1);
@@ -156,7 +157,7 @@ void Dgettext(benchmark::State& State)
     setenv("LANGUAGE", "de", 1);
     std::setlocale(LC_ALL, "C.UTF-8");
     bindtextdomain(Domain.c_str(), Folder.Path().c_str());
-    LookUpAll(State, [&](const std::string&, char* Buffer) {
+    LookUpAll(State, [&](char* Buffer) {
         const char* const Translation = dgettext(Domain.c_str(), Buffer);
         if (Translation == Buffer)
             return false;
@@ -175,7 +176,7 @@ void BoostLocale(benchmark::State& State)
     const std::locale Locale = Generator("de_DE.UTF-8");
     const auto& Catalog = std::use_facet<boost::locale::message_format<char>>(Locale);
     const int Domain = Catalog.domain("texts");
-    LookUpAll(State, [&](const std::string&, char* Buffer) {
+    LookUpAll(State, [&](char* Buffer) {
         const char* const Translation = Catalog.get(Domain, nullptr, Buffer);
         if (!Translation)
             return false;
