@@ -387,6 +387,10 @@ TEST_F(Qrt, LoadsOnAnyThread)
         });
     for (int Round = 0; Round < 300 || Loads < 1000; ++Round) {
         auto First = New({{"&Yes", "Ja"}});
+        for (int I = 0; I < 20; ++I) { // each makes a new index, and the old one goes
+            First->SetTranslation("&Yes", I % 2 == 0 ? "Ja, sehr gerne" : "Ja");
+            EXPECT_EQ(std::string(SMsgDlgYes), I % 2 == 0 ? "Ja, sehr gerne" : "Ja");
+        }
         const auto Second = New({{"&Yes", "Jo"}, {"&No", "Nö"}});
         for (int I = 0; I < 20; ++I)
             First->SetTranslation("Text " + IntToStr(I), "T");
