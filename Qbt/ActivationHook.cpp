@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "framework/forms/Application.h"
-#include "platform/winapi.h"
+#include "platform/Strings.h"
 
 namespace {
 
@@ -51,7 +51,7 @@ void InstallActivationHook(TActivationHandler Handler)
     if (Hook)
         return;
     Told = Handler;
-    Hook = SetWindowsHookExA(WH_CBT, &HookProc, GetModuleHandleA(nullptr), GetCurrentThreadId());
+    Hook = SetWindowsHookExA(WH_CBT, &HookProc, HInstance, GetCurrentThreadId());
 }
 
 bool RemoveActivationHook() noexcept

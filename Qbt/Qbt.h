@@ -36,7 +36,8 @@ class TVarRec;
 // those that have a Locale off; read from a form, it then follows another one of
 // its own Locale.
 //
-// Handlers may destroy translators and forms.
+// Handlers may destroy translators and forms; the form that is coming up only by its
+// Release, as in all handlers that a form calls while it is shown.
 class TButtonTranslator : public TTranslatorFrame {
     OBX_CLASS(TTranslatorFrame)
 public:

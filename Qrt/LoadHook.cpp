@@ -46,14 +46,14 @@ int TranslateLoaded(char* Buffer, int Capacity, int Length)
     return Length;
 }
 
+// OrgLoadString, but kept when the slot is restored: calls may be under way then,
+// and who redirected the slot later goes on calling the hook.
+constinit std::atomic<TLoadStringA> Beneath{nullptr};
+
 // Takes the place of LoadStringA.
 int WINAPI LoadStringHook(HINSTANCE Instance, UINT Identifier, LPSTR Buffer, int Capacity)
 {
-    // A call may arrive while the slot is being restored.
-    TLoadStringA Original = OrgLoadString.load();
-    if (!Original)
-        Original = LoadStringSlot();
-    const int Length = Original(Instance, Identifier & 0xFFFF, Buffer, Capacity);
+    const int Length = Beneath.load()(Instance, Identifier & 0xFFFF, Buffer, Capacity);
     if (Length <= 0 || LoadingPlain)
         return Length;
     return TranslateLoaded(Buffer, Capacity, Length);
@@ -87,7 +87,8 @@ void HookLoadString(bool Restore)
             OrgLoadString.store(nullptr);
         return;
     }
-    OrgLoadString.store(LoadStringSlot());
+    Beneath.store(LoadStringSlot());
+    OrgLoadString.store(Beneath.load());
     if (!SetLoadStringSlot(LoadStringHook))
         OrgLoadString.store(nullptr);
 }

@@ -48,7 +48,8 @@ public:
     // Replaces the zero-terminated text in Buffer by its translation; false, with
     // nothing changed, when this translator has none or is off.
     // Never writes past Capacity bytes: a longer translation is cut between
-    // characters, so that it fits with its zero. The form without Capacity requires
+    // characters, so that it fits with its zero, and counts as none when not even
+    // its first one fits. The form without Capacity requires
     // that Buffer has room for any translation in the table.
     // Any thread.
     bool TranslateBuffer(char* Buffer, int& Length) const;

@@ -1,5 +1,6 @@
 #include "Qrt/ResourceTable.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "Qrt/ReadSections.h"
@@ -13,7 +14,9 @@ constexpr std::int64_t EntriesALookup = 16;
 
 int CopyTo(char* Buffer, int Capacity, std::string_view Text)
 {
-    const std::string_view Cut = CutAtCharacter(Text, static_cast<size_t>(Capacity - 1));
+    const std::string_view Cut = CutAtCharacter(Text, static_cast<size_t>(std::max(Capacity, 1)) - 1);
+    if (Cut.empty())
+        return 0;
     std::memcpy(Buffer, Cut.data(), Cut.size());
     Buffer[Cut.size()] = 0;
     return static_cast<int>(Cut.size());
@@ -167,7 +170,7 @@ int TResourceTable::Find(std::string_view Source, std::uint64_t Hash, char* Buff
     const TSnapshot* const Current = FCurrent.load();
     if (Current && Current->InOrder && Current->Version == FVersion.load(std::memory_order_acquire)) {
         const std::string_view Text = Current->Index.Find(Source, Hash);
-        return Text.empty() ? 0 : CopyTo(Buffer, Capacity, Text);
+        return CopyTo(Buffer, Capacity, Text);
     }
     const std::lock_guard Guard(FLock);
     const TSnapshot* const Newest = FCurrent.load();
@@ -176,8 +179,7 @@ int TResourceTable::Find(std::string_view Source, std::uint64_t Hash, char* Buff
         FReplaced.reserve(FReplaced.size() + 1);
         FReplaced.emplace_back(FCurrent.exchange(MakeSnapshot().release()));
     }
-    const std::string_view Text = FindInLists(Source);
-    return Text.empty() ? 0 : CopyTo(Buffer, Capacity, Text);
+    return CopyTo(Buffer, Capacity, FindInLists(Source));
 }
 
 std::string_view TResourceTable::FindInLists(std::string_view Source) const

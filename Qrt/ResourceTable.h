@@ -53,7 +53,7 @@ public:
 
     // Writes the translation of Source and a zero to Buffer, cut between characters
     // to Capacity - 1 bytes, and returns its length; 0, with Buffer as it was,
-    // when there is none or it is empty. Hash is TResourceIndex::HashOf(Source).
+    // when there is none, it is empty, or not one character fits. Hash is TResourceIndex::HashOf(Source).
     // Source may lie in Buffer.
     // Any thread. Requires: the caller is in a TReadSection.
     int Find(std::string_view Source, std::uint64_t Hash, char* Buffer, int Capacity) const;
@@ -70,8 +70,10 @@ private:
     TSortList FSources{skUnique};
     std::unique_ptr<TStrings> FTexts; // a TTexts
 
-    // Held while the lists are changed, and while another thread reads them.
-    mutable std::mutex FLock;
+    // Held while the lists are changed, and while another thread reads them. The
+    // thread that changes them may read them too: the text of the error that a
+    // change ends in is a resource string itself.
+    mutable std::recursive_mutex FLock;
     int FEditDepth = 0; // main thread
     std::atomic<std::uint64_t> FVersion{1};
     mutable std::atomic<const TSnapshot*> FCurrent{nullptr};

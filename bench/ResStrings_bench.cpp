@@ -1,7 +1,9 @@
-// Loading of resource strings: plain, and with translators of 10,000 entries each,
-// of which the oldest has the text, none has it, or all are off. The translating
-// step alone stands beside a hash map of the same texts.
+// Loading of resource strings: plain, and with one to a hundred translators, of which
+// the oldest has the text, none has it, or all are off. The translating step alone
+// stands beside message catalogs and a hash map of the same texts.
 #include <algorithm>
+#include <clocale>
+#include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <random>
@@ -10,39 +12,45 @@
 #include <vector>
 
 #include <benchmark/benchmark.h>
+#include <boost/locale/generator.hpp>
+#include <boost/locale/message.hpp>
+#include <libintl.h>
 
 #include "Qrt/Qrt.h"
+#include "bench/Catalogs.h"
 #include "framework/rtl/SysUtils.h"
 
 namespace {
 
 enum TWhere { InTheOldest, Nowhere, AllAreOff };
 
-std::vector<std::string> Sources(int Count)
+// Sources and translations.
+std::map<std::string, std::string> Texts(int64_t Count)
 {
-    std::vector<std::string> Result;
-    for (int I = 0; I < Count; ++I)
-        Result.push_back("The file number " + IntToStr(I * 7919) + " cannot be opened.");
+    std::map<std::string, std::string> Result;
+    for (int I = 0; I < Count; ++I) {
+        const std::string Number = IntToStr(I * 7919);
+        Result["The file number " + Number + " cannot be opened."] =
+            "Die Datei mit der Nummer " + Number + " lässt sich nicht öffnen.";
+    }
     return Result;
 }
 
-std::unique_ptr<TResourceTranslator> New(int Count)
+std::unique_ptr<TResourceTranslator> New(std::map<std::string, std::string> Pairs)
 {
+    std::vector<TSortList::TLine> Sources;
+    TStringList Translations;
+    for (const auto& [Source, Translation] : Pairs)
+        Sources.push_back({Source, IntegerObject(Translations.Add(Translation))});
+    TSortList List;
+    List.GiveInOrder(std::move(Sources));
     auto Result = std::make_unique<TResourceTranslator>(nullptr);
-    for (const std::string& Source : Sources(Count))
-        Result->SetTranslation(Source, "Die Datei kann nicht geöffnet werden: " + Source.substr(9, 12));
+    Result->SetResStrings(List);
+    Result->SetTranslations(&Translations);
     return Result;
 }
 
-// So that the processor cannot learn the order of the texts.
-std::vector<std::string> Shuffled(int Count, const char* Front)
-{
-    std::vector<std::string> Result = Sources(Count);
-    for (std::string& Each : Result)
-        Each.replace(0, 3, Front);
-    std::shuffle(Result.begin(), Result.end(), std::mt19937(3));
-    return Result;
-}
+// Loading.
 
 void PlainLoadString(benchmark::State& State)
 {
@@ -62,69 +70,77 @@ BENCHMARK(PlainLoadResString);
 
 void LoadTranslated(benchmark::State& State)
 {
-    const auto Where = static_cast<TWhere>(State.range(1));
+    const auto Where = static_cast<TWhere>(State.range(2));
+    const std::string Text = SListIndexError;
     std::vector<std::unique_ptr<TResourceTranslator>> Translators;
-    for (int I = 0; I < State.range(0); ++I) {
-        Translators.push_back(New(10000));
+    for (int64_t I = 0; I < State.range(0); ++I) {
+        auto Pairs = Texts(State.range(1));
+        if (I == 0 && Where == InTheOldest)
+            Pairs[Text] = "Listenindex überschreitet das Maximum (%d)";
+        Translators.push_back(New(std::move(Pairs)));
         Translators.back()->InternalTranslate(Where != AllAreOff);
     }
-    if (Where == InTheOldest && !Translators.empty())
-        Translators.front()->SetTranslation(std::string(SListIndexError),
-                                            "Listenindex überschreitet das Maximum (%d)");
     StartQrt();
-    for (int I = 0; I < 2000; ++I)
+    for (int64_t I = 0; I < State.range(1); ++I) // until the indexes are made
         benchmark::DoNotOptimize(LoadResString(&SListIndexError));
+    if ((LoadResString(&SListIndexError) != Text) != (Where == InTheOldest))
+        State.SkipWithError("not what was to be measured");
     for (auto _ : State)
         benchmark::DoNotOptimize(LoadResString(&SListIndexError));
     StopQrt();
 }
+// A hundred translators of 100,000 texts each would take 4 GB.
+const std::vector<int64_t> Places = {InTheOldest, Nowhere, AllAreOff};
 BENCHMARK(LoadTranslated)
-    ->ArgNames({"translators", "where"})
-    ->Args({0, Nowhere})
-    ->Args({1, InTheOldest})
-    ->Args({1, Nowhere})
-    ->Args({1, AllAreOff})
-    ->Args({5, InTheOldest})
-    ->Args({5, Nowhere})
-    ->Args({5, AllAreOff});
+    ->ArgNames({"translators", "texts", "where"})
+    ->ArgsProduct({{1, 10}, {100, 1000, 10000, 100000}, Places})
+    ->ArgsProduct({{100}, {100, 1000, 10000}, Places});
 
-// The lookups of both copy the text to look for into a buffer first.
+// The translating step: LookUp(Buffer) replaces the text in Buffer by its translation;
+// false when there is none. A text is put there some time before it is looked up: what
+// reads it at once, in other pieces than those it was written in, waits for the writing.
 template<class TLookUp>
-void LookUpAll(benchmark::State& State, const std::vector<std::string>& Texts, const TLookUp& LookUp)
+void LookUpAll(benchmark::State& State, const TLookUp& LookUp)
 {
-    char Buffer[256];
+    const bool Hits = State.range(1);
+    std::vector<std::string> Sources;
+    for (const auto& [Source, Translation] : Texts(State.range(0)))
+        Sources.push_back(Hits ? Source : "Die" + Source.substr(3));
+    // So that the processor cannot learn the order of the texts.
+    std::shuffle(Sources.begin(), Sources.end(), std::mt19937(3));
+    char Buffers[32][256];
     size_t Next = 0;
-    for (auto _ : State) {
-        const std::string& Text = Texts[Next];
-        std::memcpy(Buffer, Text.c_str(), Text.size() + 1);
-        benchmark::DoNotOptimize(LookUp(Buffer));
-        if (++Next == Texts.size())
-            Next = 0;
+    int64_t Found = 0;
+    while (State.KeepRunningBatch(std::size(Buffers))) {
+        for (char* const Buffer : Buffers) {
+            std::memcpy(Buffer, Sources[Next].c_str(), Sources[Next].size() + 1);
+            if (++Next == Sources.size())
+                Next = 0;
+        }
+        for (char* const Buffer : Buffers)
+            Found += LookUp(Buffer) ? 1 : 0;
+        benchmark::DoNotOptimize(Buffers);
     }
+    if (Found != (Hits ? static_cast<int64_t>(State.iterations()) : 0))
+        State.SkipWithError("not what was to be measured");
 }
 
 void TranslateBuffer(benchmark::State& State)
 {
-    const int Count = static_cast<int>(State.range(0));
-    const auto Translator = New(Count);
-    const auto Texts = Shuffled(Count, State.range(1) ? "The" : "Die");
+    const auto Translator = New(Texts(State.range(0)));
     int Length = 0;
-    const auto LookUp = [&](char* Buffer) { return Translator->TranslateBuffer(Buffer, 256, Length); };
-    for (int I = 0; I < Count; ++I) {
+    for (int64_t I = 0; I < State.range(0); ++I) { // until the index is made
         char Other[] = "other";
-        LookUp(Other); // until the index is made
+        Translator->TranslateBuffer(Other, Length);
     }
-    LookUpAll(State, Texts, LookUp);
+    LookUpAll(State, [&](char* Buffer) { return Translator->TranslateBuffer(Buffer, 256, Length); });
 }
 
 void HashMap(benchmark::State& State)
 {
-    const int Count = static_cast<int>(State.range(0));
-    std::unordered_map<std::string, std::string> Map;
-    for (const std::string& Source : Sources(Count))
-        Map.emplace(Source, "Die Datei kann nicht geöffnet werden: " + Source.substr(9, 12));
-    const auto Texts = Shuffled(Count, State.range(1) ? "The" : "Die");
-    LookUpAll(State, Texts, [&](char* Buffer) {
+    const auto Pairs = Texts(State.range(0));
+    const std::unordered_map<std::string, std::string> Map(Pairs.begin(), Pairs.end());
+    LookUpAll(State, [&](char* Buffer) {
         const auto Place = Map.find(Buffer);
         if (Place == Map.end())
             return false;
@@ -133,9 +149,47 @@ void HashMap(benchmark::State& State)
     });
 }
 
+void Dgettext(benchmark::State& State)
+{
+    const TCatalogFolder Folder;
+    const std::string Domain = "texts" + IntToStr(State.range(0));
+    Folder.Add(Domain, Texts(State.range(0)));
+    setenv("LANGUAGE", "de", 1);
+    std::setlocale(LC_ALL, "C.UTF-8");
+    bindtextdomain(Domain.c_str(), Folder.Path().c_str());
+    LookUpAll(State, [&](char* Buffer) {
+        const char* const Translation = dgettext(Domain.c_str(), Buffer);
+        if (Translation == Buffer)
+            return false;
+        std::strcpy(Buffer, Translation);
+        return true;
+    });
+}
+
+void BoostLocale(benchmark::State& State)
+{
+    const TCatalogFolder Folder;
+    Folder.Add("texts", Texts(State.range(0)));
+    boost::locale::generator Generator;
+    Generator.add_messages_path(Folder.Path());
+    Generator.add_messages_domain("texts");
+    const std::locale Locale = Generator("de_DE.UTF-8");
+    const auto& Catalog = std::use_facet<boost::locale::message_format<char>>(Locale);
+    const int Domain = Catalog.domain("texts");
+    LookUpAll(State, [&](char* Buffer) {
+        const char* const Translation = Catalog.get(Domain, nullptr, Buffer);
+        if (!Translation)
+            return false;
+        std::strcpy(Buffer, Translation);
+        return true;
+    });
+}
+
 const std::vector<std::vector<int64_t>> Sizes = {{100, 1000, 10000, 100000}, {0, 1}};
 BENCHMARK(TranslateBuffer)->ArgNames({"texts", "hit"})->ArgsProduct(Sizes);
 BENCHMARK(HashMap)->ArgNames({"texts", "hit"})->ArgsProduct(Sizes);
+BENCHMARK(Dgettext)->ArgNames({"texts", "hit"})->ArgsProduct(Sizes);
+BENCHMARK(BoostLocale)->ArgNames({"texts", "hit"})->ArgsProduct(Sizes);
 
 } // namespace
 

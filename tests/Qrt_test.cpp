@@ -124,6 +124,28 @@ TEST_F(Qrt, SlotIsRedirectedWhileATranslatorRuns)
     EXPECT_EQ(LoadStringSlot(), Before) << "nothing to restore";
 }
 
+// Somebody who redirected the slot as well, and goes on calling what was in it.
+TLoadStringA Earlier = nullptr;
+
+int WINAPI LoadThroughEarlier(HINSTANCE Instance, UINT Identifier, LPSTR Buffer, int Capacity)
+{
+    return Earlier(Instance, Identifier, Buffer, Capacity);
+}
+
+TEST_F(Qrt, SlotIsSharedWithOthers)
+{
+    const TLoadStringA Before = LoadStringSlot();
+    auto Translator = New({{"&Yes", "ja"}});
+    Earlier = LoadStringSlot();
+    SetLoadStringSlot(LoadThroughEarlier);
+    EXPECT_EQ(LoadDirectly(SMsgDlgYes), "ja");
+    Translator.reset();
+    EXPECT_EQ(LoadStringSlot(), Before);
+    SetLoadStringSlot(LoadThroughEarlier);
+    EXPECT_EQ(LoadDirectly(SMsgDlgYes), "&Yes") << "though the translator is gone";
+    SetLoadStringSlot(Before);
+}
+
 TEST_F(Qrt, EntryIsLeftAloneInTheDevelopmentEnvironment)
 {
     StopQrt();
@@ -144,10 +166,11 @@ TEST_F(Qrt, EntryIsLeftAloneInTheDevelopmentEnvironment)
 TEST_F(Qrt, NeverWritesPastTheBuffer)
 {
     const std::string Long = std::string(5000, 'x') + "ä";
-    const auto Translator = New({{"&Yes", "Jäää"}, {"&No", Long}});
+    const auto Translator = New({{"&Yes", "Jäää"}, {"&No", Long}, {"&", "ä"}});
     EXPECT_EQ(LoadDirectly(SMsgDlgYes, 8), "Jäää");
     EXPECT_EQ(LoadDirectly(SMsgDlgYes, 7), "Jää") << "not within a character";
     EXPECT_EQ(LoadDirectly(SMsgDlgNo, 6), "xxxxx");
+    EXPECT_EQ(LoadDirectly(SMsgDlgYes, 2), "&") << "no room for the one character";
     EXPECT_EQ(std::string(SMsgDlgNo), Long.substr(0, 4095));
     char Buffer[4] = "&No";
     int Length = 3;
@@ -156,6 +179,9 @@ TEST_F(Qrt, NeverWritesPastTheBuffer)
     EXPECT_EQ(Length, 3);
     EXPECT_FALSE(Translator->TranslateBuffer(Buffer, sizeof(Buffer), Length));
     EXPECT_STREQ(Buffer, "xxx");
+    char Full[] = "&No";
+    EXPECT_FALSE(Translator->TranslateBuffer(Full, 0, Length));
+    EXPECT_STREQ(Full, "&No");
 }
 
 TEST_F(Qrt, KeepsTheTable)
@@ -168,6 +194,18 @@ TEST_F(Qrt, KeepsTheTable)
     EXPECT_TRUE(Translator->RemoveTranslation("b"));
     EXPECT_EQ(Translator->Translations()->Text(), "A\r\nC\r\n");
     EXPECT_EQ(ObjectInteger(Translator->ResStrings().Objects(1)), 1);
+}
+
+// The error comes up while the table is being changed.
+TEST_F(Qrt, ErrorsOfTheTableAreTranslatedToo)
+{
+    const auto Translator = New({{std::string(SListIndexError), "Kein Eintrag %d"}});
+    try {
+        Translator->Translations()->Put(7, "x");
+        ADD_FAILURE() << "no error";
+    } catch (const EStringListError& Error) {
+        EXPECT_EQ(Error.Message(), "Kein Eintrag 7");
+    }
 }
 
 // Whatever was edited how, lookups see it at once: few of them, which search the
@@ -349,6 +387,10 @@ TEST_F(Qrt, LoadsOnAnyThread)
         });
     for (int Round = 0; Round < 300 || Loads < 1000; ++Round) {
         auto First = New({{"&Yes", "Ja"}});
+        for (int I = 0; I < 20; ++I) { // each makes a new index, and the old one goes
+            First->SetTranslation("&Yes", I % 2 == 0 ? "Ja, sehr gerne" : "Ja");
+            EXPECT_EQ(std::string(SMsgDlgYes), I % 2 == 0 ? "Ja, sehr gerne" : "Ja");
+        }
         const auto Second = New({{"&Yes", "Jo"}, {"&No", "Nö"}});
         for (int I = 0; I < 20; ++I)
             First->SetTranslation("Text " + IntToStr(I), "T");
