@@ -152,7 +152,8 @@ void TCommonDialogTranslator::TranslateDialog(HWND Dialog)
         return;
     const TLife Life(*this);
     bool Skip = false;
-    OnTranslate(this, Skip);
+    if (OnTranslate)
+        OnTranslate(this, Skip);
     if (Skip || Life.IsOver())
         return;
     for (const TDialogLine& Line : Lines) {
@@ -160,7 +161,8 @@ void TCommonDialogTranslator::TranslateDialog(HWND Dialog)
         if (!Value.empty() || FTranslateEmpty)
             SetDialogProp(Dialog, Line.Name, Value, Fonts());
     }
-    OnTranslated(this);
+    if (OnTranslated)
+        OnTranslated(this);
 }
 
 void TCommonDialogTranslator::GetProps(HWND Dialog)

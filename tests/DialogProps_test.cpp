@@ -26,17 +26,15 @@ struct DialogProps : testing::Test {
         struct {
             DLGTEMPLATE Template;
             WORD MenuClassTitle[3];
+            WORD PointSize;
+            WCHAR Face[12];
         } Data{};
-        Data.Template.style = WS_POPUP | WS_CAPTION | WS_VISIBLE;
+        Data.Template.style = WS_POPUP | WS_CAPTION | WS_VISIBLE | DS_SETFONT;
+        Data.PointSize = 8;
+        std::copy_n(u"Courier New", 12, Data.Face);
         Data.Template.cx = Data.Template.cy = 100;
         Dialog = CreateDialogIndirectParamA(nullptr, &Data.Template, nullptr, DialogProc, 0);
         MoveWindow(Dialog, 40, 50, 300, 200, TRUE);
-        LOGFONTA Font{};
-        Font.lfHeight = -11;
-        Font.lfCharSet = ANSI_CHARSET;
-        std::copy_n("Courier New", 12, Font.lfFaceName);
-        Own = CreateFontIndirectA(&Font);
-        SendMessageA(Dialog, WM_SETFONT, reinterpret_cast<WPARAM>(Own), 0);
         Open = Add(Dialog, "Button", "&Öppna", 1, 10);
         Label = Add(Dialog, "Static", "It's", 65535, 40);
         Edit = Add(Dialog, "Edit", "", 1090, 70);
@@ -44,11 +42,7 @@ struct DialogProps : testing::Test {
         More = Add(Dialog, "Button", "More", 1024, 130);
         Inner = Add(More, "Button", "Inner", 7, 2);
     }
-    ~DialogProps() override
-    {
-        DestroyWindow(Dialog);
-        DeleteObject(Own);
-    }
+    ~DialogProps() override { DestroyWindow(Dialog); }
 
     static HWND Add(HWND Parent, const char* Class, const char* Text, int Id, int Top)
     {
@@ -72,7 +66,6 @@ struct DialogProps : testing::Test {
     }
 
     TDialogFonts Fonts;
-    HFONT Own = nullptr;
     HWND Dialog = nullptr;
     HWND Open = nullptr, Label = nullptr, Edit = nullptr, Last = nullptr, More = nullptr, Inner = nullptr;
 };
@@ -87,7 +80,7 @@ std::string SizeLines(const std::string& Id, int Top)
 
 TEST_F(DialogProps, ListsEveryControl)
 {
-    const std::string Front = "Font.Name='Courier New'\nFont.Charset=0\nWidth=301\nHeight=201\n";
+    const std::string Front = "Font.Name='Courier New'\nFont.Charset=1\nWidth=301\nHeight=201\n";
     const std::string Controls = "Caption[1]='&Öppna'\n" + SizeLines("1", 10) + "Caption[-2]='It's'\n" +
                                  SizeLines("-2", 40) + SizeLines("1090", 70) + "Caption[-4]='Last'\n" +
                                  SizeLines("-4", 100) + "Caption[1024]='More'\n" + SizeLines("1024", 130);

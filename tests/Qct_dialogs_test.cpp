@@ -1,5 +1,6 @@
 // Translation of the dialogs themselves, as somebody who uses them sees it.
 #include <algorithm>
+#include <cstdlib>
 #include <fstream>
 #include <map>
 #include <set>
@@ -131,18 +132,24 @@ std::string Recorded(const std::string& ClassName)
     const size_t Start = All.find(Head);
     if (Start == All.npos)
         return "not recorded";
-    return All.substr(Start + Head.size(), All.find("\n[", Start) + 1 - Start - Head.size());
+    const size_t End = std::min(All.find("\n[", Start), All.size() - 1) + 1;
+    return All.substr(Start + Head.size(), End - Start - Head.size());
 }
 
 } // namespace
 
-// The names and texts are those of the real dialogs.
+// The names and texts are those of the real dialogs. With RECORD=FILE in the
+// environment a Windows program writes them into that file.
 TEST_F(TQctDialogs, ScansListTheDialogAndCloseIt)
 {
+    const char* const Record = std::getenv("RECORD");
     for (const TMetaClass* const Class : Kinds) {
         SCOPED_TRACE(Class->ClassName());
         TCommonDialog& Dialog = New(*Class);
         const auto Lines = Scan(Dialog);
+        if (Record)
+            std::ofstream(Record, std::ios::app | std::ios::binary) << "[" << Class->ClassName() << "]\n"
+                                                                    << Comparable(Lines);
         EXPECT_TRUE(Translator->Translate());
         EXPECT_EQ(Comparable(Lines), Recorded(Class->ClassName()));
         TStringList Now;

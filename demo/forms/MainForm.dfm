@@ -411,6 +411,12 @@ object MainForm: TMainForm
         Hint = 'See what errors and message boxes say'
         OnClick = ItemMessagesClick
       end
+      object ItemDialogs: TMenuItem
+        Caption = '&Dialogs of the system...'
+        GroupIndex = 1
+        Hint = 'See the dialogs for files, fonts, colors, printing and finding'
+        OnClick = ItemDialogsClick
+      end
     end
     object MnuLanguage: TMenuItem
       Caption = '&Language'
