@@ -326,22 +326,25 @@ TEST_F(TDialogs, AreModal)
     Other->Show();
     Form->SetFocus();
     Application->ProcessMessages();
-    auto& Dialog = Make<TColorDialog>();
-    ExecuteWith(Dialog, {[&](HWND Window) {
-                    EXPECT_FALSE(IsWindowEnabled(Form->Handle()));
-                    EXPECT_FALSE(IsWindowEnabled(Other->Handle()));
-                    EXPECT_EQ(Application->ModalLevel(), 1);
-                    EXPECT_THROW(Dialog.Execute(), EInvalidOperation);
-                    TRect Place{};
-                    GetWindowRect(Window, &Place);
-                    EXPECT_NEAR(Place.left + Place.right, 2 * Form->Left() + Form->Width(), 2);
-                    EXPECT_NEAR(Place.top + Place.bottom, 2 * Form->Top() + Form->Height(), 2);
-                    Press(Window, IDCANCEL);
-                }});
-    EXPECT_TRUE(IsWindowEnabled(Form->Handle()));
-    EXPECT_TRUE(IsWindowEnabled(Other->Handle()));
-    EXPECT_EQ(Application->ModalLevel(), 0);
-    EXPECT_EQ(GetFocus(), Edit->Handle());
+    for (TCommonDialog* const Dialog : std::initializer_list<TCommonDialog*>{
+             &Make<TColorDialog>(), &Make<TFontDialog>(), &Make<TOpenDialog>()}) {
+        SCOPED_TRACE(Dialog->ClassName());
+        ExecuteWith(*Dialog, {[&](HWND Window) {
+            EXPECT_FALSE(IsWindowEnabled(Form->Handle()));
+            EXPECT_FALSE(IsWindowEnabled(Other->Handle()));
+            EXPECT_EQ(Application->ModalLevel(), 1);
+            EXPECT_THROW(Dialog->Execute(), EInvalidOperation);
+            TRect Place{};
+            GetWindowRect(Window, &Place);
+            EXPECT_NEAR(Place.left + Place.right, 2 * Form->Left() + Form->Width(), 2);
+            EXPECT_NEAR(Place.top + Place.bottom, 2 * Form->Top() + Form->Height(), 2);
+            Press(Window, IDCANCEL);
+        }});
+        EXPECT_TRUE(IsWindowEnabled(Form->Handle()));
+        EXPECT_TRUE(IsWindowEnabled(Other->Handle()));
+        EXPECT_EQ(Application->ModalLevel(), 0);
+        EXPECT_EQ(GetFocus(), Edit->Handle());
+    }
 }
 
 // As the system's dialogs for files tell of their help button; not all systems do.

@@ -313,6 +313,14 @@ TEST_F(TDialogs, FindDialogsCloseWithTheirComponentOrForm)
     delete Second;
     EXPECT_FALSE(IsWindow(Window));
 
+    auto& Again = Make<TFindDialog>();
+    Again.OnClose = {this, &TDialogs::Reopen};
+    Again.Execute();
+    Press(Again.Handle(), IDCANCEL);
+    Application->ProcessMessages();
+    EXPECT_TRUE(IsWindowVisible(Again.Handle())) << "shown by the handler of OnClose";
+    EXPECT_EQ(Application->DialogHandle, Again.Handle());
+
     auto* const Third = new TReplaceDialog(nullptr);
     Third->Execute();
     DestroyForm(nullptr);

@@ -179,6 +179,12 @@ struct TDialogs : TObject, testing::Test {
     }
     void DestroyApplied(TObject* Sender, HWND) { delete Sender; }
     void DestroyForm(TObject*) { delete std::exchange(Form, nullptr); }
+    void Reopen(TObject* Sender)
+    {
+        auto& Dialog = *dynamic_cast<TFindDialog*>(Sender);
+        Dialog.OnClose.Clear();
+        EXPECT_TRUE(Dialog.Execute());
+    }
     void CloseFind(TObject* Sender) { dynamic_cast<TFindDialog*>(Sender)->CloseDialog(); }
 
     void Note(const std::string& Event) { Events.push_back(Event); }

@@ -255,8 +255,7 @@ bool TOpenDialog::Notified(const OFNOTIFYA& Notification, TMessage& Msg)
         DoTypeChange();
         return true;
     case CDN_HELP:
-        Help();
-        return true;
+        return Help();
     default:
         return false;
     }
