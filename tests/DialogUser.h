@@ -122,13 +122,17 @@ struct TDialogs : TObject, testing::Test {
         Application->ProcessMessages();
     }
 
-    template<class T>
-    T& Make()
+    TCommonDialog& Make(const TMetaClass& Class)
     {
-        auto* const Result = new T(Form);
+        auto* const Result = dynamic_cast<TCommonDialog*>(Class.Create(Form));
         Result->OnShow = {this, &TDialogs::Shown};
         Result->OnClose = {this, &TDialogs::Closed};
         return *Result;
+    }
+    template<class T>
+    T& Make()
+    {
+        return dynamic_cast<T&>(Make(T::MetaClass()));
     }
 
     void Shown(TObject*) { Note("show"); }
