@@ -232,11 +232,11 @@ bool TFileDialog::Command(int Id, int Code)
         TellOwner(HELPMSGSTRINGA, reinterpret_cast<WPARAM>(Window()), reinterpret_cast<LPARAM>(&FData));
         return true;
     case cmb1:
-        if (Code == CBN_SELCHANGE)
+        if (Code == CBN_SELENDOK)
             ChangeFilter();
         return true;
     case cmb2:
-        if (Code == CBN_SELCHANGE)
+        if (Code == CBN_SELENDOK)
             PlaceChosen();
         return true;
     case UpFolder:
