@@ -109,7 +109,7 @@ void TFileDialog::ChangeFilter()
 void TFileDialog::MakeFolder()
 {
     std::string Path = ResolvePath(FFolder, "New Folder");
-    for (int Number = 2; FileExists(Path); ++Number)
+    for (int Number = 2; PathExists(Path); ++Number)
         Path = ResolvePath(FFolder, "New Folder (" + std::to_string(Number) + ")");
     std::error_code Error;
     if (!fs::create_directory(Path, Error))
@@ -190,7 +190,7 @@ void TFileDialog::Accept()
 std::string TFileDialog::WithExtension(const std::string& Path) const
 {
     const bool Lacks = NameOfPath(Path).find('.') == std::string::npos;
-    return Lacks && !FExtension.empty() && !(FileExists(Path) && !FSaves) ? Path + "." + FExtension : Path;
+    return Lacks && !FExtension.empty() && !(PathExists(Path) && !FSaves) ? Path + "." + FExtension : Path;
 }
 
 bool TFileDialog::Ask(const std::string& Text) const
@@ -202,7 +202,7 @@ bool TFileDialog::Ask(const std::string& Text) const
 
 bool TFileDialog::MayChoose(const std::string& Path) const
 {
-    const bool Exists = FileExists(Path);
+    const bool Exists = PathExists(Path);
     if (Has(OFN_PATHMUSTEXIST | OFN_FILEMUSTEXIST) && !FolderExists(FolderOfPath(Path)))
         return Tell("Path does not exist.\nPlease verify that the correct path was given."), false;
     if (Has(OFN_FILEMUSTEXIST) && !FSaves && !Exists && !Has(OFN_CREATEPROMPT))
