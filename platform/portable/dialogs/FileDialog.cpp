@@ -296,6 +296,14 @@ LRESULT TFileDialog::Notify(UINT Code) const
     return SendMessageA(FHookWindow, WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&Data));
 }
 
+bool TFileDialog::Refused() const
+{
+    if (Has(OFN_EXPLORER))
+        return Notify(CDN_FILEOK) != 0;
+    static const UINT FileOk = RegisterWindowMessageA(FILEOKSTRINGA);
+    return AskHook(FileOk, 0, reinterpret_cast<LPARAM>(&FData)) != 0;
+}
+
 INT_PTR TFileDialog::Answer(LRESULT Result) const
 {
     SetWindowLongPtrA(Window(), DWLP_MSGRESULT, Result);

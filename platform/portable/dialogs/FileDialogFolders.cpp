@@ -178,7 +178,7 @@ void TFileDialog::Accept()
     }
     if (!Store(Paths))
         return End(false);
-    if (Notify(CDN_FILEOK) || !Alive())
+    if (Refused() || !Alive())
         return;
     if (!Has(OFN_NOCHANGEDIR)) {
         std::error_code Ignored; // the folder of a file to be made may not be there yet
