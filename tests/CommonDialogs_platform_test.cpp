@@ -1,5 +1,4 @@
-// The standard dialogs of the system: what they are made of, the order of their
-// messages, and what they do for a user who types and presses buttons.
+// What the standard dialogs of the system do for a user who types and presses buttons.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -7,124 +6,13 @@
 #include <cstring>
 #include <fstream>
 #include <functional>
-#include <map>
 #include <set>
-#include <sstream>
 
 #include "tests/DialogListing.h"
 
 namespace {
 
 namespace fs = std::filesystem;
-
-using TLines = std::vector<std::string>;
-
-// The recorded lines of each dialog, without the words in front of them.
-std::map<std::string, TDialogListing> ReadListings()
-{
-    std::ifstream Input(TEST_DATA "/dialogs.txt", std::ios::binary);
-    std::map<std::string, TDialogListing> Listings;
-    TDialogListing* Current = nullptr;
-    for (std::string Line; std::getline(Input, Line);) {
-        if (Line.starts_with('['))
-            Current = &Listings[Line.substr(1, Line.size() - 2)];
-        else if (Line.starts_with("message "))
-            Current->Messages.push_back(Line.substr(8));
-        else
-            Current->Windows.push_back(Line);
-    }
-    return Listings;
-}
-
-// Parts of a line that follow from fonts and scroll-bar sizes in pixels, or that tell
-// of the machine, are replaced on both sides by a word that says so.
-std::string WithoutMachine(const std::string& Dialog, const std::string& Line)
-{
-    struct TDifference {
-        const char *Dialog, *Start; // "" stands for all dialogs
-        int Word;                   // from 0; the text is the last one
-        const char* Reason;
-    };
-    static const TDifference Differences[] = {
-        {"", "child 1148 ComboBoxEx32", 8, "as high as a line of the font"},
-        {"", "child 1139 ComboBox", 8, "as high as a line of the font"},
-        {"", "child 1140 ComboBox", 8, "as high as a line of the font"},
-        {"", "child 1136 ComboBox", 8, "as high as a line of the font"},
-        {"", "child 1137 ComboBox", 8, "as high as a line of the font"},
-        {"print-setup", "child 1138 ComboBox", 8, "as high as a line of the font"},
-        {"", "child -1 ScrollBar", 6, "size of a scroll bar"},
-        {"", "child -1 ScrollBar", 5, "size of a scroll bar"},
-        {"", "child -1 ScrollBar", 7, "size of a scroll bar"},
-        {"", "child -1 ScrollBar", 8, "size of a scroll bar"},
-        {"", "child 9999 msctls_updown32", 5, "width of a scroll bar"},
-        {"print", "child 1154 Edit", 7, "beside one as wide as a scroll bar"},
-        {"print", "child 1139 ComboBox", 9, "name of the printer"},
-        {"print-setup", "child 1136 ComboBox", 9, "name of the printer"},
-        {"", "child 1098 Static", 9, "kind of the printer"},
-        {"", "child 1101 Static", 9, "place of the printer"},
-        {"", "child 1100 Static", 9, "comment on the printer"},
-        {"print-setup", "child 1025 Button", 3, "a printer without further properties disables it"},
-        {"print-setup", "child 1137 ComboBox", 9, "paper that the printer has"},
-        {"print-setup", "child 1138 ComboBox", 9, "paper source that the printer has"}};
-    TLines Words;
-    const std::size_t Quote = Line.find('"');
-    std::istringstream Input(Line.substr(0, Quote));
-    for (std::string Word; Input >> Word;)
-        Words.push_back(Word);
-    Words.push_back(Quote == Line.npos ? "" : Line.substr(Quote));
-    std::string Result;
-    for (std::size_t Index = 0; Index < Words.size(); ++Index) {
-        for (const TDifference& Each : Differences)
-            if ((!*Each.Dialog || Dialog == Each.Dialog) && Line.starts_with(Each.Start) &&
-                static_cast<int>(Index) == Each.Word)
-                Words[Index] = std::string("<") + Each.Reason + ">";
-        Result += (Index ? " " : "") + Words[Index];
-    }
-    return Result;
-}
-
-TLines Comparable(const std::string& Dialog, const TLines& Lines)
-{
-    TLines Result;
-    for (const std::string& Line : Lines)
-        Result.push_back(WithoutMachine(Dialog, Line));
-    return Result;
-}
-
-// The messages that programs rely on, each once in a row. What a control tells the
-// dialog and when the background is painted depends on the system.
-TLines Milestones(const std::string& Dialog, const TLines& Messages)
-{
-    static const std::set<std::string> Names = {
-        "WM_INITDIALOG", "WM_SHOWWINDOW", "WM_WINDOWPOSCHANGED", "WM_ACTIVATE",     "WM_NCACTIVATE",
-        "WM_KILLFOCUS",  "WM_ENTERIDLE",  "WM_ENABLE",           "WM_CLOSE",        "WM_DESTROY",
-        "FINDMSGSTRING", "CDN_INITDONE",  "CDN_SELCHANGE",       "CDN_FOLDERCHANGE"};
-    TLines Result;
-    for (const std::string& Message : Messages) {
-        std::istringstream Input(Message);
-        std::string Receiver, Name;
-        Input >> Receiver >> Name;
-        // A closed colour dialog moves its focus on through the numbers that it hides.
-        const bool Wandering = Dialog == "color" && Name == "WM_KILLFOCUS" && Receiver != "owner";
-        const bool Cancels = Message.find(" WM_COMMAND 2/0 ") != Message.npos;
-        if ((Cancels || Names.count(Name)) && !Wandering && (Result.empty() || Result.back() != Message))
-            Result.push_back(Message);
-    }
-    return Result;
-}
-
-// Without a printer the system shows a message box in place of the print dialogs.
-bool HasPrinter()
-{
-    PRINTDLGA Data{};
-    Data.lStructSize = sizeof Data;
-    Data.Flags = PD_RETURNDEFAULT;
-    if (!PrintDlgA(&Data))
-        return false;
-    GlobalFree(Data.hDevMode);
-    GlobalFree(Data.hDevNames);
-    return true;
-}
 
 // A program's window whose dialogs are used by a script: each step runs when the
 // dialog, or a message box of the dialog, waits for its user.
@@ -214,20 +102,6 @@ struct CommonDialogs : testing::Test {
     static CommonDialogs* Self;
 };
 CommonDialogs* CommonDialogs::Self = nullptr;
-
-TEST_F(CommonDialogs, AreMadeOfTheRecordedWindowsAndMessages)
-{
-    ASSERT_TRUE(HasPrinter()) << "run this test under scripts/with-printer";
-    auto Recorded = ReadListings();
-    ASSERT_EQ(Recorded.size(), DialogCases().size());
-    for (const TDialogCase& Case : DialogCases()) {
-        SCOPED_TRACE(Case.Name);
-        const TDialogListing Listing = ListDialog(Case);
-        const TDialogListing& Wanted = Recorded[Case.Name];
-        EXPECT_EQ(Comparable(Case.Name, Listing.Windows), Comparable(Case.Name, Wanted.Windows));
-        EXPECT_EQ(Milestones(Case.Name, Listing.Messages), Milestones(Case.Name, Wanted.Messages));
-    }
-}
 
 struct TFileScene {
     char File[400] = "";

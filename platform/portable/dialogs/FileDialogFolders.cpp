@@ -40,7 +40,7 @@ void TFileDialog::StartFolder()
     FFolder = FolderExists(Wanted) ? Wanted : Here;
     const std::string File = FData.lpstrFile ? FData.lpstrFile : "";
     if (File.find('/') != File.npos) {
-        const std::string Folder = FolderOfPath(ResolvePath(Here, File));
+        const std::string Folder = ResolvePath(Here, FolderOfPath(File));
         if (FolderExists(Folder))
             FFolder = Folder;
     }
@@ -173,6 +173,8 @@ void TFileDialog::Accept()
     std::vector<std::string> Paths;
     for (const std::string& Name : Names) {
         Paths.push_back(WithExtension(ResolvePath(FFolder, Name)));
+        if (FolderOfPath(Paths.back()) != FolderOfPath(Paths.front()))
+            return Tell("The files must be in one folder.");
         if (!Has(OFN_NOVALIDATE) && !MayChoose(Paths.back()))
             return;
     }
@@ -203,6 +205,8 @@ bool TFileDialog::Ask(const std::string& Text) const
 bool TFileDialog::MayChoose(const std::string& Path) const
 {
     const bool Exists = PathExists(Path);
+    if (FolderExists(Path))
+        return Tell("This is a folder, not a file."), false;
     if (Has(OFN_PATHMUSTEXIST | OFN_FILEMUSTEXIST) && !FolderExists(FolderOfPath(Path)))
         return Tell("Path does not exist.\nPlease verify that the correct path was given."), false;
     if (Has(OFN_FILEMUSTEXIST) && !FSaves && !Exists && !Has(OFN_CREATEPROMPT))
