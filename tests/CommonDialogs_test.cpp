@@ -52,68 +52,37 @@ std::deque<TDialogUser::TStep> Choosing(const std::string& Name)
 TEST_F(TDialogs, OptionsReachTheControls)
 {
     const struct {
-        const char* Name;
-        std::function<TCommonDialog&()> Make;
+        const TMetaClass& Class;
+        uint64_t Options;
         std::map<int, std::string> States;
     } Cases[] = {
-        {"open",
-         [&]() -> TCommonDialog& { return Make<TOpenDialog>(); },
+        {TOpenDialog::MetaClass(),
+         TOpenOptions{ofHideReadOnly}.Bits(),
          {{chx1, "hidden"}, {pshHelp, "hidden"}, {IDOK, ""}}},
-        {"open with more",
-         [&]() -> TCommonDialog& {
-             auto& Dialog = Make<TOpenDialog>();
-             Dialog.SetOptions({ofShowHelp, ofReadOnly});
-             return Dialog;
-         },
-         {{chx1, ""}, {pshHelp, ""}}},
-        {"color",
-         [&]() -> TCommonDialog& { return Make<TColorDialog>(); },
-         {{MixButton, ""}, {pshHelp, "hidden"}, {RedBox, "hidden"}}},
-        {"color, open",
-         [&]() -> TCommonDialog& {
-             auto& Dialog = Make<TColorDialog>();
-             Dialog.SetOptions({cdFullOpen, cdShowHelp});
-             return Dialog;
-         },
+        {TOpenDialog::MetaClass(), TOpenOptions{ofShowHelp}.Bits(), {{chx1, ""}, {pshHelp, ""}}},
+        {TColorDialog::MetaClass(), 0, {{MixButton, ""}, {pshHelp, "hidden"}, {RedBox, "hidden"}}},
+        {TColorDialog::MetaClass(),
+         TColorDialogOptions{cdFullOpen, cdShowHelp}.Bits(),
          {{MixButton, "disabled"}, {pshHelp, ""}, {RedBox, ""}}},
-        {"color, never open",
-         [&]() -> TCommonDialog& {
-             auto& Dialog = Make<TColorDialog>();
-             Dialog.SetOptions({cdPreventFullOpen});
-             return Dialog;
-         },
+        {TColorDialog::MetaClass(),
+         TColorDialogOptions{cdPreventFullOpen}.Bits(),
          {{MixButton, "disabled"}, {RedBox, "hidden"}}},
-        {"font",
-         [&]() -> TCommonDialog& { return Make<TFontDialog>(); },
+        {TFontDialog::MetaClass(),
+         TFontDialogOptions{fdEffects}.Bits(),
          {{chx1, ""}, {psh3, "hidden"}, {pshHelp, "hidden"}}},
-        {"font with more",
-         [&]() -> TCommonDialog& {
-             auto& Dialog = Make<TFontDialog>();
-             Dialog.SetOptions({fdApplyButton, fdShowHelp});
-             return Dialog;
-         },
+        {TFontDialog::MetaClass(),
+         TFontDialogOptions{fdApplyButton, fdShowHelp}.Bits(),
          {{chx1, "hidden"}, {psh3, ""}, {pshHelp, ""}}},
-        {"find",
-         [&]() -> TCommonDialog& { return Make<TFindDialog>(); },
-         {{chx1, ""}, {chx2, ""}, {rad1, ""}, {pshHelp, "hidden"}}},
-        {"find with less",
-         [&]() -> TCommonDialog& {
-             auto& Dialog = Make<TFindDialog>();
-             Dialog.SetOptions({frHideMatchCase, frDisableWholeWord, frDisableUpDown, frShowHelp});
-             return Dialog;
-         },
+        {TFindDialog::MetaClass(), 0, {{chx1, ""}, {chx2, ""}, {rad1, ""}, {pshHelp, "hidden"}}},
+        {TFindDialog::MetaClass(),
+         TFindOptions{frHideMatchCase, frDisableWholeWord, frDisableUpDown, frShowHelp}.Bits(),
          {{chx1, "disabled"}, {chx2, "hidden"}, {rad1, "disabled"}, {pshHelp, ""}}},
-        {"replace",
-         [&]() -> TCommonDialog& {
-             auto& Dialog = Make<TReplaceDialog>();
-             Dialog.SetFindText("x");
-             return Dialog;
-         },
-         {{chx1, ""}, {edt2, ""}, {psh1, ""}, {psh2, ""}}},
+        {TReplaceDialog::MetaClass(), 0, {{chx1, ""}, {edt2, ""}, {psh1, ""}, {psh2, ""}}},
     };
     for (const auto& Case : Cases) {
-        SCOPED_TRACE(Case.Name);
-        TCommonDialog& Dialog = Case.Make();
+        SCOPED_TRACE(Case.Class.ClassName() + " " + std::to_string(Case.Options));
+        TCommonDialog& Dialog = Make(Case.Class);
+        SetOrdProp(Dialog, *GetPropInfo(Dialog, "Options"), static_cast<int64_t>(Case.Options));
         std::map<int, std::string> Seen;
         const auto Look = [&](HWND Window) {
             for (const auto& [Id, State] : Case.States)
@@ -121,18 +90,17 @@ TEST_F(TDialogs, OptionsReachTheControls)
             Press(Window, IDCANCEL);
         };
         EXPECT_EQ(Dialog.Handle(), nullptr);
-        EXPECT_EQ(ExecuteWith(Dialog, dynamic_cast<TFindDialog*>(&Dialog)
-                                          ? std::deque<TDialogUser::TStep>{}
-                                          : std::deque<TDialogUser::TStep>{Look}),
-                  dynamic_cast<TFindDialog*>(&Dialog) != nullptr);
-        if (dynamic_cast<TFindDialog*>(&Dialog)) {
-            Look(Dialog.Handle());
+        if (auto* const Find = dynamic_cast<TFindDialog*>(&Dialog)) {
+            Find->SetFindText("x");
+            EXPECT_TRUE(Find->Execute());
+            Look(Find->Handle());
             Application->ProcessMessages();
+        } else {
+            EXPECT_FALSE(ExecuteWith(Dialog, {Look}));
         }
         EXPECT_EQ(Seen, Case.States);
         EXPECT_EQ(Dialog.Handle(), nullptr);
         EXPECT_EQ(TakeEvents(), (TNames{"show", "close"}));
-        delete &Dialog;
     }
 }
 
@@ -187,7 +155,8 @@ TEST_F(TDialogs, FilesAreChosen)
     Dialog.OnTypeChange.Clear();
     TakeEvents();
     EXPECT_TRUE(ExecuteWith(Dialog, {[](HWND Window) {
-                                SetDlgItemTextA(Window, edt1, "a.txt");
+                                for (const int NameBox : {edt1, FileNameBox}) // there is one or the other
+                                    SetDlgItemTextA(Window, NameBox, "a.txt");
                                 Press(Window, IDOK);
                             }}));
     EXPECT_EQ(TakeEvents(), (TNames{"show", "can close a.txt", "close"}));
@@ -326,22 +295,25 @@ TEST_F(TDialogs, AreModal)
     Other->Show();
     Form->SetFocus();
     Application->ProcessMessages();
-    auto& Dialog = Make<TColorDialog>();
-    ExecuteWith(Dialog, {[&](HWND Window) {
-                    EXPECT_FALSE(IsWindowEnabled(Form->Handle()));
-                    EXPECT_FALSE(IsWindowEnabled(Other->Handle()));
-                    EXPECT_EQ(Application->ModalLevel(), 1);
-                    EXPECT_THROW(Dialog.Execute(), EInvalidOperation);
-                    TRect Place{};
-                    GetWindowRect(Window, &Place);
-                    EXPECT_NEAR(Place.left + Place.right, 2 * Form->Left() + Form->Width(), 2);
-                    EXPECT_NEAR(Place.top + Place.bottom, 2 * Form->Top() + Form->Height(), 2);
-                    Press(Window, IDCANCEL);
-                }});
-    EXPECT_TRUE(IsWindowEnabled(Form->Handle()));
-    EXPECT_TRUE(IsWindowEnabled(Other->Handle()));
-    EXPECT_EQ(Application->ModalLevel(), 0);
-    EXPECT_EQ(GetFocus(), Edit->Handle());
+    for (TCommonDialog* const Dialog : std::initializer_list<TCommonDialog*>{
+             &Make<TColorDialog>(), &Make<TFontDialog>(), &Make<TOpenDialog>()}) {
+        SCOPED_TRACE(Dialog->ClassName());
+        ExecuteWith(*Dialog, {[&](HWND Window) {
+            EXPECT_FALSE(IsWindowEnabled(Form->Handle()));
+            EXPECT_FALSE(IsWindowEnabled(Other->Handle()));
+            EXPECT_EQ(Application->ModalLevel(), 1);
+            EXPECT_THROW(Dialog->Execute(), EInvalidOperation);
+            TRect Place{};
+            GetWindowRect(Window, &Place);
+            EXPECT_NEAR(Place.left + Place.right, 2 * Form->Left() + Form->Width(), 2);
+            EXPECT_NEAR(Place.top + Place.bottom, 2 * Form->Top() + Form->Height(), 2);
+            Press(Window, IDCANCEL);
+        }});
+        EXPECT_TRUE(IsWindowEnabled(Form->Handle()));
+        EXPECT_TRUE(IsWindowEnabled(Other->Handle()));
+        EXPECT_EQ(Application->ModalLevel(), 0);
+        EXPECT_EQ(GetFocus(), Edit->Handle());
+    }
 }
 
 // As the system's dialogs for files tell of their help button; not all systems do.
@@ -408,10 +380,10 @@ struct TNarrowDialog : TOpenDialog {
 // What the system cannot do is told, and nobody takes it for a later fault.
 TEST_F(TDialogs, ErrorsAreReported)
 {
-    EXPECT_THROW(ExecuteWith(Make<TRefusedDialog>(), {}), EInvalidOperation);
+    EXPECT_THROW(ExecuteWith(*new TRefusedDialog(Form), {}), EInvalidOperation);
     EXPECT_TRUE(IsWindowEnabled(Form->Handle()));
     const TFolder Folder;
-    auto& Narrow = Make<TNarrowDialog>();
+    auto& Narrow = *new TNarrowDialog(Form);
     Narrow.SetInitialDir(Folder.Folder());
     EXPECT_THROW(ExecuteWith(Narrow, Choosing("a.txt")), EInvalidOperation);
     EXPECT_EQ(Narrow.FileName(), "");

@@ -1,5 +1,6 @@
 // Writes what the standard dialogs are made of into the file that is named. Run on
-// Windows it makes data/dialogs.txt anew; run elsewhere it gives a text to compare:
+// Windows, with a printer (scripts/with-printer), it makes data/dialogs.txt anew; run
+// elsewhere it gives a text to compare:
 //   DialogListing data/dialogs.txt
 #include <cstdio>
 #include <fstream>

@@ -321,6 +321,19 @@ inline HWND OpenPrint(HWND Owner, LPPRINTHOOKPROC Hook, DWORD Flags)
     return nullptr;
 }
 
+// Without a printer the system shows a message box in place of the print dialogs.
+inline bool HasPrinter()
+{
+    PRINTDLGA Data{};
+    Data.lStructSize = sizeof Data;
+    Data.Flags = PD_RETURNDEFAULT;
+    if (!PrintDlgA(&Data))
+        return false;
+    GlobalFree(Data.hDevMode);
+    GlobalFree(Data.hDevNames);
+    return true;
+}
+
 inline const std::vector<TDialogCase>& DialogCases()
 {
     static const std::vector<TDialogCase> Cases = {

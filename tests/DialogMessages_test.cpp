@@ -54,7 +54,8 @@ LRESULT CALLBACK WatchProc(HWND Window, UINT Msg, WPARAM WParam, LPARAM LParam)
     return CallWindowProcA(OldProc, Window, Msg, WParam, LParam);
 }
 
-// Puts itself before the dialog's window procedure as soon as it can.
+// Puts itself before the dialog's window procedure as soon as it can, and gives up
+// when the dialog has come to rest.
 bool WatchModal(TCommonDialog& Dialog, TMessage& Msg)
 {
     TSeen& Now = Seen[Dialog.ClassName()];
@@ -67,7 +68,8 @@ bool WatchModal(TCommonDialog& Dialog, TMessage& Msg)
                 SetWindowLongPtrA(Dialog.Handle(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&WatchProc)));
         }
     } else if (Msg.Msg == WM_ENTERIDLE) {
-        Now.Idle = true;
+        if (!std::exchange(Now.Idle, true))
+            Press(Dialog.Handle(), IDCANCEL);
         EXPECT_EQ(reinterpret_cast<HWND>(Msg.LParam), Dialog.Handle());
     }
     return Dialog.TCommonDialog::MessageHook(Msg);
@@ -109,37 +111,26 @@ private:
     TDialogMessageHook FOld;
 };
 
-template<class T>
-TCommonDialog* New(TDialogs& Scene)
-{
-    return &Scene.Make<T>();
-}
-
 TEST_F(TDialogs, MessagesOfModalDialogsReachTheEntryOfTheirClass)
 {
     const bool Printers = TPrinterContext(true).Handle() != nullptr;
     const struct {
         const TMetaClass& Class;
-        TCommonDialog* (*Make)(TDialogs&);
         bool Possible;
     } Cases[] = {
-        {TOpenDialog::MetaClass(), New<TOpenDialog>, true},
-        {TSaveDialog::MetaClass(), New<TSaveDialog>, true},
-        {TOpenPictureDialog::MetaClass(), New<TOpenPictureDialog>, true},
-        {TColorDialog::MetaClass(), New<TColorDialog>, true},
-        {TOwnColorDialog::MetaClass(), New<TOwnColorDialog>, true},
-        {TFontDialog::MetaClass(), New<TFontDialog>, true},
-        {TPrintDialog::MetaClass(), New<TPrintDialog>, Printers},
-        {TPrinterSetupDialog::MetaClass(), New<TPrinterSetupDialog>, Printers},
+        {TOpenDialog::MetaClass(), true},        {TSaveDialog::MetaClass(), true},
+        {TOpenPictureDialog::MetaClass(), true}, {TColorDialog::MetaClass(), true},
+        {TOwnColorDialog::MetaClass(), true},    {TFontDialog::MetaClass(), true},
+        {TPrintDialog::MetaClass(), Printers},   {TPrinterSetupDialog::MetaClass(), Printers},
     };
     for (const auto& Case : Cases) {
         SCOPED_TRACE(Case.Class.ClassName());
         if (!Case.Possible)
             continue;
-        const std::unique_ptr<TCommonDialog> Dialog(Case.Make(*this));
+        const std::unique_ptr<TCommonDialog> Dialog(&Make(Case.Class));
         {
             const THookScope Hook(Case.Class, &WatchModal);
-            EXPECT_FALSE(ExecuteWith(*Dialog, {[](HWND) {}, Pressing(IDCANCEL)}));
+            EXPECT_FALSE(ExecuteWith(*Dialog, {}));
             const TSeen& Mine = Seen[Case.Class.ClassName()];
             EXPECT_TRUE(Mine.Announced);
             EXPECT_TRUE(Mine.PaintedAfter);
@@ -203,36 +194,36 @@ TEST_F(TDialogs, HandlersMayDestroyModalDialogs)
 {
     const struct {
         const char* Name;
-        TCommonDialog* (*Make)(TDialogs&);
+        const TMetaClass& Class;
         void (*Arm)(TCommonDialog&, TDialogs&);
         std::deque<TDialogUser::TStep> Steps;
     } Cases[] = {
         {"color, OnShow",
-         New<TColorDialog>,
+         TColorDialog::MetaClass(),
          [](TCommonDialog& Dialog, TDialogs& Scene) {
              Dialog.OnShow = {&Scene, &TDialogs::Destroy};
          },
          {}},
         {"font, form in OnShow",
-         New<TFontDialog>,
+         TFontDialog::MetaClass(),
          [](TCommonDialog& Dialog, TDialogs& Scene) {
              Dialog.OnShow = {&Scene, &TDialogs::DestroyForm};
          },
          {}},
         {"open, OnShow",
-         New<TOpenDialog>,
+         TOpenDialog::MetaClass(),
          [](TCommonDialog& Dialog, TDialogs& Scene) {
              Dialog.OnShow = {&Scene, &TDialogs::Destroy};
          },
          {}},
         {"open, OnFolderChange",
-         New<TOpenDialog>,
+         TOpenDialog::MetaClass(),
          [](TCommonDialog& Dialog, TDialogs& Scene) {
              dynamic_cast<TOpenDialog&>(Dialog).OnFolderChange = {&Scene, &TDialogs::Destroy};
          },
          {}},
         {"open, OnCanClose",
-         New<TOpenDialog>,
+         TOpenDialog::MetaClass(),
          [](TCommonDialog& Dialog, TDialogs& Scene) {
              dynamic_cast<TOpenDialog&>(Dialog).OnCanClose = {&Scene, &TDialogs::DestroyAndRefuse};
          },
@@ -241,13 +232,13 @@ TEST_F(TDialogs, HandlersMayDestroyModalDialogs)
              Press(Window, IDOK);
          }}},
         {"save, form in OnClose",
-         New<TSaveDialog>,
+         TSaveDialog::MetaClass(),
          [](TCommonDialog& Dialog, TDialogs& Scene) {
              Dialog.OnClose = {&Scene, &TDialogs::DestroyForm};
          },
          {Pressing(IDCANCEL)}},
         {"font, OnApply",
-         New<TFontDialog>,
+         TFontDialog::MetaClass(),
          [](TCommonDialog& Dialog, TDialogs& Scene) {
              auto& Font = dynamic_cast<TFontDialog&>(Dialog);
              Font.SetOptions({fdApplyButton});
@@ -261,7 +252,7 @@ TEST_F(TDialogs, HandlersMayDestroyModalDialogs)
             Form = new TForm(Application);
             Form->Show();
         }
-        TCommonDialog* const Dialog = Case.Make(*this);
+        TCommonDialog* const Dialog = &Make(Case.Class);
         Case.Arm(*Dialog, *this);
         EXPECT_FALSE(ExecuteWith(*Dialog, Case.Steps));
         EXPECT_EQ(Application->ModalLevel(), 0);
@@ -312,6 +303,14 @@ TEST_F(TDialogs, FindDialogsCloseWithTheirComponentOrForm)
     const HWND Window = Second->Handle();
     delete Second;
     EXPECT_FALSE(IsWindow(Window));
+
+    auto& Again = Make<TFindDialog>();
+    Again.OnClose = {this, &TDialogs::Reopen};
+    Again.Execute();
+    Press(Again.Handle(), IDCANCEL);
+    Application->ProcessMessages();
+    EXPECT_TRUE(IsWindowVisible(Again.Handle())) << "shown by the handler of OnClose";
+    EXPECT_EQ(Application->DialogHandle, Again.Handle());
 
     auto* const Third = new TReplaceDialog(nullptr);
     Third->Execute();

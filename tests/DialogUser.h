@@ -122,13 +122,17 @@ struct TDialogs : TObject, testing::Test {
         Application->ProcessMessages();
     }
 
-    template<class T>
-    T& Make()
+    TCommonDialog& Make(const TMetaClass& Class)
     {
-        auto* const Result = new T(Form);
+        auto* const Result = dynamic_cast<TCommonDialog*>(Class.Create(Form));
         Result->OnShow = {this, &TDialogs::Shown};
         Result->OnClose = {this, &TDialogs::Closed};
         return *Result;
+    }
+    template<class T>
+    T& Make()
+    {
+        return dynamic_cast<T&>(Make(T::MetaClass()));
     }
 
     void Shown(TObject*) { Note("show"); }
@@ -179,6 +183,12 @@ struct TDialogs : TObject, testing::Test {
     }
     void DestroyApplied(TObject* Sender, HWND) { delete Sender; }
     void DestroyForm(TObject*) { delete std::exchange(Form, nullptr); }
+    void Reopen(TObject* Sender)
+    {
+        auto& Dialog = *dynamic_cast<TFindDialog*>(Sender);
+        Dialog.OnClose.Clear();
+        EXPECT_TRUE(Dialog.Execute());
+    }
     void CloseFind(TObject* Sender) { dynamic_cast<TFindDialog*>(Sender)->CloseDialog(); }
 
     void Note(const std::string& Event) { Events.push_back(Event); }

@@ -122,16 +122,15 @@ bool TCommonDialog::RouteMessage(TMessage& Msg)
 bool TCommonDialog::MessageHook(TMessage& Msg)
 {
     static const UINT HelpMessage = RegisterWindowMessageA(HELPMSGSTRINGA);
-    if (Msg.Msg != HelpMessage)
-        return false;
-    Help();
-    return true;
+    return Msg.Msg == HelpMessage && Help();
 }
 
-void TCommonDialog::Help()
+bool TCommonDialog::Help()
 {
-    if (FHelpContext != 0)
-        Application->HelpContext(FHelpContext);
+    if (FHelpContext == 0)
+        return false;
+    Application->HelpContext(FHelpContext);
+    return true;
 }
 
 void TCommonDialog::DoShow()

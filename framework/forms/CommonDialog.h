@@ -70,7 +70,8 @@ protected:
 
     // Hands a message to the entry of the dialog's class.
     bool RouteMessage(TMessage& Msg);
-    void Help();
+    // Asks the application for HelpContext; false without one.
+    bool Help();
 
     HWND FHandle = nullptr;
 

@@ -245,8 +245,8 @@ bool TOpenDialog::Notified(const OFNOTIFYA& Notification, TMessage& Msg)
         std::string Name(NameSize, '\0');
         const LRESULT Size =
             SendMessageA(FHandle, CDM_GETFILEPATH, Name.size(), reinterpret_cast<LPARAM>(Name.data()));
-        if (Size > 0)
-            FFileName = Name.c_str();
+        if (Size > 0 && Size <= static_cast<LRESULT>(Name.size()))
+            FFileName = Name.substr(0, Name.find('\0'));
         DoSelectionChange();
         return true;
     }
@@ -255,8 +255,7 @@ bool TOpenDialog::Notified(const OFNOTIFYA& Notification, TMessage& Msg)
         DoTypeChange();
         return true;
     case CDN_HELP:
-        Help();
-        return true;
+        return Help();
     default:
         return false;
     }

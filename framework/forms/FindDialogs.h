@@ -21,8 +21,9 @@ public:
     // Closes the dialog.
     ~TFindDialog() override;
 
-    // Shows the dialog, or brings it to the front; true when it is shown. Several
-    // may be: each has a hidden window of its own, to which the dialog belongs.
+    // Shows the dialog over the active form, or brings it to the front; true when it
+    // is shown. It goes with the form's window. Several dialogs may be shown: each
+    // belongs to a hidden window of its own.
     bool Execute() override;
     void CloseDialog();
 

@@ -261,14 +261,16 @@ TModalResult TCustomForm::ShowModal()
 {
     if (FShowing || !Enabled() || IsModal() || FFormStyle == fsMDIChild)
         throw EInvalidOperation(SCannotShowModal);
-    FFormState.Include(fsModal);
-    try {
-        Application->RunModally([this] { RunModal(); });
-    } catch (...) {
+    Application->RunModally([this] {
+        FFormState.Include(fsModal);
+        try {
+            RunModal();
+        } catch (...) {
+            FFormState.Exclude(fsModal);
+            throw;
+        }
         FFormState.Exclude(fsModal);
-        throw;
-    }
-    FFormState.Exclude(fsModal);
+    });
     return FModalResult;
 }
 

@@ -232,11 +232,11 @@ bool TFileDialog::Command(int Id, int Code)
         TellOwner(HELPMSGSTRINGA, reinterpret_cast<WPARAM>(Window()), reinterpret_cast<LPARAM>(&FData));
         return true;
     case cmb1:
-        if (Code == CBN_SELCHANGE)
+        if (Code == CBN_SELENDOK)
             ChangeFilter();
         return true;
     case cmb2:
-        if (Code == CBN_SELCHANGE)
+        if (Code == CBN_SELENDOK)
             PlaceChosen();
         return true;
     case UpFolder:
@@ -294,6 +294,14 @@ LRESULT TFileDialog::Notify(UINT Code) const
     if (Code == CDN_FILEOK)
         Data.pszFile = FData.lpstrFile;
     return SendMessageA(FHookWindow, WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&Data));
+}
+
+bool TFileDialog::Refused() const
+{
+    if (Has(OFN_EXPLORER))
+        return Notify(CDN_FILEOK) != 0;
+    static const UINT FileOk = RegisterWindowMessageA(FILEOKSTRINGA);
+    return AskHook(FileOk, 0, reinterpret_cast<LPARAM>(&FData)) != 0;
 }
 
 INT_PTR TFileDialog::Answer(LRESULT Result) const

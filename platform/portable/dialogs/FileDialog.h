@@ -52,6 +52,8 @@ private:
 
     // The hook window and the questions that it may ask
     LRESULT Notify(UINT Code) const;
+    // Whether the application keeps the dialog open in spite of a choice.
+    bool Refused() const;
     INT_PTR Answer(LRESULT Result) const;
     bool AnswerQuestion(UINT Message, WPARAM WParam, LPARAM LParam, LRESULT& Result);
     std::string CurrentPath() const;

@@ -40,7 +40,7 @@ void TFileDialog::StartFolder()
     FFolder = FolderExists(Wanted) ? Wanted : Here;
     const std::string File = FData.lpstrFile ? FData.lpstrFile : "";
     if (File.find('/') != File.npos) {
-        const std::string Folder = FolderOfPath(ResolvePath(Here, File));
+        const std::string Folder = ResolvePath(Here, FolderOfPath(File));
         if (FolderExists(Folder))
             FFolder = Folder;
     }
@@ -109,7 +109,7 @@ void TFileDialog::ChangeFilter()
 void TFileDialog::MakeFolder()
 {
     std::string Path = ResolvePath(FFolder, "New Folder");
-    for (int Number = 2; FileExists(Path); ++Number)
+    for (int Number = 2; PathExists(Path); ++Number)
         Path = ResolvePath(FFolder, "New Folder (" + std::to_string(Number) + ")");
     std::error_code Error;
     if (!fs::create_directory(Path, Error))
@@ -173,12 +173,14 @@ void TFileDialog::Accept()
     std::vector<std::string> Paths;
     for (const std::string& Name : Names) {
         Paths.push_back(WithExtension(ResolvePath(FFolder, Name)));
+        if (FolderOfPath(Paths.back()) != FolderOfPath(Paths.front()))
+            return Tell("The files must be in one folder.");
         if (!Has(OFN_NOVALIDATE) && !MayChoose(Paths.back()))
             return;
     }
     if (!Store(Paths))
         return End(false);
-    if (Notify(CDN_FILEOK) || !Alive())
+    if (Refused() || !Alive())
         return;
     if (!Has(OFN_NOCHANGEDIR)) {
         std::error_code Ignored; // the folder of a file to be made may not be there yet
@@ -190,7 +192,7 @@ void TFileDialog::Accept()
 std::string TFileDialog::WithExtension(const std::string& Path) const
 {
     const bool Lacks = NameOfPath(Path).find('.') == std::string::npos;
-    return Lacks && !FExtension.empty() && !(FileExists(Path) && !FSaves) ? Path + "." + FExtension : Path;
+    return Lacks && !FExtension.empty() && !(PathExists(Path) && !FSaves) ? Path + "." + FExtension : Path;
 }
 
 bool TFileDialog::Ask(const std::string& Text) const
@@ -202,7 +204,9 @@ bool TFileDialog::Ask(const std::string& Text) const
 
 bool TFileDialog::MayChoose(const std::string& Path) const
 {
-    const bool Exists = FileExists(Path);
+    const bool Exists = PathExists(Path);
+    if (FolderExists(Path))
+        return Tell("This is a folder, not a file."), false;
     if (Has(OFN_PATHMUSTEXIST | OFN_FILEMUSTEXIST) && !FolderExists(FolderOfPath(Path)))
         return Tell("Path does not exist.\nPlease verify that the correct path was given."), false;
     if (Has(OFN_FILEMUSTEXIST) && !FSaves && !Exists && !Has(OFN_CREATEPROMPT))

@@ -98,7 +98,7 @@ bool FolderExists(const std::string& Path)
     return fs::is_directory(Path, Error);
 }
 
-bool FileExists(const std::string& Path)
+bool PathExists(const std::string& Path)
 {
     std::error_code Error;
     return fs::exists(Path, Error);

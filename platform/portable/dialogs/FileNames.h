@@ -31,7 +31,7 @@ bool ListFolder(const std::string& Folder, const std::vector<std::string>& Patte
                 std::vector<TFolderEntry>& Entries);
 
 bool FolderExists(const std::string& Path);
-bool FileExists(const std::string& Path);
+bool PathExists(const std::string& Path);
 // Name seen from Folder, without dots on the way.
 std::string ResolvePath(const std::string& Folder, const std::string& Name);
 std::string FolderOfPath(const std::string& Path);

@@ -5,6 +5,10 @@
 
 namespace {
 
+// What the dialog tells; the other flags are the application's.
+constexpr DWORD OwnFlags =
+    FR_FINDNEXT | FR_REPLACE | FR_REPLACEALL | FR_DIALOGTERM | FR_DOWN | FR_WHOLEWORD | FR_MATCHCASE;
+
 class TFindDialog final : public TStandardDialog {
 public:
     TFindDialog(FINDREPLACEA& Data, bool Replaces)
@@ -74,9 +78,7 @@ bool TFindDialog::Started(bool HookAnswer)
 
 void TFindDialog::Request(DWORD What)
 {
-    constexpr DWORD Mine =
-        FR_FINDNEXT | FR_REPLACE | FR_REPLACEALL | FR_DIALOGTERM | FR_DOWN | FR_WHOLEWORD | FR_MATCHCASE;
-    DWORD Flags = (FFind.Flags & ~Mine) | What;
+    DWORD Flags = (FFind.Flags & ~OwnFlags) | What;
     Flags |= Checked(chx1) ? FR_WHOLEWORD : 0;
     Flags |= Checked(chx2) ? FR_MATCHCASE : 0;
     Flags |= FReplaces || Checked(rad2) ? FR_DOWN : 0;
@@ -90,7 +92,7 @@ void TFindDialog::Request(DWORD What)
 void TFindDialog::Leave()
 {
     const HWND Dialog = Window();
-    FFind.Flags = (FFind.Flags & ~DWORD{FR_FINDNEXT | FR_REPLACE | FR_REPLACEALL}) | FR_DIALOGTERM;
+    FFind.Flags = (FFind.Flags & ~OwnFlags) | FR_DIALOGTERM;
     TellOwner(FINDMSGSTRINGA, 0, reinterpret_cast<LPARAM>(&FFind));
     if (IsWindow(Dialog))
         DestroyWindow(Dialog);

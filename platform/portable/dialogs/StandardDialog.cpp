@@ -114,7 +114,7 @@ bool TStandardDialog::Run(HWND Owner)
     return Result > 0;
 }
 
-HWND TStandardDialog::Open(std::shared_ptr<TStandardDialog> Dialog, HWND Owner)
+HWND TStandardDialog::Open(const std::shared_ptr<TStandardDialog>& Dialog, HWND Owner)
 {
     const std::vector<BYTE> Template = MakeTemplate(Dialog->FTemplate);
     Dialog->FSelf = Dialog;

@@ -17,7 +17,7 @@ public:
     // Shows the dialog until its user closes it; true when that was by OK.
     bool Run(HWND Owner);
     // Makes the dialog, which then keeps its object; null when that fails.
-    static HWND Open(std::shared_ptr<TStandardDialog> Dialog, HWND Owner);
+    static HWND Open(const std::shared_ptr<TStandardDialog>& Dialog, HWND Owner);
 
 protected:
     // Data is what the hook procedure gets with WM_INITDIALOG.
