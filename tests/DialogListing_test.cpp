@@ -41,6 +41,11 @@ const struct {
 } AcceptedDifferences[] = {
     {"open save", "child 1148 ComboBoxEx32", "height", "as high as a line of the font"},
     {"font", "child 1139 ComboBox", "height", "as high as a line of the font"},
+    {"open save", "child 1091 Static", "width", "would cover its neighbour"},
+    {"print-setup", "child 1094 Static", "width", "would cover its neighbour"},
+    {"print-setup", "child 1095 Static", "width", "would cover its neighbour"},
+    {"print-setup", "child 1096 Static", "width", "would cover its neighbour"},
+    {"print-setup", "child 1097 Static", "width", "would cover its neighbour"},
     {"open save", "child -1 ScrollBar", "top", "as wide and high as scroll bars are"},
     {"open save", "child -1 ScrollBar", "width", "as wide and high as scroll bars are"},
     {"open save", "child -1 ScrollBar", "height", "as wide and high as scroll bars are"},

@@ -5,7 +5,7 @@ namespace {
 constexpr const char Button[] = "Button", ComboBox[] = "ComboBox", Edit[] = "Edit", Static[] = "Static";
 
 constexpr TItemRow FileItems[] = {
-    {stc4, Static, 0x50020100, 0x0, 28, 6, 43, 8, "Look &in:"},
+    {stc4, Static, 0x50020100, 0x0, 28, 6, 36, 8, "Look &in:"},
     {cmb2, ComboBox, 0x50010213, 0x0, 64, 3, 150, 100, ""},
     {stc1, Static, 0x40000000, 0x0, 209, 2, 102, 17, ""},
     {PlacesBar, "ToolbarWindow32", 0x5000084D, 0x0, 4, 20, 56, 192, ""},
@@ -136,13 +136,13 @@ constexpr TItemRow PrintSetupItems[] = {
     {stc6, Static, 0x50020000, 0x0, 16, 20, 36, 8, "&Name:"},
     {cmb1, ComboBox, 0x50030103, 0x0, 60, 18, 152, 100, ""},
     {psh2, Button, 0x50030000, 0x0, 212, 17, 60, 14, "&Properties"},
-    {stc8, Static, 0x50020080, 0x0, 16, 36, 47, 10, "Status:"},
+    {stc8, Static, 0x50020080, 0x0, 16, 36, 44, 10, "Status:"},
     {stc12, Static, 0x5002008C, 0x0, 60, 36, 212, 10, ""},
-    {stc7, Static, 0x50020080, 0x0, 16, 48, 47, 10, "Type:"},
+    {stc7, Static, 0x50020080, 0x0, 16, 48, 44, 10, "Type:"},
     {stc11, Static, 0x5002008C, 0x0, 60, 48, 212, 10, ""},
-    {stc10, Static, 0x50020080, 0x0, 16, 60, 47, 10, "Where:"},
+    {stc10, Static, 0x50020080, 0x0, 16, 60, 44, 10, "Where:"},
     {stc14, Static, 0x5002008C, 0x0, 60, 60, 212, 10, ""},
-    {stc9, Static, 0x50020080, 0x0, 16, 72, 47, 10, "Comment:"},
+    {stc9, Static, 0x50020080, 0x0, 16, 72, 44, 10, "Comment:"},
     {stc13, Static, 0x5002008C, 0x0, 60, 72, 212, 10, ""},
     {grp2, Button, 0x50020007, 0x0, 8, 92, 164, 56, "Paper"},
     {stc2, Static, 0x50020000, 0x0, 16, 108, 36, 8, "Si&ze:"},

@@ -1,5 +1,7 @@
 // The standard dialogs as the system has them (tests/data/dialogs.txt): places and
 // sizes in dialog units, styles and window order of their controls, initial texts.
+// Labels that reach into their neighbours are a little narrower: here the first of two
+// siblings is painted over the other.
 #pragma once
 
 #include <span>
