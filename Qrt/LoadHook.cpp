@@ -60,6 +60,7 @@ int WINAPI LoadStringHook(HINSTANCE Instance, UINT Identifier, LPSTR Buffer, int
 }
 
 bool Started = false;
+TLoadResString LoaderBefore = nullptr;
 
 } // namespace
 
@@ -67,14 +68,14 @@ void StartQrt()
 {
     if (Started || ToolServices)
         return;
-    RedirectLoadResString(CustomLoadResString);
+    LoaderBefore = RedirectLoadResString(CustomLoadResString);
     Started = true;
 }
 
 void StopQrt()
 {
     if (std::exchange(Started, false))
-        RedirectLoadResString(nullptr);
+        RedirectLoadResString(LoaderBefore);
 }
 
 void HookLoadString(bool Restore)

@@ -38,8 +38,9 @@ extern std::atomic<TLoadStringA> OrgLoadString;
 // True while CustomLoadResString runs on this thread.
 extern thread_local bool SettingResStr;
 
-// Lets this unit answer LoadResString, and gives it back. Each does nothing when
-// it is so already, and StartQrt does nothing inside the development environment.
+// Lets this unit answer LoadResString, and gives it back to who answered before.
+// Each does nothing when it is so already, and StartQrt does nothing inside the
+// development environment.
 // To be called once the framework has started, and before it ends.
 void StartQrt();
 void StopQrt();

@@ -89,7 +89,7 @@ void LoadTranslated(benchmark::State& State)
         benchmark::DoNotOptimize(LoadResString(&SListIndexError));
     StopQrt();
 }
-// A hundred translators of 100,000 texts each would take 4 GB.
+// A hundred translators of 100,000 texts each would take gigabytes.
 const std::vector<int64_t> Places = {InTheOldest, Nowhere, AllAreOff};
 BENCHMARK(LoadTranslated)
     ->ArgNames({"translators", "texts", "where"})

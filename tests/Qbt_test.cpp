@@ -392,6 +392,10 @@ TEST_F(TButtonScene, OnlyFormsOfTheApplication)
         EXPECT_EQ(WindowText(Each->Handle()), Each == Own ? "Titel" : "");
     }
     EXPECT_FALSE(Hidden->HandleAllocated()) << "looking for the form must not make windows";
+    TButton& OwnYes = *dynamic_cast<TButton*>(Own->Components(0));
+    OwnYes.SetCaption("&Yes");
+    Hidden->Show();
+    EXPECT_EQ(OwnYes.Caption(), "&Yes") << "another form came up";
     Own->Hide();
     Own->Show();
     EXPECT_EQ(LastError, "");

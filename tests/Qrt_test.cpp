@@ -160,7 +160,12 @@ TEST_F(Qrt, EntryIsLeftAloneInTheDevelopmentEnvironment)
     StartQrt();
     EXPECT_EQ(std::string(SMsgDlgYes), "ja");
     StopQrt();
-    EXPECT_EQ(RedirectLoadResString(nullptr), nullptr) << "restored";
+    const TLoadResString Own = [](const TResStringRec*) { return std::string("own"); };
+    EXPECT_EQ(RedirectLoadResString(Own), nullptr) << "restored";
+    StartQrt();
+    EXPECT_EQ(std::string(SMsgDlgYes), "ja");
+    StopQrt();
+    EXPECT_EQ(RedirectLoadResString(nullptr), Own) << "what was there before";
 }
 
 TEST_F(Qrt, NeverWritesPastTheBuffer)
