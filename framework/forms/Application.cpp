@@ -207,6 +207,8 @@ int TApplication::MessageBox(const std::string& Text, const std::string& Caption
     const std::vector<HWND> Disabled = TScreen::DisableTaskWindows(nullptr);
     if (BiDiMode != bdLeftToRight)
         Flags |= MB_RTLREADING;
+    if (BiDiMode == bdRightToLeft)
+        Flags |= MB_RIGHT;
     const int Result = MessageBoxA(Active ? Active : FHandle, Text.c_str(), Caption.c_str(), Flags);
     TScreen::EnableTaskWindows(Disabled);
     if (Active)
