@@ -1,11 +1,8 @@
 // The system's dialogs, from which texts are loaded, shown and searched.
 #pragma once
 
-#include <vector>
-
 #include "framework/forms/Forms.h"
 
-class TButton;
 class TColorDialog;
 class TFindDialog;
 class TFontDialog;
@@ -21,9 +18,6 @@ class TDialogsForm : public TForm {
 public:
     explicit TDialogsForm(TComponent* Owner) : TForm(Owner) {}
     ~TDialogsForm() override;
-
-    // Its buttons; each shows one dialog.
-    std::vector<TButton*> Buttons() const;
 
     // Published.
     TMemo* MemText = nullptr;
@@ -45,6 +39,8 @@ public:
     void BtnReplaceClick(TObject* Sender);
     void DlgFindFind(TObject* Sender);
     void DlgReplaceReplace(TObject* Sender);
+
+    void Loaded() override;
 };
 
 extern TDialogsForm* DialogsForm;

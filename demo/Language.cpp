@@ -7,6 +7,7 @@
 #include "Qbt/Qbt.h"
 #include "Qlt/Qlt.h"
 #include "framework/forms/Forms.h"
+#include "framework/rtl/RtlConsts.h"
 
 namespace {
 
@@ -47,6 +48,11 @@ void ShowButtonsIn(const TLanguage& Language, TButtonTranslator& Buttons)
     Buttons.Captions()->Clear();
     Buttons.SetLanguage(Language.Buttons);
     Buttons.TranslateFrom(Buttons.GetAppDir() + "buttons-" + Language.Code + ".txt");
+    // These are resource strings, translated already; here they only get the font that
+    // the other buttons of their box get.
+    if (Language.Buttons != lnUser)
+        for (const TResStringRec* const Caption : {&SMsgDlgNoToAll, &SMsgDlgYesToAll})
+            Buttons.Captions()->Add(LoadResString(Caption) + "|" + LoadResString(Caption));
 }
 
 void AddSystemLocales(TLocaleTranslator& Translator)

@@ -7,6 +7,7 @@
 #include "Qlt/Qlt.h"
 #include "demo/AboutForm.h"
 #include "demo/BookingForm.h"
+#include "demo/DialogsForm.h"
 #include "demo/FormParts.h"
 #include "demo/Language.h"
 #include "demo/LanguageForm.h"
@@ -59,6 +60,7 @@ const TMetaClass& TMainForm::MetaClass()
                                    Published<&TMainForm::ItemByVesselClick>("ItemByVesselClick"),
                                    Published<&TMainForm::ItemFormatsClick>("ItemFormatsClick"),
                                    Published<&TMainForm::ItemMessagesClick>("ItemMessagesClick"),
+                                   Published<&TMainForm::ItemDialogsClick>("ItemDialogsClick"),
                                    Published<&TMainForm::ItemRulesClick>("ItemRulesClick"),
                                    Published<&TMainForm::ItemAboutClick>("ItemAboutClick")});
     return Class;
@@ -296,6 +298,11 @@ void TMainForm::ItemFormatsClick(TObject*)
 void TMainForm::ItemMessagesClick(TObject*)
 {
     MessagesForm->Show();
+}
+
+void TMainForm::ItemDialogsClick(TObject*)
+{
+    DialogsForm->Show();
 }
 
 void TMainForm::ItemRulesClick(TObject*)

@@ -63,6 +63,7 @@ public:
     void ItemByVesselClick(TObject* Sender);
     void ItemFormatsClick(TObject* Sender);
     void ItemMessagesClick(TObject* Sender);
+    void ItemDialogsClick(TObject* Sender);
     void ItemRulesClick(TObject* Sender);
     void ItemAboutClick(TObject* Sender);
 

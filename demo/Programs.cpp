@@ -4,6 +4,7 @@
 #include "demo/BerthsForm.h"
 #include "demo/BookingForm.h"
 #include "demo/CrewForm.h"
+#include "demo/DialogsForm.h"
 #include "demo/LanguageForm.h"
 #include "demo/MainForm.h"
 #include "demo/MessagesForm.h"
@@ -29,8 +30,9 @@ std::vector<TForm*> CreateBookingDesk()
     Application->CreateForm(AboutForm);
     Application->CreateForm(LanguageForm);
     Application->CreateForm(MessagesForm);
+    Application->CreateForm(DialogsForm);
     LanguageForm->SetTranslator(*MainForm->Locales);
-    return {MainForm, BookingForm, OptionsForm, AboutForm, LanguageForm, MessagesForm};
+    return {MainForm, BookingForm, OptionsForm, AboutForm, LanguageForm, MessagesForm, DialogsForm};
 }
 
 std::vector<TForm*> CreatePlanning()

@@ -164,6 +164,7 @@ void TTour::ShowLanguage(const TLanguage& Language)
 std::vector<TBoxTexts> TTour::ShowMessages(const std::string& Code)
 {
     std::vector<TBoxTexts> Result;
+    TWinControl* const Active = MessagesForm->ActiveControl();
     MessagesForm->BringToFront();
     for (TButton* const Button : MessagesForm->Buttons()) {
         const std::string Name = LowerCase(Button->Name().substr(3)) + "-" + Code;
@@ -175,6 +176,7 @@ std::vector<TBoxTexts> TTour::ShowMessages(const std::string& Code)
             Fail(Button->Name() + " showed no message");
         Result.insert(Result.end(), Boxes.begin(), Boxes.end());
     }
+    MessagesForm->SetActiveControl(Active);
     return Result;
 }
 

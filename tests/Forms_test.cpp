@@ -141,6 +141,25 @@ TEST_F(TForms, ReadsItsFormFile)
     EXPECT_EQ(Destroyed, "Order/3");
 }
 
+// Switching to a language that is read from the right makes all windows anew.
+TEST_F(TForms, KeyboardStaysWhereItIsWhenWindowsAreMadeAnew)
+{
+    TForm Main(nullptr);
+    auto* const Box = new TSampleBox(&Main);
+    Box->SetParent(&Main);
+    TSampleEdit* Edits[2];
+    for (TSampleEdit*& Edit : Edits) {
+        Edit = new TSampleEdit(&Main);
+        Edit->SetParent(Box);
+    }
+    Main.Show();
+    Main.SetActiveControl(Edits[1]);
+    ASSERT_EQ(GetFocus(), Edits[1]->Handle());
+    Main.SetBiDiMode(bdRightToLeft);
+    EXPECT_EQ(Main.ActiveControl(), Edits[1]);
+    EXPECT_EQ(GetFocus(), Edits[1]->Handle());
+}
+
 TEST_F(TForms, ApplicationFreesItsForms)
 {
     RegisterFormResource("TOrderForm", OrderForm);

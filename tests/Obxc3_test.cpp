@@ -125,14 +125,15 @@ TEST_F(TPackage, FormFilesKnowTheTranslatorsWhileItIsStarted)
     }
 }
 
-// Half a package would be undone by nobody.
+// Half a package would be stopped by nobody.
 TEST_F(TPackage, StartsAsAWholeOrNotAtAll)
 {
     const TMetaClass Other("TLocaleTranslator", &TComponent::MetaClass(), nullptr);
     AddTranslators();
     RegisterClass(Other);
     EXPECT_THROW(StartPackage(), EFilerError);
-    EXPECT_EQ(AllShown(), "Range check error, Bereichsfehler, Ja") << "translators alone do as much";
+    EXPECT_EQ(AllShown(), German) << "as the translators alone do it";
+    EXPECT_EQ(RedirectLoadResString(nullptr), nullptr);
     EXPECT_EQ(GetClass("TFormTranslator"), nullptr);
     EXPECT_EQ(GetClass("TLocaleTranslator"), &Other);
     UnRegisterClass(Other);

@@ -204,7 +204,7 @@ TEST_F(TQctDialogs, ControlsAreMovedAndSized)
         SCOPED_TRACE(Class->ClassName());
         RegisterDialogClass(Class);
         const std::string Front = Class->ClassName() + ".";
-        Use(Front + "Font.Name='DejaVu Serif'\n" + Front + "Height=260\n" + Front + "Width=555\n" + Front +
+        Use(Front + "Font.Name='DejaVu Serif'\n" + Front + "Height=470\n" + Front + "Width=620\n" + Front +
             "Left[2]=11\n" + Front + "Top[2]=13\n" + Front + "Width[2]=123\n" + Front + "Height[2]=77\n" +
             Front + "Left[4711]=5\n");
         TCommonDialog& Dialog = New(*Class);
@@ -214,8 +214,8 @@ TEST_F(TQctDialogs, ControlsAreMovedAndSized)
             std::map<std::string, std::string> Values;
             for (int I = 0; I < First.Count(); ++I)
                 Values.emplace(First.Names(I), First.Get(I).substr(First.Names(I).size() + 1));
-            EXPECT_EQ(Values["x.Height"], "261");
-            EXPECT_EQ(Values["x.Width"], "556");
+            EXPECT_EQ(Values["x.Height"], "471");
+            EXPECT_EQ(Values["x.Width"], "621");
             EXPECT_EQ(Values["x.Left[2]"], "11");
             EXPECT_EQ(Values["x.Top[2]"], "13");
             EXPECT_EQ(Values["x.Width[2]"], "124");

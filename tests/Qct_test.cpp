@@ -193,10 +193,11 @@ TEST_F(Qct, SwitchingTakesPeersAlong)
     TCommonDialogTranslator& Sv2 = Add(Second, Swedish);
     EXPECT_EQ(qctInstance, &Sv2) << "the newest";
     for (TCommonDialogTranslator* const Each : {&Sv1, &De1, &Sv2}) {
-        EXPECT_TRUE(Each->Translate());
+        EXPECT_TRUE(Each->Translate()) << "from the beginning";
         Each->InternalTranslate(false);
-        Each->Loaded();
     }
+    for (TCommonDialogTranslator* const Each : {&Sv1, &De1, &Sv2})
+        Each->Loaded();
     Sv1.SetTranslate(true);
     EXPECT_TRUE(Sv1.Translate() && Sv2.Translate() && !De1.Translate());
     EXPECT_EQ(qctInstance, &Sv2);
@@ -358,6 +359,7 @@ TEST_F(Qct, FormFilesKeepLinesAndOriginals)
     Originals.SetText("TOpenDialog.Caption='Open'\nTOpenDialog.Caption[2]='It''s'");
     Translator.SetOriginals(&Originals);
     const std::string Text = TextOf(*Form);
+    delete Form;
     TForm* const Copy = AddForm("");
     TComponentReader(ReadForm(Text), TUnknownClasses::Refuse).ReadRoot(*Copy);
     auto* const Read = dynamic_cast<TCommonDialogTranslator*>(Copy->FindComponent("Dialogs"));

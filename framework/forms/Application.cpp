@@ -207,6 +207,8 @@ int TApplication::MessageBox(const std::string& Text, const std::string& Caption
     const TModalState State;
     if (BiDiMode != bdLeftToRight)
         Flags |= MB_RTLREADING;
+    if (BiDiMode == bdRightToLeft)
+        Flags |= MB_RIGHT;
     return MessageBoxA(Active ? Active : FHandle, Text.c_str(), Caption.c_str(), Flags);
 }
 

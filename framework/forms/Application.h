@@ -62,7 +62,8 @@ public:
     // message box. EAbort is passed over.
     void HandleException(TObject* Sender);
     void ShowException(const Exception& Error);
-    // Shows a message box over the active window; returns its IDOK and so on.
+    // Shows the system's message box over the active window, reading as BiDiMode says;
+    // returns its IDOK and so on.
     int MessageBox(const std::string& Text, const std::string& Caption, UINT Flags = MB_OK);
 
     void BringToFront();

@@ -376,11 +376,12 @@ bool TWinControl::DispatchChanges(TMessage& Message)
         Realign();
         break;
     case CM_RECREATEWND: {
-        const bool WasFocused = Focused();
+        TWinControl* const Focus = FindControl(GetFocus());
+        const bool WasInside = ContainsControl(Focus);
         DestroyHandle();
         UpdateControlState();
-        if (WasFocused && FHandle)
-            ::SetFocus(FHandle);
+        if (WasInside && Focus->FHandle)
+            ::SetFocus(Focus->FHandle);
         break;
     }
     case CM_TEXTCHANGED:

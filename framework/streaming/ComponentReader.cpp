@@ -298,7 +298,7 @@ void TComponentReader::SetMethod(TPersistent& Instance, const TPropInfo& Prop, c
 void TComponentReader::ResolveReferences()
 {
     for (const TComponentReference& Reference : FReferences) {
-        std::string Reason = Format(SReferenceFixupFailed, {Reference.Source->Value.AsIdent()});
+        std::string Reason;
         try {
             if (TComponent* const Found = FindReferenced(Reference)) {
                 SetObjectProp(*Reference.Instance, *Reference.Prop, Found);
@@ -307,6 +307,8 @@ void TComponentReader::ResolveReferences()
         } catch (const Exception& Error) {
             Reason = Error.Message();
         }
+        if (Reason.empty())
+            Reason = Format(SReferenceFixupFailed, {Reference.Source->Value.AsIdent()});
         if (FUnknownClasses == TUnknownClasses::Refuse)
             throw FDocument.ErrorAt(*Reference.Source, Reason);
         Reference.Instance->NeedDynamicProperties().AddOpaque(

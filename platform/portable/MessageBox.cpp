@@ -85,24 +85,54 @@ SIZE MeasureText(LPCSTR Text)
     return {Rect.right, Rect.bottom};
 }
 
-HWND AddItem(HWND Box, LPCSTR ClassName, LPCSTR Text, DWORD Style, const RECT& Rect, int Id)
+// Where the text begins and which way it reads.
+DWORD TextStyle(UINT Type)
+{
+    return (Type & MB_RTLREADING ? WS_EX_RTLREADING : 0u) | (Type & MB_RIGHT ? WS_EX_RIGHT : 0u);
+}
+
+HWND AddItem(HWND Box, LPCSTR ClassName, LPCSTR Text, DWORD Style, const RECT& Rect, int Id,
+             DWORD ExStyle = 0)
 {
     const HWND Item =
-        CreateWindowExA(WS_EX_NOPARENTNOTIFY, ClassName, Text, Style | WS_CHILD | WS_VISIBLE, Rect.left,
-                        Rect.top, Rect.right - Rect.left, Rect.bottom - Rect.top, Box,
+        CreateWindowExA(WS_EX_NOPARENTNOTIFY | ExStyle, ClassName, Text, Style | WS_CHILD | WS_VISIBLE,
+                        Rect.left, Rect.top, Rect.right - Rect.left, Rect.bottom - Rect.top, Box,
                         reinterpret_cast<HMENU>(static_cast<UINT_PTR>(Id)), nullptr, nullptr);
     SendMessageA(Item, WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)), FALSE);
     return Item;
 }
 
-// The icon and the text come first, then the buttons from left to right.
+// From left to right. The focus comes last: it activates the box, so everything must
+// be in it.
+void AddButtons(HWND Box, UINT Type, int Left, int Top)
+{
+    const std::vector<TButton> Buttons = ButtonsOf(Type);
+    const auto Wanted = static_cast<std::size_t>((Type & MB_DEFMASK) / MB_DEFBUTTON2);
+    const std::size_t Default = Wanted < Buttons.size() ? Wanted : 0;
+    HWND Focus = nullptr;
+    for (std::size_t Index = 0; Index < Buttons.size(); ++Index) {
+        const bool IsDefault = Index == Default;
+        const DWORD Style =
+            WS_TABSTOP | (Index == 0 ? WS_GROUP : 0u) | (IsDefault ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON);
+        const HWND Item = AddItem(Box, "Button", Buttons[Index].Text, Style,
+                                  {Left, Top, Left + ButtonWidth, Top + ButtonHeight}, Buttons[Index].Id);
+        Left += ButtonWidth + ButtonSpace;
+        if (IsDefault) {
+            SendMessageA(Box, DM_SETDEFID, static_cast<WPARAM>(Buttons[Index].Id), 0);
+            Focus = Item;
+        }
+    }
+    SetFocus(Focus);
+}
+
+// The icon and the text come first, then the buttons.
 void FillBox(HWND Box, const MSGBOXPARAMSA& Params)
 {
-    const std::vector<TButton> Buttons = ButtonsOf(Params.dwStyle);
-    const bool HasIcon = IconOf(Params.dwStyle) != nullptr;
+    const LPCSTR Icon = IconOf(Params.dwStyle);
+    const bool HasIcon = Icon != nullptr;
     const int IconSpace = HasIcon ? GetSystemMetrics(SM_CXICON) + Margin : 0;
     const SIZE Text = MeasureText(Params.lpszText);
-    const auto Count = static_cast<int>(Buttons.size());
+    const auto Count = static_cast<int>(ButtonsOf(Params.dwStyle).size());
     const int Row = Count * ButtonWidth + (Count - 1) * ButtonSpace;
     const int Width = std::max(Text.cx + IconSpace, Row) + 2 * Margin;
     const int TextHeight = std::max(Text.cy, HasIcon ? GetSystemMetrics(SM_CYICON) : 0);
@@ -113,28 +143,14 @@ void FillBox(HWND Box, const MSGBOXPARAMSA& Params)
                  (GetSystemMetrics(SM_CYSCREEN) - (Outer.bottom - Outer.top)) / 2, Outer.right - Outer.left,
                  Outer.bottom - Outer.top, SWP_NOZORDER | SWP_NOACTIVATE);
     const int Top = Margin;
-    AddItem(Box, "Static", "", HasIcon ? SS_ICON : SS_ICON | WS_DISABLED,
-            {Margin, Top, Margin + IconSpace, Top + 32}, IconId);
+    const HWND IconItem = AddItem(Box, "Static", "", HasIcon ? SS_ICON : SS_ICON | WS_DISABLED,
+                                  {Margin, Top, Margin + IconSpace, Top + 32}, IconId);
+    if (HasIcon)
+        SendMessageA(IconItem, STM_SETICON, reinterpret_cast<WPARAM>(LoadIconA(nullptr, Icon)), 0);
     AddItem(Box, "Static", Params.lpszText, SS_LEFT | SS_NOPREFIX,
-            {Margin + IconSpace, Top, Margin + IconSpace + Text.cx, Top + Text.cy}, TextId);
-    const auto Default = static_cast<int>((Params.dwStyle & MB_DEFMASK) / MB_DEFBUTTON2);
-    int Left = (Width - Row) / 2;
-    HWND Focus = nullptr;
-    for (int Index = 0; Index < Count; ++Index) {
-        const TButton& Button = Buttons[static_cast<std::size_t>(Index)];
-        const bool IsDefault = Index == (Default < Count ? Default : 0);
-        const int ButtonTop = TextHeight + 2 * Margin;
-        const HWND Item = AddItem(Box, "Button", Button.Text,
-                                  WS_TABSTOP | (Index == 0 ? WS_GROUP : 0u) |
-                                      (IsDefault ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON),
-                                  {Left, ButtonTop, Left + ButtonWidth, ButtonTop + ButtonHeight}, Button.Id);
-        Left += ButtonWidth + ButtonSpace;
-        if (IsDefault) {
-            SendMessageA(Box, DM_SETDEFID, static_cast<WPARAM>(Button.Id), 0);
-            Focus = Item;
-        }
-    }
-    SetFocus(Focus); // activates the box, so everything must be in it
+            {Margin + IconSpace, Top, Margin + IconSpace + Text.cx, Top + Text.cy}, TextId,
+            TextStyle(Params.dwStyle));
+    AddButtons(Box, Params.dwStyle, (Width - Row) / 2, TextHeight + 2 * Margin);
 }
 
 INT_PTR MessageBoxProc(HWND Box, UINT Message, WPARAM WParam, LPARAM LParam)
@@ -180,6 +196,7 @@ int MessageBoxIndirectA(const MSGBOXPARAMSA* Params)
 #pragma pack(pop)
     Template.Dialog.style = WS_CAPTION | WS_POPUP | WS_CLIPSIBLINGS | WS_VISIBLE | WS_SYSMENU | DS_3DLOOK |
                             DS_NOIDLEMSG | DS_MODALFRAME;
+    Template.Dialog.dwExtendedStyle = TextStyle(Params->dwStyle) & WS_EX_RTLREADING;
     const bool Task = (Params->dwStyle & MB_TASKMODAL) && !Params->hwndOwner;
     std::vector<HWND> Disabled;
     if (Task)
