@@ -23,7 +23,7 @@ case ${1:-} in
     scripts/install-packages "${native_packages[@]}" "${windows_packages[@]}"
     build windows
     mkdir -p out/windows
-    scripts/run-wine build/windows/bin/demo.exe --tour --out out/windows
+    scripts/with-printer scripts/run-wine build/windows/bin/demo.exe --tour --out out/windows
     pictures=out/windows
     ;;
 *)
@@ -34,4 +34,4 @@ esac
 echo
 echo "Look at the pictures in $PWD/$pictures: main-sv.png is the main form in Swedish,"
 echo "booking-ja.png a booking in Japanese, planning-ar.png the harbour's planning in Arabic,"
-echo "box-question-de.png a message box in German."
+echo "box-question-de.png a message box and box-font-de.png a dialog of the system in German."

@@ -88,11 +88,23 @@ private:
 
 } // namespace
 
+std::vector<TButton*> ButtonsOf(const TForm& Form)
+{
+    std::vector<TButton*> Result;
+    for (int I = 0; I < Form.ComponentCount(); ++I)
+        if (auto* const Button = dynamic_cast<TButton*>(Form.Components(I)))
+            Result.push_back(Button);
+    return Result;
+}
+
 std::vector<TBoxTexts> ClickAndClose(TButton& Button, const std::function<void(HWND)>& Visit)
 {
     const HWND Form = GetAncestor(Button.Handle(), GA_ROOT);
     SetActiveWindow(Form);
     const TBoxWatch Watch(Form, Visit);
     SendMessageA(Button.Handle(), BM_CLICK, 0, 0);
+    // Dialogs for finding stay when the click is over.
+    while (GetActiveWindow() && GetActiveWindow() != Form)
+        Application->HandleMessage();
     return Watch.Seen();
 }

@@ -8,6 +8,7 @@
 #include "platform/winapi.h"
 
 class TButton;
+class TForm;
 
 // What a box says, as its window shows it.
 struct TBoxTexts {
@@ -16,6 +17,8 @@ struct TBoxTexts {
     std::vector<std::string> Buttons;
     friend bool operator==(const TBoxTexts&, const TBoxTexts&) = default;
 };
+
+std::vector<TButton*> ButtonsOf(const TForm& Form);
 
 // Clicks a button, closes each box that comes up, and tells what they said. Visit
 // sees a box before it is closed. The button's form must be visible.

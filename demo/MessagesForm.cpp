@@ -3,7 +3,6 @@
 #include "DemoTexts.h"
 #include "framework/forms/InputForms.h"
 #include "framework/forms/MessageForms.h"
-#include "framework/forms/PushButtons.h"
 #include "framework/rtl/Strings.h"
 #include "framework/rtl/SysUtils.h"
 
@@ -35,15 +34,6 @@ const TMetaClass& TMessagesForm::MetaClass()
 TMessagesForm::~TMessagesForm()
 {
     MessagesForm = nullptr;
-}
-
-std::vector<TButton*> TMessagesForm::Buttons() const
-{
-    std::vector<TButton*> Result;
-    for (int I = 0; I < ComponentCount(); ++I)
-        if (auto* const Button = dynamic_cast<TButton*>(Components(I)))
-            Result.push_back(Button);
-    return Result;
 }
 
 // Errors: the application reports what nobody handles.

@@ -1,20 +1,13 @@
 // Errors of the framework, message boxes of every kind, and other small dialogs.
 #pragma once
 
-#include <vector>
-
 #include "framework/forms/Forms.h"
-
-class TButton;
 
 class TMessagesForm : public TForm {
     OBX_CLASS(TForm)
 public:
     explicit TMessagesForm(TComponent* Owner) : TForm(Owner) {}
     ~TMessagesForm() override;
-
-    // Its buttons; each shows one message or more.
-    std::vector<TButton*> Buttons() const;
 
     // Published.
     void BtnNumberClick(TObject* Sender);

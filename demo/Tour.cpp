@@ -9,6 +9,7 @@
 #include "Obxc3/Obxc3.h"
 #include "demo/BookingForm.h"
 #include "demo/BoxWatch.h"
+#include "demo/DialogsForm.h"
 #include "demo/FormTexts.h"
 #include "demo/Language.h"
 #include "demo/LanguageForm.h"
@@ -42,7 +43,7 @@ public:
 private:
     void ShowLanguage(const TLanguage& Language);
     void ShowSelectors();
-    std::vector<TBoxTexts> ShowMessages(const std::string& Code);
+    std::vector<TBoxTexts> ShowBoxes(const std::string& Code);
     void PrintChanges(const TFormState& State) const;
     void TakePictures(TForm& Form, const TLanguage& Language);
     void TakePicture(TForm& Form, const std::string& Name);
@@ -52,7 +53,7 @@ private:
 
     std::string FFolder;
     std::vector<TFormState> FStates;
-    std::vector<TBoxTexts> FMessages; // in the program's own language
+    std::vector<TBoxTexts> FBoxes; // in the program's own language
     int FPictures = 0;
     bool FFailed = false;
 };
@@ -136,8 +137,8 @@ void TTour::Visit(const std::function<std::vector<TForm*>()>& Create)
     SwitchLanguage(Languages().front().Locale);
     Application->ProcessMessages();
     CheckRestored(Translations);
-    if (MessagesForm && ShowMessages("") != FMessages)
-        Fail("messages are not in the program's own language again");
+    if (MessagesForm && ShowBoxes("") != FBoxes)
+        Fail("boxes are not in the program's own language again");
     if (LanguageForm)
         ShowSelectors();
 }
@@ -153,30 +154,33 @@ void TTour::ShowLanguage(const TLanguage& Language)
         TakePictures(*State.Form, Language);
     if (!MessagesForm)
         return;
-    const std::vector<TBoxTexts> Messages = ShowMessages(Language.Code);
-    for (const TBoxTexts& Message : Messages)
-        Print(Message);
-    if (FMessages.empty())
-        FMessages = Messages;
+    const std::vector<TBoxTexts> Boxes = ShowBoxes(Language.Code);
+    for (const TBoxTexts& Box : Boxes)
+        Print(Box);
+    if (FBoxes.empty())
+        FBoxes = Boxes;
 }
 
-// Takes pictures of them, unless Code is empty.
-std::vector<TBoxTexts> TTour::ShowMessages(const std::string& Code)
+// The message boxes, and the dialogs of the system. Takes pictures of them, unless
+// Code is empty.
+std::vector<TBoxTexts> TTour::ShowBoxes(const std::string& Code)
 {
     std::vector<TBoxTexts> Result;
-    TWinControl* const Active = MessagesForm->ActiveControl();
-    MessagesForm->BringToFront();
-    for (TButton* const Button : MessagesForm->Buttons()) {
-        const std::string Name = LowerCase(Button->Name().substr(3)) + "-" + Code;
-        const std::vector<TBoxTexts> Boxes = ClickAndClose(*Button, [&](HWND Box) {
-            if (!Code.empty())
-                SavePicture(Box, "box-" + Name);
-        });
-        if (Boxes.empty())
-            Fail(Button->Name() + " showed no message");
-        Result.insert(Result.end(), Boxes.begin(), Boxes.end());
+    for (TForm* const Form : std::initializer_list<TForm*>{MessagesForm, DialogsForm}) {
+        TWinControl* const Active = Form->ActiveControl();
+        Form->BringToFront();
+        for (TButton* const Button : ButtonsOf(*Form)) {
+            const std::string Name = LowerCase(Button->Name().substr(3)) + "-" + Code;
+            const std::vector<TBoxTexts> Boxes = ClickAndClose(*Button, [&](HWND Box) {
+                if (!Code.empty())
+                    SavePicture(Box, "box-" + Name);
+            });
+            if (Boxes.empty())
+                Fail(Button->Name() + " showed nothing");
+            Result.insert(Result.end(), Boxes.begin(), Boxes.end());
+        }
+        Form->SetActiveControl(Active);
     }
-    MessagesForm->SetActiveControl(Active);
     return Result;
 }
 

@@ -20,6 +20,7 @@
 #include "core/TranslationsFile.h"
 #include "core/VisibleTexts.h"
 #include "demo/BoxWatch.h"
+#include "demo/DialogsForm.h"
 #include "demo/FormTexts.h"
 #include "demo/Language.h"
 #include "demo/MessagesForm.h"
@@ -311,7 +312,7 @@ TEST(Demo, EveryTextOfTheMessagesHasATranslation)
     EXPECT_EQ(Translators.size(), TranslatedLanguages());
     MessagesForm->Show();
     RedirectLoadResString(NoteAndLoad);
-    for (TButton* const Button : MessagesForm->Buttons())
+    for (TButton* const Button : ButtonsOf(*MessagesForm))
         EXPECT_FALSE(ClickAndClose(*Button, [](HWND) {}).empty()) << Button->Name();
     RedirectLoadResString(CustomLoadResString);
     for (const TResStringRec* const Caption : TranslatedCaptions)
@@ -328,6 +329,33 @@ TEST(Demo, EveryTextOfTheMessagesHasATranslation)
             const int Text = ObjectInteger(Translator->ResStrings().Objects(Index));
             EXPECT_NE(Translator->Translations()->Get(Text), "") << Source << " in " << Translator->Name();
         }
+}
+
+// A control that a list of translations forgets, or names by a wrong number.
+TEST(Demo, EveryButtonOfTheDialogsIsTranslated)
+{
+    const TApplicationScope Scope;
+    const TPackageScope Package;
+    RegisterDemoForms();
+    CreateBookingDesk();
+    DialogsForm->Show();
+    const std::set<std::string> Same{"OK", "&o", ""};
+    for (TButton* const Button : ButtonsOf(*DialogsForm)) {
+        SwitchLanguage(Languages().front().Locale);
+        const std::vector<TBoxTexts> English = ClickAndClose(*Button, [](HWND) {});
+        ASSERT_EQ(English.size(), 1U) << Button->Name();
+        for (const int Locale : {0x41D, 0x407}) {
+            SwitchLanguage(Locale);
+            const std::vector<TBoxTexts> Translated = ClickAndClose(*Button, [](HWND) {});
+            ASSERT_EQ(Translated.size(), 1U) << Button->Name();
+            EXPECT_NE(Translated[0].Title, English[0].Title) << Button->Name();
+            ASSERT_EQ(Translated[0].Buttons.size(), English[0].Buttons.size());
+            for (size_t I = 0; I < English[0].Buttons.size(); ++I)
+                if (!Same.contains(English[0].Buttons[I])) {
+                    EXPECT_NE(Translated[0].Buttons[I], English[0].Buttons[I]) << Button->Name() << Locale;
+                }
+        }
+    }
 }
 
 // Texts whose numbers are not those that saving would give them change as a whole
