@@ -17,7 +17,7 @@ std::u16string Searchable(const std::string& Text, bool MatchCase)
 }
 
 // Selects the next place, behind or before the selection; false when there is none.
-bool SelectNext(TMemo& Memo, const TFindDialog& Find)
+bool SelectFound(TMemo& Memo, const TFindDialog& Find)
 {
     const bool MatchCase = Find.Options().Contains(frMatchCase);
     const std::u16string Text = Searchable(Memo.Text(), MatchCase);
@@ -123,7 +123,7 @@ void TDialogsForm::BtnReplaceClick(TObject*)
 
 void TDialogsForm::DlgFindFind(TObject* Sender)
 {
-    if (!SelectNext(*MemText, dynamic_cast<TFindDialog&>(*Sender)))
+    if (!SelectFound(*MemText, dynamic_cast<TFindDialog&>(*Sender)))
         MessageBeep(MB_ICONASTERISK);
 }
 
@@ -132,7 +132,7 @@ void TDialogsForm::DlgReplaceReplace(TObject*)
     const bool All = DlgReplace->Options().Contains(frReplaceAll);
     if (All)
         MemText->SetSelStart(0);
-    while (SelectNext(*MemText, *DlgReplace)) {
+    while (SelectFound(*MemText, *DlgReplace)) {
         MemText->SetSelText(DlgReplace->ReplaceText());
         if (!All)
             break;

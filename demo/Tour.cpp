@@ -117,7 +117,7 @@ void TTour::Visit(const std::function<std::vector<TForm*>()>& Create)
     const TPackageScope Package;
     RegisterDemoForms();
     FStates.clear();
-    FMessages.clear();
+    FBoxes.clear();
     // Windows come first: what only a window can tell belongs to the state that
     // is to be restored.
     for (TForm* const Form : Create()) {

@@ -113,12 +113,16 @@ struct TQctDialogs : TDialogs {
     int Translated = 0;
 };
 
-// The lines without places, sizes and what follows from the machine.
-std::string Comparable(const std::vector<std::string>& Lines)
+// The lines without places, sizes and what follows from the machine's printer.
+std::string Comparable(const std::string& ClassName, const std::vector<std::string>& Lines)
 {
+    const std::set<std::string> OfPrinter{"Caption[1098]", "Caption[1099]", "Caption[1100]",
+                                          "Caption[1101]", "Caption[1136]", "Caption[1139]"};
     std::string Result;
     for (const std::string& Line : Lines) {
         const std::string Name = Line.substr(0, Line.find('='));
+        if (ClassName.starts_with("TPrint") && OfPrinter.contains(Name))
+            continue;
         const bool IsSize = Name.find("Caption") == Name.npos && Name.find("Font") == Name.npos;
         Result += (IsSize ? Name : Line) + "\n";
     }
@@ -149,9 +153,9 @@ TEST_F(TQctDialogs, ScansListTheDialogAndCloseIt)
         const auto Lines = Scan(Dialog);
         if (Record)
             std::ofstream(Record, std::ios::app | std::ios::binary) << "[" << Class->ClassName() << "]\n"
-                                                                    << Comparable(Lines);
+                                                                    << Comparable(Class->ClassName(), Lines);
         EXPECT_TRUE(Translator->Translate());
-        EXPECT_EQ(Comparable(Lines), Recorded(Class->ClassName()));
+        EXPECT_EQ(Comparable(Class->ClassName(), Lines), Recorded(Class->ClassName()));
         TStringList Now;
         Show(Dialog, [&](HWND Window) { ListDialog(Window, "x", Now); });
         std::string Scanned;
@@ -209,6 +213,8 @@ TEST_F(TQctDialogs, ControlsAreMovedAndSized)
             Front + "Left[4711]=5\n");
         TCommonDialog& Dialog = New(*Class);
         Show(Dialog, [&](HWND Window) {
+            // File dialogs move their buttons when their size changes.
+            SendMessageA(Window, WM_ACTIVATE, WA_ACTIVE, 0);
             TStringList First, Second;
             ListDialog(Window, "x", First);
             std::map<std::string, std::string> Values;
@@ -283,13 +289,14 @@ TEST_F(TQctDialogs, ManyDialogsLeaveNothingBehind)
     }
     Translator->OnTranslated = {this, &TQctDialogs::CloseCurrent};
     Use("TFindDialog.Font.Name='DejaVu Serif'\nTColorDialog.Font.Name='DejaVu Serif'\n"
-        "TFontDialog.Font.Charset=1\n");
+        "TFontDialog.Font.Charset=1\nTReplaceDialog.Font.Charset=1\n");
     for (int Round = 0; Round < Rounds; ++Round) {
         if (Round == 3) { // what is made once is there
             Windows = CountWindows();
             Objects = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
         }
         for (TCommonDialog* const Dialog : Dialogs) {
+            const TDialogUser Patience(*Dialog, {});
             Current = Dialog;
             Translated = 0;
             Dialog->Execute();

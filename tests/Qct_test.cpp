@@ -62,6 +62,7 @@ struct TQctScene : TObject, testing::Test {
     TQctScene()
     {
         RegisterStandardClasses();
+        RegisterClass(TCommonDialogTranslator::MetaClass());
         StartQct();
         Application->OnException = {this, &TQctScene::Note};
     }

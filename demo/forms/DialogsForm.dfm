@@ -154,6 +154,7 @@ object DialogsForm: TDialogsForm
     Top = 232
   end
   object DlgColor: TColorDialog
+    Color = clWindow
     Options = [cdFullOpen]
     Left = 216
     Top = 232

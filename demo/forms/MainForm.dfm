@@ -412,7 +412,7 @@ object MainForm: TMainForm
         OnClick = ItemMessagesClick
       end
       object ItemDialogs: TMenuItem
-        Caption = '&Dialogs of the system...'
+        Caption = 'D&ialogs of the system...'
         GroupIndex = 1
         Hint = 'See the dialogs for files, fonts, colors, printing and finding'
         OnClick = ItemDialogsClick
