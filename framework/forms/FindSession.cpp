@@ -112,6 +112,8 @@ LRESULT CALLBACK TFindSession::OwnerProc(HWND Window, UINT Msg, WPARAM WParam, L
     if (Msg == WM_NCCREATE) {
         const auto* const Create = reinterpret_cast<const CREATESTRUCTA*>(LParam);
         SetWindowLongPtrA(Window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(Create->lpCreateParams));
+        // Handlers of WM_CREATE may already destroy the component.
+        static_cast<TFindSession*>(Create->lpCreateParams)->FOwner = Window;
     }
     auto* const Session = reinterpret_cast<TFindSession*>(GetWindowLongPtrA(Window, GWLP_USERDATA));
     if (!Session || Msg == WM_NCCREATE)
