@@ -68,7 +68,8 @@ bool TFindSession::Show(TFindDialog::TShowFunction Function, DWORD Flags)
     FData.Flags = Flags | FR_ENABLEHOOK;
     if (!FOwner || !FDialog)
         return false;
-    if (!Function(&FData))
+    // One that was shown has gone again, with its form.
+    if (!Function(&FData) && !FShown)
         TCommonDialog::CheckError();
     return FWindow && FDialog;
 }
@@ -164,6 +165,7 @@ void TFindSession::HandleDialog(HWND Window, const TMessage& Msg)
 void TFindSession::Initialised(HWND Window)
 {
     FWindow = Window;
+    FShown = true;
     CentreWindow(Window, FForm);
     if (FDialog)
         FDialog->Shown(Window);
