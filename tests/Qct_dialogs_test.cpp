@@ -122,15 +122,17 @@ struct TQctDialogs : TDialogs {
     int Translated = 0;
 };
 
-// The lines without places, sizes and what follows from the machine's printer.
+// The lines without places, sizes and what follows from the machine's printer and
+// the current folder.
 std::string Comparable(const std::string& ClassName, const std::vector<std::string>& Lines)
 {
     const std::set<std::string> OfPrinter{"Caption[1098]", "Caption[1099]", "Caption[1100]",
                                           "Caption[1101]", "Caption[1136]", "Caption[1139]"};
+    const std::string Folder = "Caption[1137]";
     std::string Result;
     for (const std::string& Line : Lines) {
         const std::string Name = Line.substr(0, Line.find('='));
-        if (ClassName.starts_with("TPrint") && OfPrinter.contains(Name))
+        if (ClassName.starts_with("TPrint") ? OfPrinter.contains(Name) : Name == Folder)
             continue;
         const bool IsSize = Name.find("Caption") == Name.npos && Name.find("Font") == Name.npos;
         Result += (IsSize ? Name : Line) + "\n";
