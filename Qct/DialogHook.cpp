@@ -23,7 +23,7 @@ constexpr WORD SecondPushButton = 0x401; // psh2
 TDialogWork Work;
 HWND Taken = nullptr;     // the window with ComDlgProc
 HWND LeftAlone = nullptr; // a dialog whose translation failed
-bool Working = false;
+HWND Working = nullptr;   // innermost, handlers may show another dialog
 
 void Take(HWND Dialog, const TCommonDialog& Component)
 {
@@ -38,12 +38,14 @@ void Take(HWND Dialog, const TCommonDialog& Component)
     InvalidateRect(Dialog, nullptr, TRUE);
 }
 
-// Until the dialog is there, the active window is one of the application's forms.
+// Until the dialog is there, the active window is one of the application's forms;
+// later it may be a message box of a handler.
 bool TakeActive(const TCommonDialog& Component)
 {
     Closing = false;
     const HWND Active = GetActiveWindow();
-    if (!Active || FindControl(Active) || Active == Application->Handle())
+    const bool IsOther = Component.Handle() && Active != Component.Handle();
+    if (!Active || IsOther || FindControl(Active) || Active == Application->Handle())
         return false;
     Take(Active, Component);
     return OldWndProc != nullptr;
@@ -59,9 +61,9 @@ void GiveBack()
 // Listing and translating send messages that lead here again.
 void Apply(void (*Step)(HWND), HWND Dialog)
 {
-    if (!Step || Working || Dialog == LeftAlone)
+    if (!Step || Dialog == Working || Dialog == LeftAlone)
         return;
-    Working = true;
+    const HWND Outer = std::exchange(Working, Dialog);
     try {
         Step(Dialog);
     } catch (...) {
@@ -70,7 +72,7 @@ void Apply(void (*Step)(HWND), HWND Dialog)
         LeftAlone = Dialog;
         Application->HandleException(nullptr);
     }
-    Working = false;
+    Working = Outer;
 }
 
 void Show(HWND Dialog)

@@ -1,5 +1,7 @@
 #include "Qct/DialogProps.h"
 
+#include <algorithm>
+#include <climits>
 #include <cstdint>
 
 #include "Qct/DialogFonts.h"
@@ -16,10 +18,12 @@ constexpr size_t MaxTextBytes = 239;
 // Not GetWindowTextA, which does not ask the window's procedure in each case.
 std::string TextOf(HWND Window)
 {
-    std::string Result(static_cast<size_t>(SendMessageA(Window, WM_GETTEXTLENGTH, 0, 0)) + 1, '\0');
+    // Negative answers are errors of some controls.
+    const LRESULT Most = std::max<LRESULT>(SendMessageA(Window, WM_GETTEXTLENGTH, 0, 0), 0);
+    std::string Result(static_cast<size_t>(Most) + 1, '\0');
     const LRESULT Length =
         SendMessageA(Window, WM_GETTEXT, Result.size(), reinterpret_cast<LPARAM>(Result.data()));
-    Result.resize(static_cast<size_t>(Length));
+    Result.resize(static_cast<size_t>(std::clamp<LRESULT>(Length, 0, Most)));
     return Result;
 }
 
@@ -96,7 +100,7 @@ int IdentifierIn(std::string_view Name, size_t Start)
 void SetCaption(HWND Dialog, int Identifier, const std::string& Text)
 {
     if (Identifier < 0)
-        SetDlgTextOfChild(GetWindow(Dialog, GW_CHILD), -Identifier, Text);
+        SetDlgTextOfChild(GetWindow(Dialog, GW_CHILD), -std::max(Identifier, -INT_MAX), Text);
     else if (const HWND Control = GetDlgItem(Dialog, Identifier))
         SetTextOf(Control, Text);
 }

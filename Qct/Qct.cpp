@@ -160,6 +160,9 @@ void TCommonDialogTranslator::TranslateDialog(HWND Dialog)
         const std::string Value = PlainValue(Line.Literal);
         if (!Value.empty() || FTranslateEmpty)
             SetDialogProp(Dialog, Line.Name, Value, Fonts());
+        // What the dialog does about it may have destroyed the translator.
+        if (Life.IsOver())
+            return;
     }
     if (OnTranslated)
         OnTranslated(this);
@@ -174,7 +177,7 @@ void TCommonDialogTranslator::GetProps(HWND Dialog)
 int TCommonDialogTranslator::GetDlgProps(TObject* Dialog, TStrings* Target)
 {
     auto* const Wanted = dynamic_cast<TCommonDialog*>(Dialog);
-    if (!Wanted || !CanScan(*Wanted) || Wanted->Handle() || OldWndProc || FScanning)
+    if (!Wanted || Wanted->Handle() || OldWndProc || DebugDlg)
         return 0;
     FPropTarget = Target;
     Scan(*Wanted);
@@ -206,7 +209,8 @@ void TCommonDialogTranslator::Scan(TCommonDialog& Dialog)
     DebugDlg = true;
     InternalTranslate(true);
     RegisterDialogClass(&Dialog.ClassType());
-    Dialog.Execute();
+    if (CanScan(Dialog))
+        Dialog.Execute();
     Application->ProcessMessages();
     if (End.Life.IsOver())
         return;
@@ -283,6 +287,7 @@ void TCommonDialogTranslator::WriteStorage(TWriter& Writer)
 
 void StartQct()
 {
+    Closing = false;
     SetDialogWork({[](HWND Dialog) {
                        if (qctInstance)
                            qctInstance->GetProps(Dialog);

@@ -71,7 +71,7 @@ public:
 
     // Shows Dialog, appends its lines to Target (some may come twice) and closes
     // it. Dialogs of other kinds than find, file, font, colour and print dialogs are
-    // not shown, nor is any while another dialog is taken or shown. Always 0.
+    // not shown; nothing happens while any dialog is taken or scanned. Always 0.
     int GetDlgProps(TObject* Dialog, TStrings* Target);
 
     // Registers the classes of all dialogs on the forms and data modules of the

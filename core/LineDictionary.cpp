@@ -56,7 +56,7 @@ void ExportLines(const std::string& FileName, const TSortList& Translations, con
 
 void ImportPairs(const TDictionaryPairs& Pairs, TSortList& Translations, const TSortList& Shown)
 {
-    TSortList Sources;
+    TSortList Sources(Translations.Kind());
     CollectSources(Translations, Shown, Sources);
     for (const auto& [Source, Translation] : Pairs) {
         int Position = -1;

@@ -16,5 +16,5 @@ void ExportLines(const std::string& FileName, const TSortList& Translations, con
 // Puts the translations of the source texts that Shown has into the lines of
 // Translations that are there already, in literal form where the line's value is
 // a literal. When several keys show the same text, one of them gets the
-// translation.
+// translation: in a list of the unique kind the last.
 void ImportPairs(const TDictionaryPairs& Pairs, TSortList& Translations, const TSortList& Shown);

@@ -390,7 +390,8 @@ TEST_F(TDialogs, ErrorsAreReported)
     EXPECT_EQ(Narrow.Files()->Count(), 0);
     TakeEvents();
     EXPECT_FALSE(ExecuteWith(Make<TColorDialog>(), {Pressing(IDCANCEL)}));
-    EXPECT_EQ(TakeEvents(), (TNames{"show", "close"}));
+    EXPECT_FALSE(ExecuteWith(Make<TOpenDialog>(), {Pressing(IDCANCEL)}));
+    EXPECT_EQ(TakeEvents(), (TNames{"show", "close", "show", "close"}));
 }
 
 TEST_F(TDialogs, PrintingIsChosen)

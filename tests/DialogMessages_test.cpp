@@ -339,6 +339,14 @@ TEST_F(TDialogs, ExceptionsOfHandlersGoToTheApplication)
     EXPECT_EQ(TakeEvents(), (TNames{"show", "error thrown"}));
 }
 
+bool DestroyOnCreate(TCommonDialog& Dialog, TMessage& Msg)
+{
+    if (Msg.Msg != WM_CREATE)
+        return Dialog.MessageHook(Msg);
+    delete &Dialog;
+    return false;
+}
+
 // A dialog from a handler of another one: each gets its own messages.
 TEST_F(TDialogs, Nest)
 {
@@ -391,6 +399,12 @@ TEST_F(TDialogs, LeaveNothingBehind)
             Find.CloseDialog();
     }
     EXPECT_EQ(WindowCount(), Windows);
+    {
+        const THookScope Hook(TFindDialog::MetaClass(), &DestroyOnCreate);
+        EXPECT_FALSE(Make<TFindDialog>().Execute());
+        Application->ProcessMessages();
+        EXPECT_EQ(WindowCount(), Windows);
+    }
     EXPECT_EQ(GetFocus(), Edit->Handle());
 }
 

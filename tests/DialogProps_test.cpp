@@ -97,6 +97,21 @@ TEST_F(DialogProps, LongTextsAreCut)
     EXPECT_EQ(List().substr(0, 250), "Caption='" + std::string(238, 'x') + "'\nF");
 }
 
+LRESULT CALLBACK NoTextProc(HWND Window, UINT Msg, WPARAM WParam, LPARAM LParam)
+{
+    if (Msg == WM_GETTEXTLENGTH || Msg == WM_GETTEXT)
+        return -1;
+    return DefWindowProcA(Window, Msg, WParam, LParam);
+}
+
+// Some controls answer the question for their text with an error.
+TEST_F(DialogProps, ControlsWithoutText)
+{
+    SetWindowLongPtrA(Open, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&NoTextProc));
+    EXPECT_EQ(List().find("Caption[1]"), std::string::npos);
+    EXPECT_NE(List().find("Width[1]=61"), std::string::npos);
+}
+
 // What each line changes in the list of lines.
 TEST_F(DialogProps, LinesAreApplied)
 {
@@ -110,6 +125,7 @@ TEST_F(DialogProps, LinesAreApplied)
         {"Caption[-2]", "second", "Caption[-2]='second'"},
         {"Caption[-4]", "fourth", "Caption[-4]='fourth'"},
         {"Caption[-9]", "nobody", ""},
+        {"Caption[-2147483648]", "nobody", ""},
         {"Caption[77]", "nobody", ""},
         {"caption[1]x", "", nullptr},
         {"Width", "320", "Width=321"},

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <fstream>
+#include <functional>
 #include <map>
 #include <set>
 
@@ -108,20 +109,30 @@ struct TQctDialogs : TDialogs {
         PostMessageA(Current->Handle(), WM_CLOSE, 0, 0);
     }
 
+    void Act(TObject*)
+    {
+        if (const auto Once = std::exchange(Action, nullptr))
+            Once();
+    }
+    void ActFirst(TObject*, bool&) { Act(nullptr); }
+
     TCommonDialogTranslator* Translator;
+    std::function<void()> Action;
     TCommonDialog* Current = nullptr;
     int Translated = 0;
 };
 
-// The lines without places, sizes and what follows from the machine's printer.
+// The lines without places, sizes and what follows from the machine's printer and
+// the current folder.
 std::string Comparable(const std::string& ClassName, const std::vector<std::string>& Lines)
 {
     const std::set<std::string> OfPrinter{"Caption[1098]", "Caption[1099]", "Caption[1100]",
                                           "Caption[1101]", "Caption[1136]", "Caption[1139]"};
+    const std::string Folder = "Caption[1137]";
     std::string Result;
     for (const std::string& Line : Lines) {
         const std::string Name = Line.substr(0, Line.find('='));
-        if (ClassName.starts_with("TPrint") && OfPrinter.contains(Name))
+        if (ClassName.starts_with("TPrint") ? OfPrinter.contains(Name) : Name == Folder)
             continue;
         const bool IsSize = Name.find("Caption") == Name.npos && Name.find("Font") == Name.npos;
         Result += (IsSize ? Name : Line) + "\n";
@@ -265,6 +276,55 @@ TEST_F(TQctDialogs, NothingIsScannedBesideAnOpenDialog)
     Find.CloseDialog();
     Application->ProcessMessages();
     EXPECT_EQ(OldWndProc, nullptr);
+}
+
+// Nothing of what handlers destroy is used afterwards, and the next dialog is
+// translated again.
+TEST_F(TQctDialogs, HandlersMayDestroyAndStop)
+{
+    const TMetaClass* const Some[] = {&TOpenDialog::MetaClass(), &TColorDialog::MetaClass(),
+                                      &TFontDialog::MetaClass(), &TFindDialog::MetaClass()};
+    const std::pair<const char*, std::function<void()>> Actions[] = {
+        {"translator", [this] { delete Translator; }},
+        {"dialog", [this] { delete Current; }},
+        {"form", [this] { DestroyForm(nullptr); }},
+        {"stop", [] { StopQct(); }},
+        {"stop and start",
+         [] {
+             StopQct();
+             StartQct();
+         }},
+        {"another dialog", [this] { ExecuteWith(New(TColorDialog::MetaClass()), {Pressing(IDCANCEL)}); }},
+    };
+    for (const TMetaClass* const Class : Some)
+        for (const auto& [Name, What] : Actions)
+            for (const bool Before : {true, false}) {
+                SCOPED_TRACE(Class->ClassName() + ", " + Name + (Before ? ", before" : ", after"));
+                DestroyForm(nullptr);
+                Form = new TForm(Application);
+                Form->Show();
+                Translator = new TCommonDialogTranslator(Form);
+                Use(Class->ClassName() + ".Caption='Ü'");
+                Current = &New(*Class);
+                StartQct();
+                HWND Window = nullptr;
+                Action = [&, &Perform = What] {
+                    Window = Current->Handle();
+                    Perform();
+                    PostMessageA(Window, WM_CLOSE, 0, 0);
+                };
+                if (Before)
+                    Translator->OnTranslate = {this, &TQctDialogs::ActFirst};
+                else
+                    Translator->OnTranslated = {this, &TQctDialogs::Act};
+                const TDialogUser User(*Current, {});
+                EXPECT_NO_THROW(Current->Execute());
+                while (!Window || IsWindow(Window))
+                    Application->HandleMessage();
+                EXPECT_EQ(OldWndProc, nullptr);
+                EXPECT_EQ(Application->ModalLevel(), 0);
+            }
+    EXPECT_EQ(TakeEvents(), TNames{});
 }
 
 TEST_F(TQctDialogs, ManyDialogsLeaveNothingBehind)

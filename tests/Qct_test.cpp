@@ -3,6 +3,7 @@
 #include "Qct/Qct.h"
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 
 #include <gtest/gtest.h>
@@ -31,6 +32,31 @@ class TOwnOpenDialog : public TOpenDialog {
     OBX_CLASS(TOpenDialog)
 public:
     using TOpenDialog::TOpenDialog;
+    bool Execute() override
+    {
+        ++Executed;
+        if (During)
+            During();
+        return false;
+    }
+    std::function<void()> During;
+    int Executed = 0;
+};
+class TOwnDialog : public TCommonDialog {
+    OBX_CLASS(TCommonDialog)
+public:
+    using TCommonDialog::TCommonDialog;
+    bool Execute() override
+    {
+        ++Executed;
+        return false;
+    }
+    int Executed = 0;
+};
+class TOwnColorDialog : public TColorDialog {
+public:
+    using TColorDialog::FHandle;
+    using TColorDialog::TColorDialog;
 };
 const TMetaClass& TOwnFindDialog::MetaClass()
 {
@@ -40,6 +66,12 @@ const TMetaClass& TOwnFindDialog::MetaClass()
 const TMetaClass& TOwnOpenDialog::MetaClass()
 {
     static const TMetaClass Class("TOwnOpenDialog", &inherited::MetaClass(), CreateComponent<TOwnOpenDialog>);
+    return Class;
+}
+
+const TMetaClass& TOwnDialog::MetaClass()
+{
+    static const TMetaClass Class("TOwnDialog", &inherited::MetaClass(), CreateComponent<TOwnDialog>);
     return Class;
 }
 
@@ -108,6 +140,8 @@ struct TWindow {
     {
         if (Msg == 1324)
             ++Swallowed;
+        if (const auto Once = Msg == WM_SETTEXT ? std::exchange(OnText, nullptr) : nullptr)
+            Once();
         return Msg == WM_CLOSE || Msg == WM_CTLCOLORDLG ? 0 : DefWindowProcA(Window, Msg, WParam, LParam);
     }
     std::string Title() const
@@ -120,6 +154,7 @@ struct TWindow {
 
     HWND Handle;
     static inline int Swallowed = 0;
+    static inline std::function<void()> OnText;
 };
 
 // As the framework tells a find dialog that the window gets the focus.
@@ -258,6 +293,22 @@ TEST_F(Qct, TheProcedureComesAndGoes)
     EXPECT_EQ(Errors, "");
 }
 
+// A message box of a handler, for instance, may be active while the dialog is shown.
+TEST_F(Qct, OnlyTheDialogItselfIsTaken)
+{
+    TOwnColorDialog Dialog(AddForm("Form1"));
+    RegisterDialogClass(&TColorDialog::MetaClass());
+    TWindow Own, Box;
+    Dialog.FHandle = Own.Handle;
+    for (const TWindow* const Active : {&Box, &Own}) {
+        ShowWindow(Active->Handle, SW_SHOW);
+        SetActiveWindow(Active->Handle);
+        ASSERT_EQ(GetActiveWindow(), Active->Handle);
+        Focus(Dialog, nullptr, WM_ENTERIDLE);
+        EXPECT_EQ(OldWndProc != nullptr, Active == &Own);
+    }
+}
+
 // An error in a dialog came again with every painting.
 TEST_F(Qct, AMalformedLineIsToldOnceForEachDialog)
 {
@@ -348,6 +399,64 @@ TEST_F(Qct, HandlersMaySkipAndDestroy)
     Translator.OnTranslate = {&Handlers, &THandlers::Destroy};
     Translator.TranslateDialog(Window.Handle);
     EXPECT_EQ(qctInstance, nullptr);
+
+    auto* Second = &Add(Form, 0, "TFindDialog.Caption='Sök'\r\nTFindDialog.Width=120");
+    Second->OnTranslated = {&Handlers, &THandlers::Done};
+    SetWindowTextA(Window.Handle, "title");
+    TWindow::OnText = [&] { delete std::exchange(Second, nullptr); };
+    Handlers.Log.clear();
+    Second->TranslateDialog(Window.Handle);
+    EXPECT_EQ(qctInstance, nullptr) << "destroyed by what a control does with its text";
+    EXPECT_EQ(Handlers.Log, "");
+}
+
+TEST_F(Qct, AHandlerMayCloseTheDialogAndShowAnother)
+{
+    TForm* const Form = AddForm("Form1");
+    auto* const Dialog = new TFindDialog(Form);
+    Add(Form, 0, "TFindDialog.Caption='Sök'").Loaded();
+    TWindow First, Second;
+    Focus(*Dialog, First.Handle);
+    TWindow::OnText = [&] {
+        SendMessageA(First.Handle, WM_CLOSE, 0, 0);
+        Focus(*Dialog, nullptr, WM_CREATE);
+        Focus(*Dialog, Second.Handle);
+        SendMessageA(Second.Handle, WM_ACTIVATE, WA_ACTIVE, 0);
+    };
+    SendMessageA(First.Handle, WM_ACTIVATE, WA_ACTIVE, 0);
+    EXPECT_EQ(Second.Title(), "Sök");
+}
+
+TEST_F(Qct, ScansOfOtherKindsOnlyRegister)
+{
+    TForm* const Form = AddForm("Form1");
+    TOwnDialog Dialog(Form);
+    TCommonDialogTranslator& Translator = Add(Form, Swedish);
+    Add(Form, German);
+    TStringList Lines;
+    EXPECT_EQ(Translator.GetDlgProps(&Dialog, &Lines), 0);
+    EXPECT_EQ(Dialog.Executed + Lines.Count(), 0);
+    EXPECT_EQ(qctInstance, &Translator);
+    EXPECT_EQ(ClassRegs, (std::vector<const TMetaClass*>{&TOwnDialog::MetaClass()}));
+}
+
+// It ended the outer scan, whose dialog then waited for the user.
+TEST_F(Qct, AScanWithinAScanIsRefused)
+{
+    TForm* const Form = AddForm("Form1");
+    TOwnOpenDialog Outer(Form), Inner(Form);
+    TCommonDialogTranslator& Translator = Add(Form, Swedish);
+    TCommonDialogTranslator& Other = Add(Form, German);
+    TStringList Lines;
+    Outer.During = [&] {
+        Other.GetDlgProps(&Inner, &Lines);
+        EXPECT_TRUE(DebugDlg);
+        EXPECT_EQ(qctInstance, &Translator);
+    };
+    Translator.GetDlgProps(&Outer, &Lines);
+    EXPECT_EQ(Outer.Executed, 1);
+    EXPECT_EQ(Inner.Executed, 0);
+    EXPECT_FALSE(DebugDlg);
 }
 
 TEST_F(Qct, FormFilesKeepLinesAndOriginals)
@@ -410,5 +519,12 @@ TEST_F(Qct, FilesKeepOthersLines)
     EXPECT_EQ(LinesOf(*Translator.Translations()),
               "TOpenDialog.Caption='Öppna fil'\nTOpenDialog.Caption[1]='Öppna'\n");
     EXPECT_FALSE(Translator.TranslateFrom(Folder + "/missing.txt"));
+    Originals.SetText("TOpenDialog.Caption='Open'\nTOpenDialog.Caption[1]='Open'");
+    Translator.SetOriginals(&Originals);
+    ReplaceWholeFile(Dictionary, "Open\tVälj\r\n");
+    EXPECT_TRUE(Translator.TranslateFrom(Dictionary));
+    EXPECT_EQ(LinesOf(*Translator.Translations()),
+              "TOpenDialog.Caption='Öppna fil'\nTOpenDialog.Caption[1]='Välj'\n")
+        << "the last one of that text";
     std::filesystem::remove_all(Folder);
 }

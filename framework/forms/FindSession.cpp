@@ -68,7 +68,8 @@ bool TFindSession::Show(TFindDialog::TShowFunction Function, DWORD Flags)
     FData.Flags = Flags | FR_ENABLEHOOK;
     if (!FOwner || !FDialog)
         return false;
-    if (!Function(&FData))
+    // One that was shown has gone again, with its form.
+    if (!Function(&FData) && !FShown)
         TCommonDialog::CheckError();
     return FWindow && FDialog;
 }
@@ -112,6 +113,8 @@ LRESULT CALLBACK TFindSession::OwnerProc(HWND Window, UINT Msg, WPARAM WParam, L
     if (Msg == WM_NCCREATE) {
         const auto* const Create = reinterpret_cast<const CREATESTRUCTA*>(LParam);
         SetWindowLongPtrA(Window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(Create->lpCreateParams));
+        // Handlers of WM_CREATE may already destroy the component.
+        static_cast<TFindSession*>(Create->lpCreateParams)->FOwner = Window;
     }
     auto* const Session = reinterpret_cast<TFindSession*>(GetWindowLongPtrA(Window, GWLP_USERDATA));
     if (!Session || Msg == WM_NCCREATE)
@@ -162,6 +165,7 @@ void TFindSession::HandleDialog(HWND Window, const TMessage& Msg)
 void TFindSession::Initialised(HWND Window)
 {
     FWindow = Window;
+    FShown = true;
     CentreWindow(Window, FForm);
     if (FDialog)
         FDialog->Shown(Window);

@@ -42,5 +42,6 @@ private:
     HWND FForm;             // the form over which the dialog stands
     HWND FOwner = nullptr;  // the hidden window
     HWND FWindow = nullptr; // the dialog
-    int FDepth = 0;         // of messages that are being answered
+    bool FShown = false;
+    int FDepth = 0; // of messages that are being answered
 };
