@@ -128,11 +128,15 @@ std::string Comparable(const std::string& ClassName, const std::vector<std::stri
 {
     const std::set<std::string> OfPrinter{"Caption[1098]", "Caption[1099]", "Caption[1100]",
                                           "Caption[1101]", "Caption[1136]", "Caption[1139]"};
-    const std::string Folder = "Caption[1137]";
+    const std::set<std::string> OfFolder{"Caption[1137]"};
+    const std::set<std::string> None;
+    const auto& Passed = ClassName.starts_with("TPrint")                            ? OfPrinter
+                         : ClassName == "TOpenDialog" || ClassName == "TSaveDialog" ? OfFolder
+                                                                                    : None;
     std::string Result;
     for (const std::string& Line : Lines) {
         const std::string Name = Line.substr(0, Line.find('='));
-        if (ClassName.starts_with("TPrint") ? OfPrinter.contains(Name) : Name == Folder)
+        if (Passed.contains(Name))
             continue;
         const bool IsSize = Name.find("Caption") == Name.npos && Name.find("Font") == Name.npos;
         Result += (IsSize ? Name : Line) + "\n";
