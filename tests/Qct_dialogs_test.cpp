@@ -370,6 +370,8 @@ TEST_F(TQctDialogs, ManyDialogsLeaveNothingBehind)
         }
     }
     EXPECT_EQ(CountWindows(), Windows);
-    EXPECT_LE(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS), Objects);
     EXPECT_EQ(OldWndProc, nullptr);
+    if (Objects == 0)
+        GTEST_SKIP() << "Wine does not count drawing objects";
+    EXPECT_LE(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS), Objects);
 }
