@@ -1,0 +1,37 @@
+#include "editors/Editors.h"
+
+#include "core/TranslatorEditors.h"
+#include "editors/Qftedit.h"
+#include "orbilex_editors.h"
+
+namespace {
+
+struct TEditorOf {
+    const TMetaClass& (*Translator)();
+    TTranslatorEditor Editor;
+};
+
+constexpr TEditorOf All[] = {
+    {TFormTranslator::MetaClass, TTranslationEditor::Edit<TFormEditor>},
+};
+
+int Starts = 0;
+
+} // namespace
+
+void StartEditors()
+{
+    if (Starts++ > 0)
+        return;
+    RegisterOrbilexEditors();
+    for (const TEditorOf& Each : All)
+        SetTranslatorEditor(Each.Translator(), Each.Editor);
+}
+
+void StopEditors()
+{
+    if (Starts == 0 || --Starts > 0)
+        return;
+    for (const TEditorOf& Each : All)
+        SetTranslatorEditor(Each.Translator(), nullptr);
+}
