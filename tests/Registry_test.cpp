@@ -1,16 +1,13 @@
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <filesystem>
 #include <string>
 #include <thread>
 #include <vector>
 
+#include "RegistryScope.h"
 #include "platform/winapi.h"
 
 namespace {
-
-constexpr char TestKey[] = "Software\\Orbilex test";
 
 LPBYTE Bytes(std::string& Text)
 {
@@ -21,25 +18,11 @@ class Registry : public testing::Test {
 protected:
     void SetUp() override
     {
-#ifndef _WIN32
-        Folder =
-            std::filesystem::temp_directory_path() / ("registry" + std::to_string(GetCurrentProcessId()));
-        setenv("ORBILEX_REGISTRY", Folder.c_str(), 1);
-#endif
-        RegDeleteTreeA(HKEY_CURRENT_USER, TestKey);
-        ASSERT_EQ(RegCreateKeyExA(HKEY_CURRENT_USER, TestKey, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &Key,
+        ASSERT_EQ(RegCreateKeyExA(HKEY_CURRENT_USER, Scope.Key, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &Key,
                                   nullptr),
                   0);
     }
-    void TearDown() override
-    {
-        RegCloseKey(Key);
-        RegDeleteTreeA(HKEY_CURRENT_USER, TestKey);
-        RegDeleteKeyA(HKEY_CURRENT_USER, TestKey);
-        std::error_code Error;
-        if (!Folder.empty())
-            std::filesystem::remove_all(Folder, Error);
-    }
+    void TearDown() override { RegCloseKey(Key); }
 
     LSTATUS Write(const char* Name, DWORD Kind, const std::string& Data)
     {
@@ -56,8 +39,8 @@ protected:
         return Data;
     }
 
+    const TRegistryScope Scope;
     HKEY Key = nullptr;
-    std::filesystem::path Folder;
 };
 
 // Names with the file's own signs must not become other keys or values.
@@ -135,6 +118,22 @@ TEST_F(Registry, KeysAreATree)
     EXPECT_EQ(RegDeleteKeyA(Key, "b\\c"), 0);
     EXPECT_EQ(RegDeleteKeyA(Key, "b"), 0);
     EXPECT_EQ(RegOpenKeyExA(Key, "b", 0, KEY_READ, &Sub), static_cast<LSTATUS>(ERROR_FILE_NOT_FOUND));
+}
+
+TEST_F(Registry, NamesHaveLimits)
+{
+    const std::string Wide = "\xE6\x97\xA5"; // one unit, three bytes
+    std::string LongestName, LongKey;
+    for (int Index = 0; Index < 16383; ++Index)
+        LongestName += Wide;
+    for (int Index = 0; Index < 250; ++Index)
+        LongKey += Wide;
+    EXPECT_EQ(Write(LongestName.c_str(), REG_SZ, "x"), 0);
+    EXPECT_EQ(Write((LongestName + "x").c_str(), REG_SZ, "x"), static_cast<LSTATUS>(ERROR_INVALID_PARAMETER));
+    HKEY Sub = nullptr;
+    EXPECT_EQ(RegCreateKeyA(Key, LongKey.c_str(), &Sub), 0);
+    RegCloseKey(Sub);
+    EXPECT_NE(RegCreateKeyA(Key, ("a\\" + LongKey + LongKey).c_str(), &Sub), 0);
 }
 
 TEST_F(Registry, WritersAtTheSameTimeLoseNothing)

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "platform/portable/Control.h"
 #include "platform/portable/Handles.h"
 #include "platform/portable/RegistryFile.h"
 #include "platform/portable/Window.h"
@@ -50,6 +51,22 @@ std::string Join(const std::string& Path, LPCSTR Below)
     if (!Below || !*Below)
         return Path;
     return Path.empty() ? Below : Path + "\\" + Below;
+}
+
+// Of names, in UTF-16 units.
+constexpr std::size_t LongestKeyName = 255;
+constexpr std::size_t LongestValueName = 16383;
+
+bool HasLongName(LPCSTR Path)
+{
+    const std::string Names = Path ? Path : "";
+    for (std::size_t Start = 0; Start < Names.size();) {
+        const std::size_t End = std::min(Names.find('\\', Start), Names.size());
+        if (Widen(Names.substr(Start, End - Start)).size() > LongestKeyName)
+            return true;
+        Start = End + 1;
+    }
+    return false;
 }
 
 HKEY Remember(const TOpenKey& Key)
@@ -135,7 +152,7 @@ LSTATUS RegCreateKeyExA(HKEY Handle, LPCSTR Path, DWORD, LPSTR, DWORD, REGSAM, c
     TOpenKey Key;
     if (!Resolve(Handle, Key))
         return ERROR_INVALID_HANDLE;
-    if (!Result)
+    if (!Result || HasLongName(Path))
         return ERROR_INVALID_PARAMETER;
     Key.Path = Join(Key.Path, Path);
     bool Created = false;
@@ -211,6 +228,8 @@ LSTATUS RegSetValueExA(HKEY Handle, LPCSTR Name, DWORD, DWORD Kind, const BYTE* 
     const bool IsText = Kind == REG_SZ || Kind == REG_EXPAND_SZ || Kind == REG_MULTI_SZ;
     if (IsText && !Bytes.empty() && Bytes.back() != 0 && Data[Size] == 0)
         Bytes += '\0';
+    if (Name && Widen(Name).size() > LongestValueName)
+        return ERROR_INVALID_PARAMETER;
     return Modify(Handle, [&](TRegistryKey& Key) {
         Key.Values[Name ? Name : ""] = {Kind, Bytes};
         return ERROR_SUCCESS;
