@@ -2,6 +2,7 @@
 
 #include "core/TranslatorEditors.h"
 #include "editors/Qftedit.h"
+#include "framework/forms/StandardClasses.h"
 #include "orbilex_editors.h"
 
 namespace {
@@ -23,6 +24,7 @@ void StartEditors()
 {
     if (Starts++ > 0)
         return;
+    RegisterStandardClasses();
     RegisterOrbilexEditors();
     for (const TEditorOf& Each : All)
         SetTranslatorEditor(Each.Translator(), Each.Editor);

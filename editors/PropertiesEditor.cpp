@@ -109,7 +109,7 @@ void TPropertiesEditor::RemoveSelected()
 void TPropertiesEditor::RefreshPropList()
 {
     EmptyBox();
-    const int Chosen = PropList->ItemIndex();
+    const int Chosen = ChosenItem();
     const std::string ChosenKey = Chosen >= 0 ? Key(Chosen) : "";
     TStringList Keys;
     std::unordered_set<std::string> Included;

@@ -139,7 +139,7 @@ void TTranslationEditor::NotebookChange(TObject*)
 void TTranslationEditor::PropListClick(TObject*)
 {
     LeaveBox();
-    const int Item = PropList->ItemIndex();
+    const int Item = ChosenItem();
     SetBoxEnabled(Item >= 0);
     BtnRemove->SetEnabled(PropList->SelCount() > 0);
     if (Item < 0) {
@@ -151,6 +151,11 @@ void TTranslationEditor::PropListClick(TObject*)
     EdtOrgTranslation->SetText(Original(Item));
     FShown = EdtTranslation->Text();
     FItem = Item;
+}
+
+int TTranslationEditor::ChosenItem() const
+{
+    return PropList->SelCount() > 0 ? PropList->ItemIndex() : -1;
 }
 
 void TTranslationEditor::SetBoxEnabled(bool Value)
@@ -269,7 +274,7 @@ void TTranslationEditor::Step(int Direction)
 {
     LeaveBox();
     const int Last = PropList->Items()->Count() - 1;
-    int Item = PropList->ItemIndex();
+    int Item = ChosenItem();
     if (Last < 0)
         return;
     do

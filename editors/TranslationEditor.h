@@ -131,6 +131,9 @@ protected:
     void SetModified() { FModified = true; }
     // Stores what was typed.
     void LeaveBox();
+    // The item that is shown, or is to be: the one with the focus, as long as any is
+    // selected; -1 for none.
+    int ChosenItem() const;
     // Selects an item, alone, and shows it; -1 for none.
     void ChooseItem(int Item);
     // Forgets the item in the box: its list has changed.
