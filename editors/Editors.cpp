@@ -1,6 +1,7 @@
 #include "editors/Editors.h"
 
 #include "core/TranslatorEditors.h"
+#include "editors/Qctedit.h"
 #include "editors/Qftedit.h"
 #include "framework/forms/StandardClasses.h"
 #include "orbilex_editors.h"
@@ -14,6 +15,7 @@ struct TEditorOf {
 
 constexpr TEditorOf All[] = {
     {TFormTranslator::MetaClass, TTranslationEditor::Edit<TFormEditor>},
+    {TCommonDialogTranslator::MetaClass, TTranslationEditor::Edit<TDlgEditor>},
 };
 
 int Starts = 0;
