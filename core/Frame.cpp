@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/TranslatorEditors.h"
 #include "framework/design/ToolServices.h"
 #include "framework/forms/Application.h"
 #include "framework/rtl/Filer.h"
@@ -163,6 +164,47 @@ void TTranslatorFrame::FollowLocale(bool Value)
         else if (Value)
             Other.InternalTranslate(false);
     });
+}
+
+// All translators of a kind are off from its creation to its end.
+class TTranslatorFrame::TPause {
+public:
+    explicit TPause(const TMetaClass& Kind)
+    {
+        for (const TLiving& Each : Living())
+            if (&Each.Frame->FKind == &Kind && Each.Frame->Translate())
+                FOn.emplace_back(Each.Frame, TLife(*Each.Frame));
+        for (const auto& [Frame, Life] : FOn)
+            if (!Life.IsOver())
+                Frame->InternalTranslate(false);
+    }
+    void End()
+    {
+        for (auto Each = FOn.rbegin(); Each != FOn.rend(); ++Each)
+            if (!Each->second.IsOver())
+                Each->first->InternalTranslate(true);
+        // Also those that have nothing to show, or are being designed.
+        for (const auto& [Frame, Life] : FOn)
+            if (!Life.IsOver())
+                Frame->FTranslate = true;
+    }
+
+private:
+    std::vector<std::pair<TTranslatorFrame*, TLife>> FOn;
+};
+
+bool TTranslatorFrame::ShowEditor()
+{
+    const TTranslatorEditor Edit = GetTranslatorEditor(FKind);
+    TPause Pause(FKind);
+    try {
+        const bool Changed = Edit(*this);
+        Pause.End();
+        return Changed;
+    } catch (...) {
+        Pause.End();
+        throw;
+    }
 }
 
 std::vector<TTranslatorFrame*> TTranslatorFrame::Peers() const

@@ -59,6 +59,13 @@ public:
     virtual bool LoadFrom(const std::string& FileName) = 0;
     virtual void SaveTo(const std::string& FileName) = 0;
 
+    // Edits the translations in the dialog for translators of this kind
+    // (TranslatorEditors.h). All of the kind are switched off meanwhile, each by
+    // itself, and those that were on are switched on again in reverse order. True
+    // when the user closed it with OK after a change.
+    // Throws EClassNotFound when the program has no such dialog.
+    virtual bool ShowEditor();
+
     // The folder, with the separator at its end, of the program; in the designer
     // that of the open project. Empty when neither is known.
     std::string GetAppDir() const;
@@ -119,6 +126,8 @@ protected:
     bool FTranslate = true;
 
 private:
+    class TPause;
+
     template<class TWanted>
     std::vector<TTranslatorFrame*> Others(const TWanted& Wanted) const;
     template<class TSwitch>

@@ -1,6 +1,6 @@
 #include "demo/BerthsForm.h"
 
-#include "demo/FormParts.h"
+#include "framework/forms/FormParts.h"
 #include "framework/forms/ListViews.h"
 
 TBerthsForm* BerthsForm = nullptr;

@@ -1,6 +1,6 @@
 #include "demo/BookingForm.h"
 
-#include "demo/FormParts.h"
+#include "framework/forms/FormParts.h"
 #include "framework/forms/ComboBoxes.h"
 #include "framework/forms/Edits.h"
 #include "framework/forms/LabeledEdits.h"

@@ -1,6 +1,6 @@
 #include "demo/DialogsForm.h"
 
-#include "demo/FormParts.h"
+#include "framework/forms/FormParts.h"
 #include "framework/forms/Dialogs.h"
 #include "framework/forms/Edits.h"
 #include "framework/forms/PushButtons.h"

@@ -1,7 +1,7 @@
 #include "demo/LanguageForm.h"
 
 #include "Qlt/Qlt.h"
-#include "demo/FormParts.h"
+#include "framework/forms/FormParts.h"
 #include "framework/forms/ComboBoxes.h"
 #include "framework/forms/GroupBoxes.h"
 #include "framework/forms/Labels.h"

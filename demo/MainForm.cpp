@@ -8,7 +8,7 @@
 #include "demo/AboutForm.h"
 #include "demo/BookingForm.h"
 #include "demo/DialogsForm.h"
-#include "demo/FormParts.h"
+#include "framework/forms/FormParts.h"
 #include "demo/Language.h"
 #include "demo/LanguageForm.h"
 #include "demo/MessagesForm.h"

@@ -1,7 +1,7 @@
 #include "demo/OptionsForm.h"
 
 #include "demo/AboutForm.h"
-#include "demo/FormParts.h"
+#include "framework/forms/FormParts.h"
 #include "framework/forms/ComboBoxes.h"
 #include "framework/forms/PageControls.h"
 #include "framework/forms/PushButtons.h"

@@ -4,7 +4,7 @@
 #include "Qlt/Qlt.h"
 #include "demo/BerthsForm.h"
 #include "demo/CrewForm.h"
-#include "demo/FormParts.h"
+#include "framework/forms/FormParts.h"
 #include "demo/Language.h"
 #include "framework/forms/Menus.h"
 

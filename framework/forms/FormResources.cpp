@@ -43,7 +43,12 @@ bool InitInheritedComponent(TComponent& Instance, const TMetaClass& RootAncestor
             Classes.push_back(Class);
     if (!Resources().Loader)
         return false;
-    for (auto Class = Classes.rbegin(); Class != Classes.rend(); ++Class)
+    // The descendant's file names it, unless it has a name already.
+    const bool Named = !Instance.Name().empty();
+    for (auto Class = Classes.rbegin(); Class != Classes.rend(); ++Class) {
+        if (!Named)
+            Instance.SetName("");
         Resources().Loader(Instance, (*Class)->ClassName());
+    }
     return !Classes.empty();
 }
