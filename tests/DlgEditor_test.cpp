@@ -122,7 +122,12 @@ TEST_F(TDlgEditorTest, EveryDialogIsScannedOverTheEditor)
         EXPECT_TRUE(PartOf<TListBox>(Editor, "PropList").Focused());
         EXPECT_EQ(OldWndProc, nullptr);
     });
-    User.Page("Dialogs")
+    User.Do([](TForm& Editor) { Editor.SetWidth(Editor.Width() + 100); })
+        .Page("Dialogs")
+        .Do([](TForm& Editor) {
+            EXPECT_EQ(PartOf<TListBox>(Editor, "ListAvail").Width(), 452);
+            EXPECT_EQ(PartOf<TButton>(Editor, "BtnRescan").Left(), 486);
+        })
         .Select("ListAvail", {"TOpenDialog.Caption", "TOpenDialog.Width", "TFontDialog.Font.Charset"})
         .Do([](TForm& Editor) { EXPECT_EQ(PartOf<TLabel>(Editor, "LblSelected").Caption(), "3 Selected"); })
         .Click("BtnIncludeProp")

@@ -83,6 +83,8 @@ TPageControl::~TPageControl()
 void TPageControl::Loaded()
 {
     TCustomTabControl::Loaded();
+    for (TTabSheet* const Page : FPages)
+        GiveRoom(*Page);
     if (!FActivePage)
         SetActivePage(FindNextPage(nullptr, true, true));
 }
@@ -194,10 +196,19 @@ void TPageControl::ChangeActivePage(TTabSheet* Page)
         Old->SetVisible(false);
 }
 
+// The controls on a page that was never shown, too, keep their distances from its
+// edges.
+void TPageControl::GiveRoom(TTabSheet& Page)
+{
+    Page.SetBoundsRect(DisplayRect());
+}
+
 void TPageControl::InsertPage(TTabSheet* Page)
 {
     FPages.push_back(Page);
     Page->FPageControl = this;
+    if (!HasState(csLoading))
+        GiveRoom(*Page);
     PagesChanged();
 }
 

@@ -146,6 +146,7 @@ protected:
 
 private:
     TTabSheet* PageOfTab(int Index) const;
+    void GiveRoom(TTabSheet& Page);
     void InsertPage(TTabSheet* Page);
     void RemovePage(TTabSheet* Page);
     void MovePage(TTabSheet* Page, int Index);
