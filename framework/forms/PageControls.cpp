@@ -196,6 +196,13 @@ void TPageControl::ChangeActivePage(TTabSheet* Page)
         Old->SetVisible(false);
 }
 
+void TPageControl::FlipChildren(bool AllLevels)
+{
+    for (TTabSheet* const Page : FPages)
+        if (AllLevels)
+            Page->FlipChildren(true);
+}
+
 // The controls on a page that was never shown, too, keep their distances from its
 // edges.
 void TPageControl::GiveRoom(TTabSheet& Page)

@@ -136,6 +136,8 @@ public:
     void Loaded() override;
     void GetChildren(const std::function<void(TComponent*)>& Visit, TComponent* Root) override;
     void SetChildOrder(TComponent* Child, int Order) override;
+    // The pages stay where they are.
+    void FlipChildren(bool AllLevels) override;
 
 protected:
     friend class TTabSheet;
