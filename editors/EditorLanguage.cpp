@@ -4,10 +4,16 @@
 
 #include "Qft/Qft.h"
 #include "Qrt/Qrt.h"
+#include "core/TranslationsFile.h"
 #include "framework/forms/Forms.h"
-#include "framework/rtl/FileNames.h"
+#include "framework/rtl/SysUtils.h"
 
 namespace {
+
+// In the file, the texts that the forms have from their ancestor, and those that are
+// on no form.
+constexpr char SharedForm[] = "TranslationEditor";
+constexpr char SharedTexts[] = "Editors";
 
 int ChosenLocale = 0;
 
@@ -22,6 +28,32 @@ int LanguageOf(int Lcid)
     return 0;
 }
 
+// What is to be said by the program while the form is there. Its translator goes
+// with the form. Both have no locale in the end: peers are switched together, and
+// these are the editor's alone.
+void TranslateTexts(TForm& Form, const std::string& FileName, int Locale)
+{
+    auto* const Owner = new TComponent(&Form);
+    Owner->SetName(SharedTexts);
+    auto& Translator = *new TResourceTranslator(Owner);
+    Translator.InternalTranslate(false);
+    Translator.SetLocale(Locale);
+    Translator.LoadFrom(FileName);
+    Translator.SetLocale(0);
+    Translator.InternalTranslate(true);
+}
+
+void TranslateForm(TForm& Form, const std::string& FileName, int Locale)
+{
+    auto& Translator = *new TFormTranslator(&Form);
+    Translator.InternalTranslate(false);
+    TSortList Lines;
+    LoadTranslations(FileName, {SharedForm, Locale}, Lines);
+    LoadTranslations(FileName, {Form.Name(), Locale}, Lines);
+    Translator.SetTranslations(&Lines);
+    Translator.InternalTranslate(true);
+}
+
 } // namespace
 
 void SetEditorLocale(int Lcid)
@@ -33,16 +65,27 @@ void TranslateEditor(TForm& Form)
 {
     const std::string FileName = ExtractFilePath(Application->ExeName()) + "editors.lng";
     const int Locale = LanguageOf(ChosenLocale ? ChosenLocale : static_cast<int>(GetUserDefaultLCID()));
-    if (Locale == 0)
+    if (Locale == 0 || !FileExists(FileName))
         return;
-    const auto Load = [&](TTranslatorFrame& Translator) {
-        Translator.InternalTranslate(false);
-        Translator.SetLocale(Locale);
-        if (Translator.LoadFrom(FileName))
-            Translator.InternalTranslate(true);
-        // Peers are switched together, and these two are the editor's alone.
-        Translator.SetLocale(0);
-    };
-    Load(*new TResourceTranslator(&Form));
-    Load(*new TFormTranslator(&Form));
+    TranslateTexts(Form, FileName, Locale);
+    TranslateForm(Form, FileName, Locale);
+    if (Form.UseRightToLeftAlignment())
+        Form.FlipChildren(true);
+}
+
+TPlainTextsScope::TPlainTextsScope(const TForm& Form)
+{
+    const TComponent* const Owner = Form.FindComponent(SharedTexts);
+    for (int I = 0; Owner && I < Owner->ComponentCount(); ++I)
+        if (auto* const Each = dynamic_cast<TTranslatorFrame*>(Owner->Components(I));
+            Each && Each->Translate()) {
+            FPaused.push_back(Each);
+            Each->InternalTranslate(false);
+        }
+}
+
+TPlainTextsScope::~TPlainTextsScope()
+{
+    for (TTranslatorFrame* const Each : FPaused)
+        Each->InternalTranslate(true);
 }
