@@ -426,6 +426,21 @@ TEST_F(TFormEditorTest, TranslatorMayGoWhileItsEditorIsOpen)
     EXPECT_FALSE(Edit(Asked));
 }
 
+// Edited, lists that are filled in part would lose the rest.
+struct TFailingForm : TFormEditorScene {
+    void Fail(TObject*, TComponent*, TStrings*, bool&) { throw EInvalidOperation("not now"); }
+};
+
+TEST_F(TFailingForm, IsNotEdited)
+{
+    Have(Five);
+    Translator->OnTranslateComponent = {this, &TFailingForm::Fail};
+    TFormUser User;
+    EXPECT_FALSE(Edit(User));
+    EXPECT_EQ(std::exchange(Errors, {}), TTexts{"not now"});
+    EXPECT_EQ(Lines(), Five);
+}
+
 TEST_F(TFormEditorTest, IsNoPartOfProgramsWithoutEditors)
 {
     StopEditors();
