@@ -1,5 +1,7 @@
 #include "editors/ListSearch.h"
 
+#include <utility>
+
 #include "framework/rtl/Texts.h"
 
 namespace {
@@ -22,12 +24,12 @@ TListSearch::TListSearch(TListBox& List) : FList(List)
 
 void TListSearch::KeyPress(TObject*, char& Key)
 {
+    const DWORD Now = GetTickCount();
+    if (Now - std::exchange(FLastKey, Now) > Pause)
+        FTyped.clear();
+    // A space by itself selects the item with the focus.
     if (static_cast<unsigned char>(Key) < ' ' || (Key == ' ' && FTyped.empty()))
         return;
-    const DWORD Now = GetTickCount();
-    if (Now - FLastKey > Pause)
-        FTyped.clear();
-    FLastKey = Now;
     const bool Again = FTyped == std::string(1, Key);
     if (!Again)
         FTyped += Key;

@@ -1,11 +1,36 @@
 #include "editors/OriginalProps.h"
 
+#include <algorithm>
+
 #include "core/KeyLines.h"
 #include "core/Literals.h"
+#include "framework/rtl/SysUtils.h"
 
 bool IsStringLiteral(std::string_view Value)
 {
     return Value.starts_with('\'') || Value.starts_with('#');
+}
+
+std::string ShownText(std::string_view Value)
+{
+    try {
+        return FromLiterals(Value);
+    } catch (const EConvertError&) {
+        return std::string(Value);
+    }
+}
+
+std::string StoredText(const std::string& Text, std::string_view FormerValue)
+{
+    const bool CanStandBare = std::none_of(Text.begin(), Text.end(), [](char Each) {
+        return Each == '\'' || Each == '#' || static_cast<unsigned char>(Each) < ' ';
+    });
+    return IsStringLiteral(FormerValue) || !CanStandBare ? ToLiterals(Text) : Text;
+}
+
+std::string_view WholeValueOf(std::string_view Line)
+{
+    return ValueOf(Line, Line.size());
 }
 
 void TOriginalProps::Assign(const TStrings& Lines)
@@ -13,13 +38,13 @@ void TOriginalProps::Assign(const TStrings& Lines)
     Clear();
     FLines.Assign(&Lines);
     for (int I = 0; I < Lines.Count(); ++I)
-        FValues.try_emplace(std::string(KeyOf(Lines.Get(I))), ValueOf(Lines.Get(I)));
+        FValues.try_emplace(std::string(KeyOf(Lines.Get(I))), WholeValueOf(Lines.Get(I)));
 }
 
 void TOriginalProps::AddNew(const TStrings& Lines)
 {
     for (int I = 0; I < Lines.Count(); ++I)
-        if (FValues.try_emplace(std::string(KeyOf(Lines.Get(I))), ValueOf(Lines.Get(I))).second)
+        if (FValues.try_emplace(std::string(KeyOf(Lines.Get(I))), WholeValueOf(Lines.Get(I))).second)
             FLines.Add(Lines.Get(I));
 }
 
@@ -38,7 +63,7 @@ const std::string* TOriginalProps::Find(const std::string& Key) const
 std::string TOriginalProps::Text(const std::string& Key) const
 {
     const std::string* const Value = Find(Key);
-    return Value ? FromLiterals(*Value) : "";
+    return Value ? ShownText(*Value) : "";
 }
 
 std::string TOriginalProps::FirstLine(const std::string& Key) const

@@ -10,6 +10,13 @@
 
 // Whether a value is a text: quoted, or beginning with a character code.
 bool IsStringLiteral(std::string_view Value);
+// A value as the user sees it; one that is malformed as it stands.
+std::string ShownText(std::string_view Value);
+// What the user has typed in the form that the former value has. A text that
+// could not be read back from a bare value is a literal always.
+std::string StoredText(const std::string& Text, std::string_view FormerValue);
+// The value of a line Key=Value, of any length.
+std::string_view WholeValueOf(std::string_view Line);
 
 // Lines Key=Value in the order in which they were found; of several lines of one
 // key the first counts.

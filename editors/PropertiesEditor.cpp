@@ -5,7 +5,6 @@
 #include "EditorTexts.h"
 #include "core/Hourglass.h"
 #include "core/KeyLines.h"
-#include "core/Literals.h"
 #include "framework/forms/FormParts.h"
 #include "framework/forms/InputForms.h"
 #include "framework/forms/Labels.h"
@@ -32,64 +31,57 @@ void TPropertiesEditor::DoCreate()
     FSelectedFormat = LblSelected->Caption();
 }
 
-const std::string& TPropertiesEditor::Key(int Item) const
+std::string_view TPropertiesEditor::Value(int Item) const
 {
-    return PropList->Items()->Get(Item);
+    return WholeValueOf(FWorking.Get(Item));
 }
 
-// The item's line in the working list; -1 for none.
-int TPropertiesEditor::LineOf(int Item) const
+// Looks at every line: a search in the list misses keys that begin alike. -1 for none.
+int TPropertiesEditor::ItemOf(const std::string& Key) const
 {
-    int Line = -1;
-    return FindKeyLine(FWorking, Key(Item), Line) ? Line : -1;
+    for (int Item = 0; Item < FWorking.Count(); ++Item)
+        if (BeginsWithKey(FWorking.Get(Item), Key))
+            return Item;
+    return -1;
 }
 
 std::string TPropertiesEditor::Translation(int Item) const
 {
-    const int Line = LineOf(Item);
-    return Line >= 0 ? FromLiterals(ValueOf(FWorking.Get(Line))) : "";
+    return ShownText(Value(Item));
 }
 
 bool TPropertiesEditor::IsTranslated(int Item) const
 {
-    const int Line = LineOf(Item);
-    return Line >= 0 && !FromLiterals(ValueOf(FWorking.Get(Line))).empty();
+    return !ShownText(Value(Item)).empty();
 }
 
 void TPropertiesEditor::SetTranslation(int Item, const std::string& Text)
 {
-    const int Line = LineOf(Item);
-    if (Line < 0)
-        return;
-    const bool Literal = IsStringLiteral(ValueOf(FWorking.Get(Line)));
-    const std::string Name = Key(Item);
-    FWorking.Delete(Line);
-    FWorking.SortInsert(Name + "=" + (Literal ? ToLiterals(Text) : Text), nullptr);
+    FWorking.Put(Item, PropList->Items()->Get(Item) + "=" + StoredText(Text, Value(Item)));
 }
 
 std::string TPropertiesEditor::Original(int Item) const
 {
-    return FOriginals.Text(Key(Item));
+    return FOriginals.Text(PropList->Items()->Get(Item));
 }
 
 int TPropertiesEditor::LocalizedCount() const
 {
     int Result = 0;
     for (int I = 0; I < FWorking.Count(); ++I)
-        Result += FromLiterals(ValueOf(FWorking.Get(I))).empty() ? 0 : 1;
+        Result += IsTranslated(I) ? 1 : 0;
     return Result;
 }
 
 void TPropertiesEditor::AddItem()
 {
     std::string Name;
-    if (!InputQuery(SAddProperty, SPropertyName, Name) || Name.empty() ||
-        PropList->Items()->IndexOf(Name) >= 0)
+    if (!InputQuery(SAddProperty, SPropertyName, Name) || Name.empty() || ItemOf(Name) >= 0)
         return;
     FWorking.SortInsert(FOriginals.FirstLine(Name), nullptr);
     SetModified();
     RefreshPropList();
-    ChooseItem(PropList->Items()->IndexOf(Name));
+    ChooseItem(ItemOf(Name));
 }
 
 std::string TPropertiesEditor::RemoveQuestion() const
@@ -100,8 +92,8 @@ std::string TPropertiesEditor::RemoveQuestion() const
 void TPropertiesEditor::RemoveSelected()
 {
     for (int I = PropList->Items()->Count() - 1; I >= 0; --I)
-        if (const int Line = PropList->Selected(I) ? LineOf(I) : -1; Line >= 0)
-            FWorking.Delete(Line);
+        if (PropList->Selected(I))
+            FWorking.Delete(I);
     SetModified();
     RefreshPropList();
 }
@@ -110,12 +102,13 @@ void TPropertiesEditor::RefreshPropList()
 {
     EmptyBox();
     const int Chosen = ChosenItem();
-    const std::string ChosenKey = Chosen >= 0 ? Key(Chosen) : "";
+    const std::string ChosenKey = Chosen >= 0 ? PropList->Items()->Get(Chosen) : "";
     TStringList Keys;
     std::unordered_set<std::string> Included;
-    for (int I = 0; I < FWorking.Count(); ++I)
-        if (const std::string Each(KeyOf(FWorking.Get(I))); Included.insert(Each).second)
-            Keys.Add(Each);
+    for (int I = 0; I < FWorking.Count(); ++I) {
+        Keys.Add(std::string(KeyOf(FWorking.Get(I))));
+        Included.insert(Keys.Get(I));
+    }
     PropList->Items()->Assign(&Keys);
 
     TStringList Available;
@@ -123,10 +116,13 @@ void TPropertiesEditor::RefreshPropList()
         if (const std::string Each(KeyOf(FOriginals.Lines().Get(I)));
             !Each.starts_with("ActiveControl") && !Included.contains(Each))
             Available.Add(Each);
+    // The list has this order itself; items that come in it need no room made.
+    Available.Sort();
     FHintItem = -1;
+    ListAvail->SetHint("");
     ListAvail->Items()->Assign(&Available);
     ListAvailClick(ListAvail);
-    ChooseItem(Chosen >= 0 ? PropList->Items()->IndexOf(ChosenKey) : -1);
+    ChooseItem(Chosen >= 0 ? ItemOf(ChosenKey) : -1);
 }
 
 void TPropertiesEditor::ListAvailClick(TObject*)

@@ -36,12 +36,12 @@ protected:
     // Fills PropList and ListAvail from the working list and the original properties.
     void RefreshPropList();
 
-    TSortList FWorking; // Key=Value, texts in literal form
+    TSortList FWorking; // Key=Value, texts in literal form; one line an item of PropList
     TOriginalProps FOriginals;
 
 private:
-    const std::string& Key(int Item) const;
-    int LineOf(int Item) const;
+    std::string_view Value(int Item) const;
+    int ItemOf(const std::string& Key) const;
 
     std::unique_ptr<TListSearch> FAvailSearch;
     std::string FSelectedFormat; // the caption of LblSelected in the form file

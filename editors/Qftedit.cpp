@@ -65,15 +65,16 @@ void TFormEditor::TakeTranslations()
 // Offers the keys of another translator of the form to one that has none.
 void TFormEditor::GetTranslatorProps()
 {
-    const TComponent& Form = *Translator().Owner();
-    for (int I = 0; I < Form.ComponentCount(); ++I) {
-        const auto* const Other = dynamic_cast<TFormTranslator*>(Form.Components(I));
-        if (!Other || Other == &Translator() || Other->Translations()->Count() == 0 ||
-            !Confirmed(Format(SInsertProperties, {Other->Name()})))
+    const TComponent* const Form = Translator().Owner();
+    for (int I = 0; Form && I < Form->ComponentCount(); ++I) {
+        const auto* const Other = dynamic_cast<TFormTranslator*>(Form->Components(I));
+        if (!Other || Other == &Translator() || Other->Translations()->Count() == 0)
             continue;
         std::vector<std::string> Lines;
         for (int Line = 0; Line < Other->Translations()->Count(); ++Line)
             Lines.push_back(FOriginals.FirstLine(std::string(KeyOf(Other->Translations()->Get(Line)))));
+        if (!Confirmed(Format(SInsertProperties, {Other->Name()})))
+            continue;
         MergeKeyLines(FWorking, std::move(Lines));
         SetModified();
         return;

@@ -73,7 +73,8 @@ bool TTranslationEditor::Run(TTranslatorFrame& Translator)
 {
     FTranslator = &Translator;
     Translator.FreeNotification(this);
-    FSettings.RestorePlace(*this); // windows that are shown cannot change all of it
+    // May need another window, which a form that is being shown cannot get.
+    FSettings.RestorePlace(*this);
     return ShowModal() == mrOk;
 }
 
@@ -90,12 +91,16 @@ void TTranslationEditor::Notification(TComponent* Component, TOperation Operatio
 
 void TTranslationEditor::DoShow()
 {
-    {
+    try {
         const THourglass Hourglass;
         Notebook->SetActivePage(TabTranslations);
         ReadSettings();
         TakeTranslations();
         SetActiveControl(PropList);
+    } catch (...) {
+        // Lists that are filled in part must not be edited.
+        PostMessageA(Handle(), WM_CLOSE, 0, 0);
+        throw;
     }
     inherited::DoShow();
 }
@@ -277,9 +282,10 @@ void TTranslationEditor::Step(int Direction)
     int Item = ChosenItem();
     if (Last < 0)
         return;
+    const auto IsThereNext = [&] { return Direction > 0 ? Item < Last : Item > 0; };
     do
         Item += Direction;
-    while (CkxMove->Checked() && Item > 0 && Item < Last && IsTranslated(Item));
+    while (CkxMove->Checked() && IsThereNext() && IsTranslated(Item));
     ChooseItem(std::clamp(Item, 0, Last));
 }
 
@@ -378,7 +384,7 @@ void TTranslationEditor::BtnExportClick(TObject*)
 void TTranslationEditor::BtnOKClick(TObject*)
 {
     LeaveBox();
-    if (FModified)
+    if (FModified && FTranslator)
         GiveTranslations();
     SetModalResult(std::exchange(FModified, false) ? mrOk : mrCancel);
 }
@@ -388,7 +394,8 @@ bool TTranslationEditor::CloseQuery()
 {
     if (ModalResult() != mrOk)
         LeaveBox();
-    return (!FModified || Confirmed(SDiscardChanges)) && inherited::CloseQuery();
+    const bool MayClose = !FModified || Confirmed(SDiscardChanges) || !FTranslator;
+    return MayClose && inherited::CloseQuery();
 }
 
 bool TTranslationEditor::Confirmed(const std::string& Question)

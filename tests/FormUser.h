@@ -131,6 +131,30 @@ public:
                 PostMessageA(GetFocus(), WM_CHAR, static_cast<unsigned char>(Each), 1);
         });
     }
+    // The text that a control must show now.
+    TFormUser& See(const std::string& Control, const std::string& Text)
+    {
+        return Do([Control, Text](TForm& Form) {
+            EXPECT_EQ(PartOf<TControl>(Form, Control).Text(), Text) << Control;
+        });
+    }
+    // The items of a list box that must be selected now.
+    TFormUser& SeeSelected(const std::string& List, const std::vector<std::string>& Items)
+    {
+        return Do([List, Items](TForm& Form) {
+            const auto& Box = PartOf<TListBox>(Form, List);
+            std::vector<std::string> Selected;
+            for (int I = 0; I < Box.Items()->Count(); ++I)
+                if (Box.Selected(I))
+                    Selected.push_back(Box.Items()->Get(I));
+            EXPECT_EQ(Selected, Items) << List;
+        });
+    }
+    // The window's own button for closing.
+    TFormUser& Close()
+    {
+        return Do([](TForm& Form) { PostMessageA(Form.Handle(), WM_SYSCOMMAND, SC_CLOSE, 0); });
+    }
     // The text of a message form that must be there now; then its button.
     TFormUser& Answer(const std::string& Question, const std::string& Button)
     {
@@ -152,19 +176,42 @@ public:
         });
         return Key(VK_RETURN);
     }
-    // A file dialog: its title and the name that is chosen in it.
-    TFormUser& ChooseFile(const std::string& Title, const std::string& FileName)
+    // What the user does to the active dialog of the system; then its OK button.
+    TFormUser& Confirm(std::function<void(HWND)> Act)
     {
-        FSteps.push_back({[Title, FileName](HWND Dialog) {
-                              char Text[256] = "";
-                              GetWindowTextA(Dialog, Text, sizeof Text);
-                              EXPECT_EQ(Text, Title);
-                              SetDlgItemTextA(Dialog, cmb13, FileName.c_str());
+        FSteps.push_back({[Act = std::move(Act)](HWND Dialog) {
+                              Act(Dialog);
                               PostMessageA(Dialog, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED),
                                            reinterpret_cast<LPARAM>(GetDlgItem(Dialog, IDOK)));
                           },
                           true});
         return *this;
+    }
+    // A file dialog: its title and the name that is chosen in it.
+    TFormUser& ChooseFile(const std::string& Title, const std::string& FileName)
+    {
+        return Confirm([Title, FileName](HWND Dialog) {
+            char Text[256] = "";
+            GetWindowTextA(Dialog, Text, sizeof Text);
+            EXPECT_EQ(Text, Title);
+            SetDlgItemTextA(Dialog, cmb13, FileName.c_str());
+        });
+    }
+    // A font dialog, in which the first face that is not Face is chosen; that goes
+    // into Face.
+    TFormUser& ChooseOtherFont(std::string& Face)
+    {
+        return Confirm([&Face](HWND Dialog) {
+            char Name[256] = "";
+            WPARAM Item = 0;
+            do
+                SendDlgItemMessageA(Dialog, cmb1, CB_GETLBTEXT, Item++, reinterpret_cast<LPARAM>(Name));
+            while (Name == Face);
+            Face = Name;
+            SendDlgItemMessageA(Dialog, cmb1, CB_SETCURSEL, Item - 1, 0);
+            SendMessageA(Dialog, WM_COMMAND, MAKEWPARAM(cmb1, CBN_SELCHANGE),
+                         reinterpret_cast<LPARAM>(GetDlgItem(Dialog, cmb1)));
+        });
     }
 
     // Takes the steps while Modal runs, which they must end.

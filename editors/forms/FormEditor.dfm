@@ -3,7 +3,9 @@ inherited FormEditor: TFormEditor
   inherited Notebook: TPageControl
     object TabForm: TTabSheet [1]
       Caption = 'Form'
+      Height = 359
       ImageIndex = 5
+      Width = 616
       object PropNotebook: TPageControl
         Left = 8
         Top = 8
@@ -14,6 +16,8 @@ inherited FormEditor: TFormEditor
         TabOrder = 0
         object TabBrowser: TTabSheet
           Caption = 'Browser'
+          Height = 314
+          Width = 592
           object LblAvail: TLabel
             Left = 8
             Top = 8
@@ -93,7 +97,9 @@ inherited FormEditor: TFormEditor
         end
         object TabCommon: TTabSheet
           Caption = 'Common'
+          Height = 314
           ImageIndex = 1
+          Width = 592
           object LblCommon: TLabel
             Left = 8
             Top = 8

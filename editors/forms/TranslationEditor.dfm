@@ -28,6 +28,8 @@ object TranslationEditor: TTranslationEditor
     OnChange = NotebookChange
     object TabTranslations: TTabSheet
       Caption = 'Translations'
+      Height = 359
+      Width = 616
       object SplList: TSplitter
         Left = 288
         Top = 0
@@ -168,7 +170,9 @@ object TranslationEditor: TTranslationEditor
     end
     object TabOptions: TTabSheet
       Caption = 'Options'
+      Height = 359
       ImageIndex = 1
+      Width = 616
       object LblTotal: TLabel
         Left = 16
         Top = 20
@@ -212,7 +216,9 @@ object TranslationEditor: TTranslationEditor
     end
     object TabFont: TTabSheet
       Caption = 'Font'
+      Height = 359
       ImageIndex = 2
+      Width = 616
       object GrpEditFont: TGroupBox
         Left = 16
         Top = 16
@@ -268,7 +274,9 @@ object TranslationEditor: TTranslationEditor
     end
     object TabReading: TTabSheet
       Caption = 'Reading order'
+      Height = 359
       ImageIndex = 3
+      Width = 616
       object RgpReading: TRadioGroup
         Left = 16
         Top = 16
@@ -307,7 +315,9 @@ object TranslationEditor: TTranslationEditor
     end
     object TabDictionary: TTabSheet
       Caption = 'Dictionary'
+      Height = 359
       ImageIndex = 4
+      Width = 616
       object LblTranslate: TLabel
         Left = 136
         Top = 26

@@ -1,5 +1,7 @@
 #include "platform/portable/dialogs/StandardDialog.h"
 
+#include <algorithm>
+#include <iterator>
 #include <memory>
 #include <string_view>
 #include <vector>
@@ -22,7 +24,7 @@ public:
     void Add(TValue Value)
     {
         const auto* const Bytes = reinterpret_cast<const BYTE*>(&Value);
-        FBytes.insert(FBytes.end(), Bytes, Bytes + sizeof Value);
+        std::copy_n(Bytes, sizeof Value, std::back_inserter(FBytes));
     }
     void Add(const char* Text)
     {
