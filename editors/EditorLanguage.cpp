@@ -46,3 +46,19 @@ void TranslateEditor(TForm& Form)
     Load(*new TResourceTranslator(&Form));
     Load(*new TFormTranslator(&Form));
 }
+
+TPlainTextsScope::TPlainTextsScope(const TForm& Form)
+{
+    for (int I = 0; I < Form.ComponentCount(); ++I)
+        if (auto* const Each = dynamic_cast<TResourceTranslator*>(Form.Components(I));
+            Each && Each->Translate()) {
+            FPaused.push_back(Each);
+            Each->InternalTranslate(false);
+        }
+}
+
+TPlainTextsScope::~TPlainTextsScope()
+{
+    for (TTranslatorFrame* const Each : FPaused)
+        Each->InternalTranslate(true);
+}

@@ -95,6 +95,8 @@ void TCustomListBox::SetItemIndex(int Value)
 
 int TCustomListBox::SelCount() const
 {
+    if (FMultiSelect && HandleAllocated())
+        return static_cast<int>(Send(*this, LB_GETSELCOUNT));
     int Result = 0;
     for (int I = 0; I < FItems->Count(); ++I)
         Result += Selected(I) ? 1 : 0;
@@ -122,16 +124,22 @@ void TCustomListBox::SetSelected(int Index, bool Value)
 
 void TCustomListBox::SelectAll()
 {
-    for (int I = 0; FMultiSelect && I < FItems->Count(); ++I)
-        SetSelected(I, true);
+    if (!FMultiSelect)
+        return;
+    FSelected.assign(FSelected.size(), true);
+    if (HandleAllocated())
+        Send(*this, LB_SETSEL, 1, -1);
 }
 
 void TCustomListBox::ClearSelection()
 {
-    if (!FMultiSelect)
+    if (!FMultiSelect) {
         SetItemIndex(-1);
-    for (int I = 0; FMultiSelect && I < FItems->Count(); ++I)
-        SetSelected(I, false);
+        return;
+    }
+    FSelected.assign(FSelected.size(), false);
+    if (HandleAllocated())
+        Send(*this, LB_SETSEL, 0, -1);
 }
 
 int TCustomListBox::TopIndex() const
