@@ -91,6 +91,7 @@ bool TTranslationEditor::Run(TTranslatorFrame& Translator)
 {
     FTranslator = &Translator;
     Translator.FreeNotification(this);
+    FSettings.RestorePlace(*this); // windows that are shown cannot change all of it
     return ShowModal() == mrOk;
 }
 
@@ -109,7 +110,6 @@ void TTranslationEditor::DoShow()
 {
     {
         const THourglass Hourglass;
-        FSettings.RestorePlace(*this);
         Notebook->SetActivePage(TabTranslations);
         ReadSettings();
         TakeTranslations();
