@@ -184,7 +184,8 @@ void TResEditor::AddItem()
         return;
     FSources.SortInsertAll({NewLine(Source)});
     SetModified();
-    RefreshLists();
+    EmptyBox();
+    PropList->Items()->Insert(Place, Source, FSources.Objects(Place));
     ChooseItem(Place);
 }
 
@@ -195,12 +196,16 @@ std::string TResEditor::RemoveQuestion() const
 
 void TResEditor::RemoveSelected()
 {
-    for (int I = PropList->Items()->Count() - 1; I >= 0; --I)
-        if (PropList->Selected(I))
+    PropList->Items()->BeginUpdate();
+    for (int I = FSources.Count() - 1; I >= 0; --I)
+        if (PropList->Selected(I)) {
             FSources.Delete(I);
+            PropList->Items()->Delete(I);
+        }
     PackTranslations();
+    PropList->Items()->EndUpdate();
     SetModified();
-    RefreshLists();
+    ChooseItem(-1);
 }
 
 void TResEditor::PackTranslations()
@@ -209,6 +214,7 @@ void TResEditor::PackTranslations()
     for (int I = 0; I < FSources.Count(); ++I) {
         Packed.Add(Translation(I));
         FSources.PutObject(I, IntegerObject(I));
+        PropList->Items()->PutObject(I, IntegerObject(I));
     }
     FTranslations.Assign(&Packed);
 }
@@ -218,7 +224,8 @@ void TResEditor::UpdateModuleList()
     ModuleList->Clear();
     for (const TLibModule* Each = LibModuleList; Each; Each = Each->Next) {
         const HINSTANCE Module = Each->Instance ? Each->Instance : HInstance;
-        const HINSTANCE Resources = FindResourceHInstance(Module);
+        const HINSTANCE Translated = Each->ResInstance;
+        const HINSTANCE Resources = Translated ? Translated : Module;
         // A library that is loaded for its resources alone has no name.
         std::string Name = FileNameOf(Resources);
         if (Name.empty())

@@ -109,7 +109,7 @@ struct TResEditorTest : TObject, testing::Test {
 // A translator of the program and one on the editor itself must not be heard.
 TEST_F(TResEditorTest, TakesTheStringsOfAModule)
 {
-    NewTranslator("Danish", {{"Welcome", "Velkommen"}});
+    auto* const Danish = NewTranslator("Danish", {{"Welcome", "Velkommen"}});
     Translator->SetTranslation("Welcome", "Hej");
     const auto Expected = TextsOfProgram();
     TFormUser User;
@@ -141,7 +141,7 @@ TEST_F(TResEditorTest, TakesTheStringsOfAModule)
     EXPECT_TRUE(Translator->ResStrings().IsInOrder());
     EXPECT_EQ(Translator->Translations()->Count(), Translator->ResStrings().Count());
     Translator->SetTranslation("First\nSecond", "Ett\nTvå");
-    Translator->SetTranslate(true);
+    Danish->InternalTranslate(false);
     EXPECT_EQ(std::string(SWelcome), "Hej") << "kept, and found";
     EXPECT_EQ(std::string(STwoLines), "Ett\nTvå");
 }
@@ -189,11 +189,6 @@ TEST_F(TResEditorTest, TakesOfEachModuleWhatItsResourcesHave)
             EXPECT_EQ(Names, (TLines{"ResStrings_test.DEU", "ResStrings_test.DEU", Program}));
             PartOf<TListBox>(Editor, "ModuleList").SetFocus();
         })
-        .Key(VK_END)
-        .Do([&](TForm& Editor) {
-            EXPECT_EQ(ItemsOf(Editor, "ResStringList"), (TLines{"half ", "quarter ", "whole 日"}));
-            EXPECT_TRUE(PartOf<TButton>(Editor, "BtnInclude").Enabled());
-        })
         .Key(VK_HOME)
         .Do([](TForm& Editor) {
             EXPECT_EQ(ItemsOf(Editor, "ResStringList"), TLines());
@@ -202,6 +197,11 @@ TEST_F(TResEditorTest, TakesOfEachModuleWhatItsResourcesHave)
         .Key(VK_DOWN)
         .Do([&](TForm& Editor) {
             EXPECT_EQ(ItemsOf(Editor, "ResStringList"), (TLines{"&Ja", "Guten Morgen"}));
+        })
+        .Key(VK_END)
+        .Do([&](TForm& Editor) {
+            EXPECT_EQ(ItemsOf(Editor, "ResStringList"), (TLines{"half ", "quarter ", "whole 日"}));
+            EXPECT_TRUE(PartOf<TButton>(Editor, "BtnInclude").Enabled());
         })
         .Click("BtnCancel");
     EXPECT_FALSE(Edit(User));
@@ -345,7 +345,11 @@ struct TResEditorFiles : TResEditorTest {
         Translator->SetTranslation("Beta", "b");
         Translator->SetTranslation("Alpha", "");
     }
-    ~TResEditorFiles() override { std::filesystem::remove_all(Folder); }
+    ~TResEditorFiles() override
+    {
+        std::filesystem::current_path(Before); // file dialogs change it
+        std::filesystem::remove_all(Folder);
+    }
     std::string File(const std::string& Name) const { return (Folder / Name).string(); }
     void Write(const std::string& Name, const std::string& Text) const
     {
@@ -354,6 +358,7 @@ struct TResEditorFiles : TResEditorTest {
         Lines.SaveToFile(File(Name));
     }
 
+    const std::filesystem::path Before = std::filesystem::current_path();
     std::filesystem::path Folder;
 };
 
@@ -411,6 +416,39 @@ TEST_F(TResEditorFiles, KeepsTheWorkWhenAFileIsBad)
         .Click("BtnOK");
     EXPECT_TRUE(Edit(User));
     EXPECT_EQ(Table(), (TLines{"Alpha 1=a", "Beta 0=b"}));
+}
+
+// What costs time for every string at every key would take minutes.
+TEST_F(TResEditorTest, IsQuickWithManyStrings)
+{
+    constexpr int Many = 20000;
+    TSortList Sources;
+    TStringList Texts;
+    for (int I = 0; I < Many; ++I) {
+        Sources.SortInsert("Source " + std::to_string(Many + I), IntegerObject(I));
+        Texts.Add(I == Many - 2 ? "" : "translated");
+    }
+    Translator->SetResStrings(Sources);
+    Translator->SetTranslations(&Texts);
+    const DWORD Start = GetTickCount();
+    TFormUser User;
+    User.Choose("PropList", "Source 20000")
+        .Do([](TForm& Editor) { PartOf<TMemo>(Editor, "EdtTranslation").SetFocus(); })
+        .Key(VK_NEXT)
+        .Do([](TForm& Editor) {
+            EXPECT_EQ(PartOf<TListBox>(Editor, "PropList").ItemIndex(), Many - 2) << "the next untranslated";
+            PartOf<TListBox>(Editor, "PropList").SetFocus();
+        });
+    for (int Round = 0; Round < 5; ++Round)
+        User.Key(VK_HOME).Key(VK_END);
+    User.Do([](TForm& Editor) { PartOf<TListBox>(Editor, "PropList").SelectAll(); })
+        .Click("BtnRemove")
+        .Answer("Do you want to remove the selected strings ?", "Yes")
+        .Click("BtnOK");
+    EXPECT_TRUE(Edit(User));
+    EXPECT_LT(GetTickCount() - Start, 60000u);
+    EXPECT_EQ(Table(), TLines());
+    EXPECT_EQ(Translator->Translations()->Count(), 0);
 }
 
 TEST_F(TResEditorTest, RemembersItsSettingsInASectionOfItsOwn)
