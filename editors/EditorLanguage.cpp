@@ -89,3 +89,19 @@ TPlainTextsScope::~TPlainTextsScope()
     for (TTranslatorFrame* const Each : FPaused)
         Each->InternalTranslate(true);
 }
+
+TPlainTextsScope::TPlainTextsScope(const TForm& Form)
+{
+    for (int I = 0; I < Form.ComponentCount(); ++I)
+        if (auto* const Each = dynamic_cast<TResourceTranslator*>(Form.Components(I));
+            Each && Each->Translate()) {
+            FPaused.push_back(Each);
+            Each->InternalTranslate(false);
+        }
+}
+
+TPlainTextsScope::~TPlainTextsScope()
+{
+    for (TTranslatorFrame* const Each : FPaused)
+        Each->InternalTranslate(true);
+}

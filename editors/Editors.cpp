@@ -3,6 +3,7 @@
 #include "core/TranslatorEditors.h"
 #include "editors/Qctedit.h"
 #include "editors/Qftedit.h"
+#include "editors/Qrtedit.h"
 #include "framework/forms/StandardClasses.h"
 #include "orbilex_editors.h"
 
@@ -16,6 +17,7 @@ struct TEditorOf {
 constexpr TEditorOf All[] = {
     {TFormTranslator::MetaClass, TTranslationEditor::Edit<TFormEditor>},
     {TCommonDialogTranslator::MetaClass, TTranslationEditor::Edit<TDlgEditor>},
+    {TResourceTranslator::MetaClass, TTranslationEditor::Edit<TResEditor>},
 };
 
 int Starts = 0;

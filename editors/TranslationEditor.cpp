@@ -15,6 +15,24 @@
 #include "framework/forms/PageControls.h"
 #include "framework/forms/PushButtons.h"
 #include "framework/rtl/FormatText.h"
+#include "framework/rtl/Texts.h"
+
+namespace {
+
+// With the line ends LineEnd, whichever the text has.
+std::string WithLineEnds(const std::string& Text, const char* LineEnd)
+{
+    const std::string Plain = StringReplace(Text, "\r\n", "\n", TReplaceExtent::All);
+    return StringReplace(Plain, "\n", LineEnd, TReplaceExtent::All);
+}
+
+// As edits need it.
+std::string InLines(const std::string& Text)
+{
+    return WithLineEnds(Text, "\r\n");
+}
+
+} // namespace
 
 const TMetaClass& TTranslationEditor::MetaClass()
 {
@@ -120,14 +138,18 @@ void TTranslationEditor::ReadSettings()
     StyleLists();
 }
 
-// The display font is that of PropList; a line of it is as high as the font.
+// The display font is that of PropList; a line that is drawn is as high as the font.
 void TTranslationEditor::StyleLists()
 {
     EdtOrgTranslation->SetFont(PropList->Font());
-    for (TWinControl* const List : DisplayLists())
-        List->SetFont(PropList->Font());
     Canvas()->Font()->Assign(PropList->Font());
-    PropList->SetItemHeight(Canvas()->TextHeight("Ág") + 2);
+    const int LineHeight = Canvas()->TextHeight("Ág") + 2;
+    PropList->SetItemHeight(LineHeight);
+    for (TWinControl* const List : DisplayLists()) {
+        List->SetFont(PropList->Font());
+        if (auto* const Box = dynamic_cast<TListBox*>(List); Box && Box->Style() == lbOwnerDrawFixed)
+            Box->SetItemHeight(LineHeight);
+    }
     LblEditFont->SetCaption(EdtTranslation->Font()->Name());
     LblDisplayFont->SetCaption(PropList->Font()->Name());
 }
@@ -152,8 +174,8 @@ void TTranslationEditor::PropListClick(TObject*)
         return;
     }
     FRemembered = Translation(Item);
-    EdtTranslation->SetText(FRemembered);
-    EdtOrgTranslation->SetText(Original(Item));
+    EdtTranslation->SetText(InLines(FRemembered));
+    EdtOrgTranslation->SetText(InLines(Original(Item)));
     FShown = EdtTranslation->Text();
     FItem = Item;
 }
@@ -208,8 +230,13 @@ void TTranslationEditor::PropListDrawItem(TWinControl*, int Index, TRect Rect, T
     }
     TRect Text = Rect;
     (FromRight ? Text.right : Text.left) += FromRight ? -Place : Place;
-    Canvas.DrawText(PropList->Items()->Get(Index), Text,
-                    PropList->DrawTextBiDiModeFlags(DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX));
+    DrawInOneLine(*PropList, PropList->Items()->Get(Index), Text);
+}
+
+void TTranslationEditor::DrawInOneLine(TListBox& List, const std::string& Text, TRect Area)
+{
+    const std::string Line = StringReplace(WithLineEnds(Text, "\u00B6"), "\t", " ", TReplaceExtent::All);
+    List.Canvas()->DrawText(Line, Area, List.DrawTextBiDiModeFlags(DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX));
 }
 
 void TTranslationEditor::BtnRemoveClick(TObject*)
@@ -249,7 +276,7 @@ void TTranslationEditor::UndoBox()
         return;
     if (Translation(FItem) != FRemembered)
         SetTranslation(FItem, FRemembered);
-    EdtTranslation->SetText(FRemembered);
+    EdtTranslation->SetText(InLines(FRemembered));
     FShown = EdtTranslation->Text();
     PropList->Invalidate();
 }

@@ -138,6 +138,8 @@ protected:
     void ChooseItem(int Item);
     // Forgets the item in the box: its list has changed.
     void EmptyBox();
+    // Draws a text of several lines as one.
+    static void DrawInOneLine(TListBox& List, const std::string& Text, TRect Area);
     // Warns and asks.
     static bool Confirmed(const std::string& Question);
 
