@@ -2,6 +2,7 @@
 
 #include "core/TranslatorEditors.h"
 #include "editors/Qftedit.h"
+#include "editors/Qltedit.h"
 #include "framework/forms/StandardClasses.h"
 #include "orbilex_editors.h"
 
@@ -14,6 +15,7 @@ struct TEditorOf {
 
 constexpr TEditorOf All[] = {
     {TFormTranslator::MetaClass, TTranslationEditor::Edit<TFormEditor>},
+    {TLocaleTranslator::MetaClass, TTranslationEditor::Edit<TLocaleEditor>},
 };
 
 int Starts = 0;

@@ -73,7 +73,11 @@ bool TTranslationEditor::Run(TTranslatorFrame& Translator)
 {
     FTranslator = &Translator;
     Translator.FreeNotification(this);
-    return ShowModal() == mrOk;
+    FSettings.RestorePlace(*this); // windows that are shown cannot change all of it
+    if (ShowModal() != mrOk || !HasTranslator())
+        return false;
+    Accepted();
+    return true;
 }
 
 // An editor without its translator has nothing to do.
@@ -91,7 +95,6 @@ void TTranslationEditor::DoShow()
 {
     {
         const THourglass Hourglass;
-        FSettings.RestorePlace(*this);
         Notebook->SetActivePage(TabTranslations);
         ReadSettings();
         TakeTranslations();
@@ -334,7 +337,7 @@ void TTranslationEditor::ReadFrom(const TLabel& Title, bool (TTranslationEditor:
 {
     LeaveBox();
     DlgOpen->SetTitle(Title.Caption());
-    if (!DlgOpen->Execute())
+    if (!DlgOpen->Execute() || !HasTranslator())
         return;
     const THourglass Hourglass;
     if (!(this->*Read)(DlgOpen->FileName()))
@@ -348,7 +351,7 @@ void TTranslationEditor::WriteTo(const TLabel& Title, void (TTranslationEditor::
 {
     LeaveBox();
     DlgSave->SetTitle(Title.Caption());
-    if (!DlgSave->Execute())
+    if (!DlgSave->Execute() || !HasTranslator())
         return;
     const THourglass Hourglass;
     (this->*Write)(DlgSave->FileName());
