@@ -182,128 +182,94 @@ inherited LocaleEditor: TLocaleEditor
     object TabLocales: TTabSheet [1]
       Caption = 'Locales'
       ImageIndex = 5
-      object SplLocales: TSplitter
-        Left = 236
-        Top = 0
-        Height = 359
-        MinSize = 120
-        ResizeStyle = rsUpdate
+      object LblLangList: TLabel
+        Left = 8
+        Top = 8
+        Width = 83
+        Height = 14
+        Caption = 'System locales'
+        FocusControl = LangList
       end
-      object PanSystem: TPanel
-        Left = 0
-        Top = 0
-        Width = 236
-        Height = 359
-        Align = alLeft
-        BevelOuter = bvNone
+      object LblLangListInApp: TLabel
+        Left = 387
+        Top = 8
+        Width = 115
+        Height = 14
+        Caption = 'Locales in application'
+        FocusControl = LangListInApp
+      end
+      object LangList: TListBox
+        Left = 8
+        Top = 28
+        Width = 224
+        Height = 323
+        Anchors = [akLeft, akTop, akBottom]
+        ItemHeight = 14
+        Sorted = True
         TabOrder = 0
-        object LblLangList: TLabel
-          Left = 8
-          Top = 8
-          Width = 83
-          Height = 14
-          Caption = 'System locales'
-          FocusControl = LangList
-        end
-        object LangList: TListBox
-          Left = 8
-          Top = 28
-          Width = 224
-          Height = 323
-          Anchors = [akLeft, akTop, akRight, akBottom]
-          ItemHeight = 14
-          Sorted = True
-          TabOrder = 0
-          OnClick = LangListClick
-        end
+        OnClick = LangListClick
       end
-      object PanLocaleButtons: TPanel
-        Left = 239
-        Top = 0
-        Width = 144
-        Height = 359
-        Align = alLeft
-        BevelOuter = bvNone
+      object BtnCopyLang: TButton
+        Left = 244
+        Top = 28
+        Width = 132
+        Height = 25
+        Caption = 'Copy >>'
+        Enabled = False
         TabOrder = 1
-        object BtnCopyLang: TButton
-          Left = 6
-          Top = 28
-          Width = 132
-          Height = 25
-          Caption = 'Copy >>'
-          Enabled = False
-          TabOrder = 0
-          OnClick = BtnCopyLangClick
-        end
-        object BtnRemoveLang: TButton
-          Left = 6
-          Top = 60
-          Width = 132
-          Height = 25
-          Caption = 'Remove <<'
-          Enabled = False
-          TabOrder = 1
-          OnClick = BtnRemoveLangClick
-        end
-        object BtnUserLang: TButton
-          Left = 6
-          Top = 104
-          Width = 132
-          Height = 25
-          Caption = 'New'
-          TabOrder = 2
-          OnClick = BtnUserLangClick
-        end
-        object BtnSetDefault: TButton
-          Left = 6
-          Top = 148
-          Width = 132
-          Height = 25
-          Caption = 'Set designtime'
-          Enabled = False
-          TabOrder = 3
-          Visible = False
-          OnClick = BtnSetDefaultClick
-        end
-        object BtnSetStartup: TButton
-          Left = 6
-          Top = 180
-          Width = 132
-          Height = 25
-          Caption = 'Set startup'
-          Enabled = False
-          TabOrder = 4
-          Visible = False
-          OnClick = BtnSetStartupClick
-        end
+        OnClick = BtnCopyLangClick
       end
-      object PanInApp: TPanel
-        Left = 383
-        Top = 0
-        Width = 233
-        Height = 359
-        Align = alClient
-        BevelOuter = bvNone
+      object BtnRemoveLang: TButton
+        Left = 244
+        Top = 60
+        Width = 132
+        Height = 25
+        Caption = 'Remove <<'
+        Enabled = False
         TabOrder = 2
-        object LblLangListInApp: TLabel
-          Left = 4
-          Top = 8
-          Width = 115
-          Height = 14
-          Caption = 'Locales in application'
-          FocusControl = LangListInApp
-        end
-        object LangListInApp: TListBox
-          Left = 4
-          Top = 28
-          Width = 221
-          Height = 323
-          Anchors = [akLeft, akTop, akRight, akBottom]
-          ItemHeight = 14
-          Sorted = True
-          TabOrder = 0
-          OnClick = LangListInAppClick
-        end
+        OnClick = BtnRemoveLangClick
+      end
+      object BtnUserLang: TButton
+        Left = 244
+        Top = 104
+        Width = 132
+        Height = 25
+        Caption = 'New'
+        TabOrder = 3
+        OnClick = BtnUserLangClick
+      end
+      object BtnSetDefault: TButton
+        Left = 244
+        Top = 148
+        Width = 132
+        Height = 25
+        Caption = 'Set designtime'
+        Enabled = False
+        TabOrder = 4
+        Visible = False
+        OnClick = BtnSetDefaultClick
+      end
+      object BtnSetStartup: TButton
+        Left = 244
+        Top = 180
+        Width = 132
+        Height = 25
+        Caption = 'Set startup'
+        Enabled = False
+        TabOrder = 5
+        Visible = False
+        OnClick = BtnSetStartupClick
+      end
+      object LangListInApp: TListBox
+        Left = 387
+        Top = 28
+        Width = 221
+        Height = 323
+        Anchors = [akLeft, akTop, akRight, akBottom]
+        ItemHeight = 14
+        Sorted = True
+        TabOrder = 6
+        OnClick = LangListInAppClick
       end
     end
     inherited TabOptions: TTabSheet
