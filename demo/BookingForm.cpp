@@ -1,8 +1,8 @@
 #include "demo/BookingForm.h"
 
-#include "framework/forms/FormParts.h"
 #include "framework/forms/ComboBoxes.h"
 #include "framework/forms/Edits.h"
+#include "framework/forms/FormParts.h"
 #include "framework/forms/LabeledEdits.h"
 #include "framework/forms/Labels.h"
 #include "framework/forms/PushButtons.h"

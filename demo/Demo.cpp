@@ -2,19 +2,24 @@
 //   demo                     the booking desk
 //   demo --planning          the harbour's planning
 //   demo --tour [--out DIR]  all forms in all languages as pictures (Tour.h)
+//   demo --editors [--out DIR]
+//                            the editors in all languages as pictures (EditorTour.h)
 #include <exception>
 #include <iostream>
 #include <string>
 
 #include "Obxc3/Obxc3.h"
+#include "demo/EditorTour.h"
 #include "demo/Programs.h"
 #include "demo/Tour.h"
+#include "editors/Editors.h"
 #include "framework/forms/Forms.h"
 
 namespace {
 
 struct TOptions {
     bool Tour = !HAS_DISPLAY;
+    bool Editors = false;
     bool Planning = false;
     std::string Folder = "out";
 };
@@ -26,6 +31,8 @@ bool ReadOptions(int Count, char** Arguments, TOptions& Options)
         const std::string Argument = Arguments[I];
         if (Argument == "--tour")
             Options.Tour = true;
+        else if (Argument == "--editors")
+            Options.Editors = true;
         else if (Argument == "--planning")
             Options.Planning = true;
         else if (Argument == "--out" && I + 1 < Count)
@@ -40,6 +47,7 @@ void RunProgram(bool Planning)
 {
     const TApplicationScope Scope;
     const TPackageScope Package;
+    const TEditorsScope Editors;
     RegisterDemoForms();
     if (Planning)
         CreatePlanning();
@@ -54,10 +62,12 @@ int main(int Count, char** Arguments)
 {
     TOptions Options;
     if (!ReadOptions(Count, Arguments, Options)) {
-        std::cerr << "usage: demo [--planning | --tour [--out DIR]]\n";
+        std::cerr << "usage: demo [--planning | --tour [--out DIR] | --editors [--out DIR]]\n";
         return 2;
     }
     try {
+        if (Options.Editors)
+            return RunEditorTour(Options.Folder);
         if (Options.Tour)
             return RunTour(Options.Folder);
         RunProgram(Options.Planning);

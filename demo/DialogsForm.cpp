@@ -1,8 +1,8 @@
 #include "demo/DialogsForm.h"
 
-#include "framework/forms/FormParts.h"
 #include "framework/forms/Dialogs.h"
 #include "framework/forms/Edits.h"
+#include "framework/forms/FormParts.h"
 #include "framework/forms/PushButtons.h"
 #include "framework/rtl/Texts.h"
 #include "framework/rtl/Utf8.h"

@@ -1,8 +1,8 @@
 #include "demo/LanguageForm.h"
 
 #include "Qlt/Qlt.h"
-#include "framework/forms/FormParts.h"
 #include "framework/forms/ComboBoxes.h"
+#include "framework/forms/FormParts.h"
 #include "framework/forms/GroupBoxes.h"
 #include "framework/forms/Labels.h"
 #include "framework/forms/ListBoxes.h"

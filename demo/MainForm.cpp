@@ -4,17 +4,18 @@
 
 #include "DemoTexts.h"
 #include "Qbt/Qbt.h"
+#include "Qft/Qft.h"
 #include "Qlt/Qlt.h"
 #include "demo/AboutForm.h"
 #include "demo/BookingForm.h"
 #include "demo/DialogsForm.h"
-#include "framework/forms/FormParts.h"
 #include "demo/Language.h"
 #include "demo/LanguageForm.h"
 #include "demo/MessagesForm.h"
 #include "demo/OptionsForm.h"
 #include "framework/forms/ComboBoxes.h"
 #include "framework/forms/Edits.h"
+#include "framework/forms/FormParts.h"
 #include "framework/forms/Labels.h"
 #include "framework/forms/ListBoxes.h"
 #include "framework/forms/ListViews.h"
@@ -61,6 +62,7 @@ const TMetaClass& TMainForm::MetaClass()
                                    Published<&TMainForm::ItemFormatsClick>("ItemFormatsClick"),
                                    Published<&TMainForm::ItemMessagesClick>("ItemMessagesClick"),
                                    Published<&TMainForm::ItemDialogsClick>("ItemDialogsClick"),
+                                   Published<&TMainForm::ItemTranslationsClick>("ItemTranslationsClick"),
                                    Published<&TMainForm::ItemRulesClick>("ItemRulesClick"),
                                    Published<&TMainForm::ItemAboutClick>("ItemAboutClick")});
     return Class;
@@ -303,6 +305,19 @@ void TMainForm::ItemMessagesClick(TObject*)
 void TMainForm::ItemDialogsClick(TObject*)
 {
     DialogsForm->Show();
+}
+
+// The window shows its own texts while its translations are edited. What is changed
+// goes into the translations file.
+void TMainForm::ItemTranslationsClick(TObject*)
+{
+    TFormTranslator* Shown = nullptr;
+    for (int I = 0; I < ComponentCount(); ++I)
+        if (auto* const Each = dynamic_cast<TFormTranslator*>(Components(I));
+            Each && (!Shown || Each->Translated()))
+            Shown = Each;
+    if (Shown && Shown->ShowEditor())
+        Shown->SaveTo(Shown->GetAppDir() + Shown->FileName());
 }
 
 void TMainForm::ItemRulesClick(TObject*)

@@ -64,6 +64,7 @@ public:
     void ItemFormatsClick(TObject* Sender);
     void ItemMessagesClick(TObject* Sender);
     void ItemDialogsClick(TObject* Sender);
+    void ItemTranslationsClick(TObject* Sender);
     void ItemRulesClick(TObject* Sender);
     void ItemAboutClick(TObject* Sender);
 

@@ -1,8 +1,8 @@
 #include "demo/OptionsForm.h"
 
 #include "demo/AboutForm.h"
-#include "framework/forms/FormParts.h"
 #include "framework/forms/ComboBoxes.h"
+#include "framework/forms/FormParts.h"
 #include "framework/forms/PageControls.h"
 #include "framework/forms/PushButtons.h"
 

@@ -4,8 +4,8 @@
 #include "Qlt/Qlt.h"
 #include "demo/BerthsForm.h"
 #include "demo/CrewForm.h"
-#include "framework/forms/FormParts.h"
 #include "demo/Language.h"
+#include "framework/forms/FormParts.h"
 #include "framework/forms/Menus.h"
 
 const TMetaClass& TPlanningForm::MetaClass()

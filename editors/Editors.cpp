@@ -1,6 +1,7 @@
 #include "editors/Editors.h"
 
 #include "core/TranslatorEditors.h"
+#include "editors/Qctedit.h"
 #include "editors/Qftedit.h"
 #include "editors/Qltedit.h"
 #include "framework/forms/StandardClasses.h"
@@ -15,6 +16,7 @@ struct TEditorOf {
 
 constexpr TEditorOf All[] = {
     {TFormTranslator::MetaClass, TTranslationEditor::Edit<TFormEditor>},
+    {TCommonDialogTranslator::MetaClass, TTranslationEditor::Edit<TDlgEditor>},
     {TLocaleTranslator::MetaClass, TTranslationEditor::Edit<TLocaleEditor>},
 };
 

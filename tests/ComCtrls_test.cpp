@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "framework/forms/PushButtons.h"
 #include "framework/forms/StandardClasses.h"
 #include "framework/streaming/ComponentWriter.h"
 #include "framework/streaming/FormFile.h"
@@ -162,6 +163,29 @@ TEST_F(TComCtrls, PagesShowTheirCaptionsAndOneBody)
     EXPECT_EQ(Log.Take(), (TTexts{"Pages notified"}));
     delete Sheets[2];
     EXPECT_EQ(Pages->ActivePage(), Sheets[1]);
+}
+
+// They would stay where they are when the page is first shown after the form has
+// been resized.
+TEST_F(TComCtrls, ControlsOfHiddenPagesFollowTheirAnchors)
+{
+    auto* const Pages = Put<TPageControl>(Form, "Pages", 8, 8, 200, 150);
+    TTabSheet* Sheets[2];
+    TButton* Buttons[2];
+    for (int I = 0; I < 2; ++I) {
+        Sheets[I] = new TTabSheet(Form);
+        Sheets[I]->SetPageControl(Pages);
+        Pages->SetActivePage(Sheets[0]);
+        Buttons[I] = new TButton(Form);
+        Buttons[I]->SetParent(Sheets[I]);
+        Buttons[I]->SetBounds(100, 80, 60, 20);
+        Buttons[I]->SetAnchors({akRight, akBottom});
+    }
+    Pages->SetBounds(8, 8, 270, 180);
+    Show();
+    Pages->SetActivePage(Sheets[1]);
+    EXPECT_EQ(Buttons[1]->Left(), 170);
+    EXPECT_EQ(Buttons[1]->Top(), Buttons[0]->Top());
 }
 
 TEST_F(TComCtrls, TabsOfATabControlChangeOneByOne)

@@ -126,6 +126,9 @@ TEST_F(TDialogs, FilesAreChosen)
     EXPECT_EQ(Dialog.FileName(), Folder.Name("åäö b.txt"));
     ASSERT_EQ(Dialog.Files()->Count(), 1);
     EXPECT_EQ(Dialog.Files()->Get(0), Dialog.FileName());
+    EXPECT_TRUE(ExecuteWith(Dialog, Choosing("c.dat")));
+    EXPECT_EQ(Dialog.Files()->Count(), 1) << "nothing is left of a longer name";
+    EXPECT_EQ(Dialog.FileName(), Folder.Name("c.dat"));
 
     Dialog.SetOptions({ofAllowMultiSelect, ofFileMustExist});
     EXPECT_TRUE(ExecuteWith(Dialog, Choosing("\"c.dat\" \"åäö b.txt\"")));

@@ -1,6 +1,7 @@
 // Somebody who uses a modal form with mouse and keyboard: a row of steps, one after
 // the other, while the form runs. A step acts on the form that is active then, also
 // on a question or an input form that has come up, or on a dialog of the system.
+// While the hourglass is shown the user waits.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -213,7 +214,8 @@ private:
     void Take()
     {
         MSG Waiting{};
-        if (FTaking || PeekMessageA(&Waiting, nullptr, WM_KEYFIRST, WM_MOUSELAST, PM_NOREMOVE))
+        if (FTaking || Screen->Cursor() == crHourGlass ||
+            PeekMessageA(&Waiting, nullptr, WM_KEYFIRST, WM_MOUSELAST, PM_NOREMOVE))
             return;
         const HWND Active = GetActiveWindow();
         if (++FTicks > MostTicks) {

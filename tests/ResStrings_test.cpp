@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+#include <string>
+
 #include "TestTexts.h"
 #include "framework/rtl/Modules.h"
 #include "framework/rtl/SysUtils.h"
@@ -108,6 +111,49 @@ TEST(Modules, GiveTheirLanguageModule)
     EXPECT_EQ(FindResourceHInstance(Handle(16)), Handle(16));
     UnregisterModule(Second);
     EXPECT_EQ(LibModuleList, Before);
+}
+
+std::string FileOf(HINSTANCE Module)
+{
+    char Name[1024];
+    return {Name, GetModuleFileNameA(Module, Name, sizeof(Name))};
+}
+
+// What a look at every identifier that a program's texts can have finds.
+std::map<UINT, std::string> TextsOf(HINSTANCE Module)
+{
+    std::map<UINT, std::string> Result;
+    char Buffer[ResStringBufferBytes];
+    for (UINT Identifier = 65535; Identifier >= 32768; --Identifier)
+        if (const int Length = LoadStringA(Module, Identifier, Buffer, sizeof(Buffer)))
+            Result[Identifier].assign(Buffer, static_cast<size_t>(Length));
+    return Result;
+}
+
+TEST(Modules, TheProgramIsFoundWithAllItsTexts)
+{
+    const std::map<UINT, std::string> All = {
+#define ORBILEX_TEXT(Name, Identifier, Text) {Identifier, Text},
+#include "framework/rtl/RtlConsts.inc"
+#include "strings/TestTexts.inc"
+#undef ORBILEX_TEXT
+    };
+    ASSERT_FALSE(LibModuleList->Next) << "nothing else is registered";
+    EXPECT_EQ(LibModuleList->Instance, HInstance);
+    EXPECT_EQ(FileOf(LibModuleList->Instance), FileOf(nullptr));
+    EXPECT_NE(FileOf(nullptr), "");
+    EXPECT_EQ(TextsOf(LibModuleList->Instance), All);
+
+    const std::map<UINT, std::string> German = {
+#define ORBILEX_TEXT(Name, Identifier, Text) {Identifier, Text},
+#include "strings/TestTexts.de.inc"
+#undef ORBILEX_TEXT
+    };
+    ASSERT_TRUE(LoadResourceLanguage(0x0407));
+    const HINSTANCE Resources = LibModuleList->ResInstance;
+    EXPECT_EQ(FileOf(Resources), "") << "a data file";
+    EXPECT_EQ(TextsOf(Resources), German);
+    UnloadResourceLanguage();
 }
 
 } // namespace

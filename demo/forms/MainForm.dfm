@@ -417,6 +417,12 @@ object MainForm: TMainForm
         Hint = 'See the dialogs for files, fonts, colors, printing and finding'
         OnClick = ItemDialogsClick
       end
+      object ItemTranslations: TMenuItem
+        Caption = 'Edit t&ranslations...'
+        GroupIndex = 1
+        Hint = 'Edit the texts of this window in the language that it shows'
+        OnClick = ItemTranslationsClick
+      end
     end
     object MnuLanguage: TMenuItem
       Caption = '&Language'

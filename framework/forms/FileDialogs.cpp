@@ -172,18 +172,20 @@ bool TOpenDialog::Execute()
     return false;
 }
 
-// The names are one path, or a folder and the files in it: separated by zeros, in
-// dialogs of the old style by blanks.
+// The name is one path; where several may be chosen, also a folder and the files in
+// it: separated by zeros, in dialogs of the old style by blanks.
 void TOpenDialog::TakeFiles(const OPENFILENAMEA& Data)
 {
+    const bool Several = (Data.Flags & OFN_ALLOWMULTISELECT) != 0;
     std::vector<std::string> Names;
     const char* const End = Data.lpstrFile + Data.nMaxFile;
     for (const char* At = Data.lpstrFile; At < End && *At; ++At) {
         const char* const Stop = std::find_if(At, End, [&](char Character) {
-            return Character == '\0' ||
-                   (Character == ' ' && OldStyle() && (Data.Flags & OFN_ALLOWMULTISELECT));
+            return Character == '\0' || (Character == ' ' && OldStyle() && Several);
         });
         Names.emplace_back(At, Stop);
+        if (!Several)
+            break; // behind a single name stands the end of a longer one from before
         At = Stop;
     }
     if (Names.size() > 1) {

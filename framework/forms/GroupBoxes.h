@@ -49,6 +49,9 @@ public:
     void GetChildren(const std::function<void(TComponent*)>&, TComponent*) override {}
     void Loaded() override;
 
+    // The buttons are placed by the group.
+    void FlipChildren(bool) override {}
+
 protected:
     void CreateWnd() override;
     void Dispatch(TMessage& Message) override;

@@ -161,3 +161,25 @@ void TLayout::AnchorAlign(TControl& Control, const TPoint& ParentSize)
     Control.SetBounds(Left, Top, Width, Height);
     Control.FAnchorMove = false;
 }
+
+void TWinControl::FlipChildren(bool AllLevels)
+{
+    DisableAlign();
+    const int Room = ClientWidth();
+    for (int I = 0; I < ControlCount(); ++I) {
+        TControl& Control = *Controls(I);
+        Control.SetLeft(Room - Control.Width() - Control.Left());
+        const TAlign Align = Control.Align();
+        if (Align == alLeft || Align == alRight) {
+            Control.SetAlign(Align == alLeft ? alRight : alLeft);
+        } else if (TAnchors Anchors = Control.Anchors();
+                   Anchors.Contains(akLeft) != Anchors.Contains(akRight)) {
+            Anchors = TAnchors::FromBits(Anchors.Bits() ^ TAnchors{akLeft, akRight}.Bits());
+            Control.SetAnchors(Anchors);
+        }
+        auto* const Container = dynamic_cast<TWinControl*>(&Control);
+        if (Container && AllLevels)
+            Container->FlipChildren(true);
+    }
+    EnableAlign();
+}

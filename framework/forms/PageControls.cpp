@@ -83,6 +83,8 @@ TPageControl::~TPageControl()
 void TPageControl::Loaded()
 {
     TCustomTabControl::Loaded();
+    for (TTabSheet* const Page : FPages)
+        GiveRoom(*Page);
     if (!FActivePage)
         SetActivePage(FindNextPage(nullptr, true, true));
 }
@@ -194,10 +196,26 @@ void TPageControl::ChangeActivePage(TTabSheet* Page)
         Old->SetVisible(false);
 }
 
+void TPageControl::FlipChildren(bool AllLevels)
+{
+    for (TTabSheet* const Page : FPages)
+        if (AllLevels)
+            Page->FlipChildren(true);
+}
+
+// The controls on a page that was never shown, too, keep their distances from its
+// edges.
+void TPageControl::GiveRoom(TTabSheet& Page)
+{
+    Page.SetBoundsRect(DisplayRect());
+}
+
 void TPageControl::InsertPage(TTabSheet* Page)
 {
     FPages.push_back(Page);
     Page->FPageControl = this;
+    if (!HasState(csLoading))
+        GiveRoom(*Page);
     PagesChanged();
 }
 

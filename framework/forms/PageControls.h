@@ -136,6 +136,8 @@ public:
     void Loaded() override;
     void GetChildren(const std::function<void(TComponent*)>& Visit, TComponent* Root) override;
     void SetChildOrder(TComponent* Child, int Order) override;
+    // The pages stay where they are.
+    void FlipChildren(bool AllLevels) override;
 
 protected:
     friend class TTabSheet;
@@ -146,6 +148,7 @@ protected:
 
 private:
     TTabSheet* PageOfTab(int Index) const;
+    void GiveRoom(TTabSheet& Page);
     void InsertPage(TTabSheet* Page);
     void RemovePage(TTabSheet* Page);
     void MovePage(TTabSheet* Page, int Index);

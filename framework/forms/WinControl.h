@@ -102,6 +102,10 @@ public:
     void DisableAlign() { ++FAlignLevel; }
     void EnableAlign();
     void Realign() { AlignControl(nullptr); }
+    // Mirrors the places, anchors and alignments of the controls inside, with
+    // AllLevels of those inside them, too; for languages that are read from right to
+    // left. Twice is as before.
+    virtual void FlipChildren(bool AllLevels);
 
     // Shown together with all containers. Independent of the handle.
     bool Showing() const { return FShowing; }

@@ -11,6 +11,9 @@ namespace {
 
 constinit TLibModule Program;
 
+// Assigned apart: texts need Program before any object is built, but not this.
+[[maybe_unused]] const HINSTANCE ProgramInstance = Program.Instance = HInstance;
+
 // How many modules are registered beside the program. None is the rule, and then
 // the list need not be locked.
 constinit std::atomic<int> Registered{0};

@@ -16,7 +16,9 @@
 struct TLibModule {
     TLibModule* Next = nullptr;
     HINSTANCE Instance = nullptr;
-    std::atomic<HINSTANCE> ResInstance{nullptr}; // null: its own resources
+    // Null: its own resources. A language module is loaded as a data file, of which
+    // GetModuleFileNameA does not tell the name; that of Instance it tells.
+    std::atomic<HINSTANCE> ResInstance{nullptr};
 };
 
 // The registered modules, the newest first. The last one is the program, which

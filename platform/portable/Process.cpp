@@ -138,7 +138,7 @@ DWORD GetModuleFileNameA(HMODULE Module, LPSTR Name, DWORD Size)
     std::string Path = ProgramPath();
     Dl_info Info{};
     if (Module && Module != ProgramModule()) {
-        if (!dladdr(Module, &Info) || !Info.dli_fname) {
+        if (!dladdr(Module, &Info) || Info.dli_fbase != Module || !Info.dli_fname) {
             SetLastError(ERROR_MOD_NOT_FOUND);
             return 0;
         }

@@ -225,7 +225,7 @@ LSTATUS RegSetValueExA(HKEY Handle, LPCSTR Name, DWORD, DWORD Kind, const BYTE* 
     std::string Bytes(reinterpret_cast<const char*>(Data), Data ? Size : 0);
     // A text that was handed over without its final zero gets one when the zero
     // stands right behind it.
-    const bool IsText = Kind == REG_SZ || Kind == REG_EXPAND_SZ || Kind == REG_MULTI_SZ;
+    const bool IsText = Data && (Kind == REG_SZ || Kind == REG_EXPAND_SZ || Kind == REG_MULTI_SZ);
     if (IsText && !Bytes.empty() && Bytes.back() != 0 && Data[Size] == 0)
         Bytes += '\0';
     if (Name && Widen(Name).size() > LongestValueName)

@@ -19,13 +19,16 @@ constinit HINSTANCE HInstance = &__ehdr_start;
 
 namespace {
 
+// In the handle of a library that was loaded as a data file, otherwise its address.
+constexpr ElfW(Addr) DataFileBit = 1;
+
 struct TLibrary {
     void* Handle = nullptr; // of the dynamic loader
     int Count = 0;          // how often it was loaded
     TModuleStrings Strings{};
 };
 
-// Libraries by their load address.
+// Libraries by their handle.
 struct TLibraries {
     std::shared_mutex Lock;
     std::map<HMODULE, TLibrary> Loaded;
@@ -93,24 +96,25 @@ int LoadStringA(HINSTANCE Instance, UINT Identifier, LPSTR Buffer, int Capacity)
     return LoadStringSlot()(Instance, Identifier, Buffer, Capacity);
 }
 
-HMODULE LoadLibraryExA(LPCSTR Name, HANDLE, DWORD)
+HMODULE LoadLibraryExA(LPCSTR Name, HANDLE, DWORD Flags)
 {
     void* const Handle = Name ? dlopen(Name, RTLD_NOW | RTLD_LOCAL) : nullptr;
     if (!Handle) {
         SetLastError(ERROR_MOD_NOT_FOUND);
         return nullptr;
     }
-    const auto Address = reinterpret_cast<HMODULE>(static_cast<link_map*>(Handle)->l_addr);
+    const ElfW(Addr) DataFile = Flags & LOAD_LIBRARY_AS_DATAFILE ? DataFileBit : 0;
+    const auto Module = reinterpret_cast<HMODULE>(static_cast<link_map*>(Handle)->l_addr | DataFile);
     const std::unique_lock Guard(Libraries().Lock);
-    TLibrary& Library = Libraries().Loaded[Address];
+    TLibrary& Library = Libraries().Loaded[Module];
     if (Library.Count++ > 0) {
         dlclose(Handle);
-        return Address;
+        return Module;
     }
     Library.Handle = Handle;
     if (const auto Strings = reinterpret_cast<TModuleStringsFunction>(dlsym(Handle, "OrbilexStrings")))
         Library.Strings = Strings();
-    return Address;
+    return Module;
 }
 
 BOOL FreeLibrary(HMODULE Module)

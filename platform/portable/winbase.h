@@ -101,8 +101,8 @@ void OutputDebugStringA(LPCSTR Text);
 HMODULE GetModuleHandleA(LPCSTR Name);
 DWORD GetModuleFileNameA(HMODULE Module, LPSTR Name, DWORD Size);
 
-// Loads a shared object by its file name. What it offers is its string table
-// (StringTable.h); File and Flags mean nothing. Each load is to be freed.
+// Loads a shared object by its file name. What it offers is its string table (StringTable.h); File means
+// nothing. The file name of a module that was loaded as a data file is not told. Each load is to be freed.
 #define LOAD_LIBRARY_AS_DATAFILE 0x00000002
 HMODULE LoadLibraryExA(LPCSTR Name, HANDLE File, DWORD Flags);
 BOOL FreeLibrary(HMODULE Module);
