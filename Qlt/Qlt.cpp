@@ -6,6 +6,7 @@
 #include "core/Hourglass.h"
 #include "core/KeyLines.h"
 #include "core/TranslationsFile.h"
+#include "core/TranslatorEditors.h"
 #include "framework/forms/Application.h"
 #include "framework/rtl/SysUtils.h"
 #include "platform/winapi.h"
@@ -261,6 +262,61 @@ void TLocaleTranslator::SwitchLocaleTranslator(TLocaleTranslator& Other)
     if (IsPeer)
         Other.FActiveLocale = FActiveLocale;
     Other.SetTranslate(IsPeer);
+}
+
+// Translate is off from its creation to its end.
+class TLocaleTranslator::TPause {
+public:
+    explicit TPause(TLocaleTranslator& Translator)
+        : FTranslator(Translator), FLife(Translator), FRemembered(Translator.Translate())
+    {
+        FTranslator.SetTranslate(false);
+    }
+    ~TPause()
+    {
+        if (!FLife.IsOver())
+            FTranslator.SetTranslate(FRemembered);
+    }
+    TPause(const TPause&) = delete;
+    TPause& operator=(const TPause&) = delete;
+
+private:
+    TLocaleTranslator& FTranslator;
+    const TLife FLife;
+    const bool FRemembered;
+};
+
+bool TLocaleTranslator::ShowEditor()
+{
+    const TTranslatorEditor Edit = GetTranslatorEditor(MetaClass());
+    const TPause Pause(*this);
+    return Edit(*this);
+}
+
+void TLocaleTranslator::TakeUpEdited(int DesignLcid, int StartupLcid)
+{
+    const TLife Life(*this);
+    UpdateAdoptOn();
+    if (Life.IsOver())
+        return;
+    // Without a selector the list was not made.
+    UpdateLangList();
+    SetDesignLocale(ListedValue(DesignLcid));
+    if (Life.IsOver())
+        return;
+    if (StartupLcid == UserDefaultLocale)
+        SetStartupLocale(LocaleValue(UserDefaultName, StartupLcid));
+    else if (StartupLcid == SystemDefaultLocale)
+        SetStartupLocale(LocaleValue(SystemDefaultName, StartupLcid));
+    else
+        SetStartupLocale(ListedValue(StartupLcid));
+}
+
+// Empty when the locale is not in LangList.
+std::string TLocaleTranslator::ListedValue(int Lcid) const
+{
+    const int Item = FLangList->IndexOfObject(IntegerObject(Lcid));
+    return Item >= 0 ? LocaleValue(FLangList->Get(Item), Lcid) : "";
 }
 
 bool TLocaleTranslator::LoadFrom(const std::string& FileName)

@@ -109,6 +109,14 @@ public:
     void OnRadioGroupClick(TObject* Sender);
     void OnMenuItemClick(TObject* Sender);
 
+    // Opens the editor with Translate switched off, and puts that back however it
+    // ends.
+    bool ShowEditor() override;
+    // After an editor has changed Translations: fills the selector anew and takes
+    // the locales as DesignLocale and StartupLocale. One that is neither in LangList
+    // nor, for the start, a pseudo-locale leaves its property as it is.
+    void TakeUpEdited(int DesignLcid, int StartupLcid);
+
     // The translations file (core/TranslationsFile.h). LoadFrom merges the entries
     // of this form and Locale and applies nothing; SaveTo replaces them.
     bool LoadFrom(const std::string& FileName) override;
@@ -119,7 +127,9 @@ public:
 
 private:
     class TClick;
+    class TPause;
 
+    std::string ListedValue(int Lcid) const;
     bool ApplyEntries(const std::string& Prefix);
     void SwitchLocaleTranslator(TLocaleTranslator& Other);
 

@@ -75,13 +75,9 @@ void TranslateEditor(TForm& Form)
 
 TPlainTextsScope::TPlainTextsScope(const TForm& Form)
 {
-    const TComponent* const Owner = Form.FindComponent(SharedTexts);
-    for (int I = 0; Owner && I < Owner->ComponentCount(); ++I)
-        if (auto* const Each = dynamic_cast<TTranslatorFrame*>(Owner->Components(I));
-            Each && Each->Translate()) {
-            FPaused.push_back(Each);
-            Each->InternalTranslate(false);
-        }
+    Pause(Form);
+    if (const TComponent* const Owner = Form.FindComponent(SharedTexts))
+        Pause(*Owner);
 }
 
 TPlainTextsScope::~TPlainTextsScope()
@@ -90,18 +86,12 @@ TPlainTextsScope::~TPlainTextsScope()
         Each->InternalTranslate(true);
 }
 
-TPlainTextsScope::TPlainTextsScope(const TForm& Form)
+void TPlainTextsScope::Pause(const TComponent& Owner)
 {
-    for (int I = 0; I < Form.ComponentCount(); ++I)
-        if (auto* const Each = dynamic_cast<TResourceTranslator*>(Form.Components(I));
+    for (int I = 0; I < Owner.ComponentCount(); ++I)
+        if (auto* const Each = dynamic_cast<TResourceTranslator*>(Owner.Components(I));
             Each && Each->Translate()) {
             FPaused.push_back(Each);
             Each->InternalTranslate(false);
         }
-}
-
-TPlainTextsScope::~TPlainTextsScope()
-{
-    for (TTranslatorFrame* const Each : FPaused)
-        Each->InternalTranslate(true);
 }

@@ -4,6 +4,7 @@
 
 #include <vector>
 
+class TComponent;
 class TForm;
 class TTranslatorFrame;
 
@@ -26,5 +27,7 @@ public:
     TPlainTextsScope& operator=(const TPlainTextsScope&) = delete;
 
 private:
+    void Pause(const TComponent& Owner);
+
     std::vector<TTranslatorFrame*> FPaused;
 };

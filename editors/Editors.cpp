@@ -3,6 +3,7 @@
 #include "core/TranslatorEditors.h"
 #include "editors/Qctedit.h"
 #include "editors/Qftedit.h"
+#include "editors/Qltedit.h"
 #include "editors/Qrtedit.h"
 #include "framework/forms/StandardClasses.h"
 #include "orbilex_editors.h"
@@ -18,6 +19,7 @@ constexpr TEditorOf All[] = {
     {TFormTranslator::MetaClass, TTranslationEditor::Edit<TFormEditor>},
     {TCommonDialogTranslator::MetaClass, TTranslationEditor::Edit<TDlgEditor>},
     {TResourceTranslator::MetaClass, TTranslationEditor::Edit<TResEditor>},
+    {TLocaleTranslator::MetaClass, TTranslationEditor::Edit<TLocaleEditor>},
 };
 
 int Starts = 0;

@@ -93,7 +93,10 @@ bool TTranslationEditor::Run(TTranslatorFrame& Translator)
     Translator.FreeNotification(this);
     // May need another window, which a form that is being shown cannot get.
     FSettings.RestorePlace(*this);
-    return ShowModal() == mrOk;
+    if (ShowModal() != mrOk || !HasTranslator())
+        return false;
+    Accepted();
+    return true;
 }
 
 // An editor without its translator has nothing to do.
@@ -367,7 +370,7 @@ void TTranslationEditor::ReadFrom(const TLabel& Title, bool (TTranslationEditor:
 {
     LeaveBox();
     DlgOpen->SetTitle(Title.Caption());
-    if (!DlgOpen->Execute())
+    if (!DlgOpen->Execute() || !HasTranslator())
         return;
     const THourglass Hourglass;
     if (!(this->*Read)(DlgOpen->FileName()))
@@ -381,7 +384,7 @@ void TTranslationEditor::WriteTo(const TLabel& Title, void (TTranslationEditor::
 {
     LeaveBox();
     DlgSave->SetTitle(Title.Caption());
-    if (!DlgSave->Execute())
+    if (!DlgSave->Execute() || !HasTranslator())
         return;
     const THourglass Hourglass;
     (this->*Write)(DlgSave->FileName());

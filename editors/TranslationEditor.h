@@ -68,7 +68,7 @@ public:
     TSaveDialog* DlgSave = nullptr;
     TFontDialog* DlgFont = nullptr;
     void NotebookChange(TObject* Sender);
-    void PropListClick(TObject* Sender);
+    virtual void PropListClick(TObject* Sender);
     void PropListDrawItem(TWinControl* Control, int Index, TRect Rect, TOwnerDrawState State);
     void BtnRemoveClick(TObject* Sender);
     void BtnNewClick(TObject* Sender);
@@ -96,26 +96,30 @@ protected:
     virtual void TakeTranslations() = 0;
     // Hands the working lists to the translator.
     virtual void GiveTranslations() = 0;
+    // After OK, when the dialog has gone and the translator has what was edited.
+    virtual void Accepted() {}
     // The translation of an item as text, and whether that is a literal in its list.
     virtual std::string Translation(int Item) const = 0;
     virtual bool IsTranslated(int Item) const { return !Translation(Item).empty(); }
     virtual void SetTranslation(int Item, const std::string& Text) = 0;
-    virtual std::string Original(int Item) const = 0;
-    // How many items have a translation.
-    virtual int LocalizedCount() const = 0;
-    // The user's wish for a new item; and to remove the selected ones.
-    virtual void AddItem() = 0;
-    virtual void RemoveSelected() = 0;
-    // The question that is asked before.
-    virtual std::string RemoveQuestion() const = 0;
-    // Exchange of the working lists with a file. TranslateFrom and LoadFrom are
-    // false when there is no such file.
-    virtual bool TranslateFrom(const std::string& FileName) = 0;
+    // Exchange of the working lists with a file; LoadFrom is false when there is no
+    // such file.
     virtual bool LoadFrom(const std::string& FileName) = 0;
     virtual void SaveTo(const std::string& FileName) = 0;
-    virtual void ExportTo(const std::string& FileName) = 0;
     // After the working lists were replaced.
     virtual void RefreshLists() = 0;
+    // For controls that an editor may hide; those that it shows need theirs.
+    virtual std::string Original(int) const { return ""; }
+    // How many items have a translation.
+    virtual int LocalizedCount() const { return 0; }
+    // The user's wish for a new item; and to remove the selected ones.
+    virtual void AddItem() {}
+    virtual void RemoveSelected() {}
+    // The question that is asked before.
+    virtual std::string RemoveQuestion() const { return ""; }
+    // Exchange with a dictionary; TranslateFrom is false when there is no such file.
+    virtual bool TranslateFrom(const std::string&) { return false; }
+    virtual void ExportTo(const std::string&) {}
     // Lists in the display font, besides PropList and EdtOrgTranslation.
     virtual std::vector<TWinControl*> DisplayLists() { return {}; }
 
@@ -126,6 +130,9 @@ protected:
     // When the form is shown, after the settings were read.
     virtual void ReadSettings();
 
+    // False once it was destroyed, which closes the dialog; what asks the user looks
+    // here before it goes on.
+    bool HasTranslator() const { return FTranslator; }
     TTranslatorFrame& Translator() const { return *FTranslator; }
     TEditorSettings& Settings() { return FSettings; }
     void SetModified() { FModified = true; }
