@@ -1,4 +1,5 @@
 #include "framework/forms/Application.h"
+#include "framework/forms/Hints.h"
 
 #include <algorithm>
 
@@ -62,7 +63,8 @@ const TMetaClass& TApplication::MetaClass()
 }
 
 TApplication::TApplication(TComponent* Owner)
-    : TComponent(Owner), FTitle(ChangeFileExt(ExtractFileName(ExeName()), ""))
+    : TComponent(Owner), FHints(std::make_unique<THints>()),
+      FTitle(ChangeFileExt(ExtractFileName(ExeName()), ""))
 {
     CreateHandle();
 }
@@ -70,6 +72,7 @@ TApplication::TApplication(TComponent* Owner)
 TApplication::~TApplication()
 {
     SetStateFlag(csDestroying, true);
+    FHints.reset();
     while (ComponentCount() > 0) {
         TComponent* const Last = Components(ComponentCount() - 1);
         if (auto* const Form = dynamic_cast<TCustomForm*>(Last))
@@ -143,6 +146,8 @@ void TApplication::Notification(TComponent* Component, TOperation Operation)
         FMainForm = nullptr;
     if (Component == FMouseControl)
         FMouseControl = nullptr;
+    if (FHints)
+        FHints->Forget(Component);
 }
 
 void TApplication::Run()

@@ -2,12 +2,15 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "framework/forms/Form.h"
 #include "framework/forms/Screen.h"
 #include "framework/rtl/Exceptions.h"
+
+class THints;
 
 OBX_EVENT(TMessageEvent, MSG&, bool&)
 OBX_EVENT(TExceptionEvent, TObject*, const Exception&)
@@ -71,8 +74,10 @@ public:
     void Restore();
     void RestoreTopMosts() {}
     void NormalizeTopMosts() {}
-    void ActivateHint(const TPoint&) {}
-    void CancelHint() {}
+    // Shows the hint of what is at a point of the screen at once.
+    void ActivateHint(const TPoint& CursorPos);
+    // Hides the hint that is shown or awaited; moving the mouse brings one again.
+    void CancelHint();
 
     // The window that owns all forms. Null where none could be made.
     HWND Handle() const { return FHandle; }
@@ -146,11 +151,13 @@ private:
     bool IsKeyMsg(MSG& Msg);
     bool IsDlgMsg(MSG& Msg);
     bool OfferAction(TBasicAction* Action, bool Execute);
+    void FollowMouse(const MSG& Msg);
     void MouseMoved(TControl* Control);
 
     HWND FHandle = nullptr;
     TForm* FMainForm = nullptr;
     TControl* FMouseControl = nullptr;
+    std::unique_ptr<THints> FHints;
     std::string FTitle;
     std::string FHint;
     std::string FHelpFile;

@@ -1,5 +1,6 @@
 // The program's message loop and the messages of its own window.
 #include "framework/forms/Application.h"
+#include "framework/forms/Hints.h"
 #include "framework/rtl/SysUtils.h"
 
 namespace {
@@ -7,12 +8,6 @@ namespace {
 bool IsKeyMessage(UINT Msg)
 {
     return Msg >= WM_KEYFIRST && Msg <= WM_KEYLAST;
-}
-
-std::string LongHint(const std::string& Hint)
-{
-    const size_t Bar = Hint.find('|');
-    return Bar == std::string::npos ? Hint : Hint.substr(Bar + 1);
 }
 
 } // namespace
@@ -43,6 +38,7 @@ void TApplication::WndProc(TMessage& Message)
         return;
     case WM_ACTIVATEAPP:
         FActive = Message.WParam != 0;
+        CancelHint();
         if (FActive && OnActivate)
             OnActivate(this);
         else if (!FActive && OnDeactivate)
@@ -90,8 +86,7 @@ bool TApplication::Dispatch(MSG& Msg)
         OnMessage(Msg, Handled);
     if (Handled)
         return true;
-    if (Msg.message == WM_MOUSEMOVE)
-        MouseMoved(FindDragTarget(Msg.pt, true));
+    FollowMouse(Msg);
     return IsMDIMsg(Msg) || IsDlgMsg(Msg) || IsKeyMsg(Msg);
 }
 
@@ -157,6 +152,33 @@ bool TApplication::IsDlgMsg(MSG& Msg)
     return DialogHandle && IsWindow(DialogHandle) && IsDialogMessageA(DialogHandle, &Msg);
 }
 
+void TApplication::ActivateHint(const TPoint& CursorPos)
+{
+    FHints->ShowAt(FindDragTarget(CursorPos, true), CursorPos);
+}
+
+void TApplication::CancelHint()
+{
+    if (FHints)
+        FHints->Cancel();
+}
+
+// Keys and clicks end a hint.
+void TApplication::FollowMouse(const MSG& Msg)
+{
+    if (Msg.message == WM_MOUSEMOVE) {
+        POINT Point{static_cast<short>(LOWORD(Msg.lParam)), static_cast<short>(HIWORD(Msg.lParam))};
+        ClientToScreen(Msg.hwnd, &Point);
+        TControl* const Control = FindDragTarget(Point, true);
+        MouseMoved(Control);
+        FHints->MouseMove(Control, Point);
+    } else if ((Msg.message >= WM_KEYFIRST && Msg.message <= WM_KEYLAST) ||
+               (Msg.message > WM_MOUSEMOVE && Msg.message <= WM_MOUSELAST) ||
+               Msg.message == WM_NCLBUTTONDOWN) {
+        CancelHint();
+    }
+}
+
 void TApplication::MouseMoved(TControl* Control)
 {
     if (Control == FMouseControl)
@@ -174,5 +196,5 @@ void TApplication::MouseMoved(TControl* Control)
     std::string Hint;
     for (TControl* Source = Control; Source && Hint.empty(); Source = Source->Parent())
         Hint = Source->Hint();
-    SetHint(LongHint(Hint));
+    SetHint(GetLongHint(Hint));
 }
