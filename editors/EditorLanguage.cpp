@@ -4,6 +4,7 @@
 
 #include "Qft/Qft.h"
 #include "Qrt/Qrt.h"
+#include "core/KeyLines.h"
 #include "core/TranslationsFile.h"
 #include "framework/forms/Forms.h"
 #include "framework/rtl/SysUtils.h"
@@ -50,6 +51,9 @@ void TranslateForm(TForm& Form, const std::string& FileName, int Locale)
     TSortList Lines;
     LoadTranslations(FileName, {SharedForm, Locale}, Lines);
     LoadTranslations(FileName, {Form.Name(), Locale}, Lines);
+    // Mirrored first: labels that grow then keep the side on which they begin.
+    if (int Line = 0; FindKeyLine(Lines, "BiDiMode", Line))
+        Form.FlipChildren(true);
     Translator.SetTranslations(&Lines);
     Translator.InternalTranslate(true);
 }
@@ -69,8 +73,6 @@ void TranslateEditor(TForm& Form)
         return;
     TranslateTexts(Form, FileName, Locale);
     TranslateForm(Form, FileName, Locale);
-    if (Form.UseRightToLeftAlignment())
-        Form.FlipChildren(true);
 }
 
 TPlainTextsScope::TPlainTextsScope(const TForm& Form)

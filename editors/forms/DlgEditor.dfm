@@ -26,8 +26,10 @@ inherited DlgEditor: TDlgEditor
         Width = 352
         Height = 323
         Anchors = [akLeft, akTop, akRight, akBottom]
+        BiDiMode = bdLeftToRight
         ItemHeight = 14
         MultiSelect = True
+        ParentBiDiMode = False
         ShowHint = True
         Sorted = True
         TabOrder = 0

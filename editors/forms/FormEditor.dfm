@@ -32,8 +32,10 @@ inherited FormEditor: TFormEditor
             Width = 336
             Height = 278
             Anchors = [akLeft, akTop, akRight, akBottom]
+            BiDiMode = bdLeftToRight
             ItemHeight = 14
             MultiSelect = True
+            ParentBiDiMode = False
             ShowHint = True
             Sorted = True
             TabOrder = 0
@@ -114,6 +116,7 @@ inherited FormEditor: TFormEditor
             Width = 336
             Height = 278
             Anchors = [akLeft, akTop, akRight, akBottom]
+            BiDiMode = bdLeftToRight
             ItemHeight = 14
             Items.Strings = (
               'Caption'
@@ -140,6 +143,7 @@ inherited FormEditor: TFormEditor
               'Tabs[*]'
               'Text'
               'Translations[*]')
+            ParentBiDiMode = False
             Sorted = True
             TabOrder = 0
             OnClick = CommonPropListClick

@@ -51,7 +51,9 @@ inherited ResEditor: TResEditor
         Height = 84
         Hint = 'These are the modules that are loaded'
         Anchors = [akLeft, akTop, akRight]
+        BiDiMode = bdLeftToRight
         ItemHeight = 14
+        ParentBiDiMode = False
         TabOrder = 0
         OnClick = ModuleListClick
       end
@@ -63,7 +65,9 @@ inherited ResEditor: TResEditor
         Hint = 'These are the resource strings of the selected module'
         Style = lbOwnerDrawFixed
         Anchors = [akLeft, akTop, akRight, akBottom]
+        BiDiMode = bdLeftToRight
         ItemHeight = 16
+        ParentBiDiMode = False
         Sorted = True
         TabOrder = 1
         OnDrawItem = ResStringListDrawItem

@@ -61,8 +61,10 @@ object TranslationEditor: TTranslationEditor
           Hint = 'These are the internationalized properties to be translated'
           Style = lbOwnerDrawFixed
           Anchors = [akLeft, akTop, akRight, akBottom]
+          BiDiMode = bdLeftToRight
           ItemHeight = 16
           MultiSelect = True
+          ParentBiDiMode = False
           TabOrder = 0
           OnClick = PropListClick
           OnDrawItem = PropListDrawItem
@@ -130,8 +132,10 @@ object TranslationEditor: TTranslationEditor
             Height = 164
             Hint = 'Edit the translation. Use PageUp/PageDown to move between properties'
             Anchors = [akLeft, akTop, akRight, akBottom]
+            BiDiMode = bdLeftToRight
             Color = clBtnFace
             Enabled = False
+            ParentBiDiMode = False
             ScrollBars = ssVertical
             TabOrder = 0
             OnExit = EdtTranslationExit
@@ -160,7 +164,9 @@ object TranslationEditor: TTranslationEditor
             Width = 313
             Height = 128
             Anchors = [akLeft, akTop, akRight, akBottom]
+            BiDiMode = bdLeftToRight
             Color = clBtnFace
+            ParentBiDiMode = False
             ReadOnly = True
             ScrollBars = ssVertical
             TabOrder = 0
