@@ -153,8 +153,10 @@ void TSourceParser::Append()
 
 void TSourceParser::CheckText() const
 {
-    if (FChar == 0 || FChar == LineFeed || FChar == CarriageReturn)
-        throw EParserError(Format(SParseError, {std::string(SInvalidString), FLine}));
+    if (FChar != 0 && FChar != LineFeed && FChar != CarriageReturn)
+        return;
+    const int32_t Line = FChar == LineFeed ? FLine - 1 : FLine; // that the text began on
+    throw EParserError(Format(SParseError, {std::string(SInvalidString), Line}));
 }
 
 // A doubled quote ends the text and begins the next one.
