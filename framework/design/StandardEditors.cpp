@@ -169,6 +169,32 @@ public:
     }
 };
 
+// One character of any language; those without a shape by their number.
+class TWideCharProperty : public TStringProperty {
+public:
+    using TStringProperty::TStringProperty;
+
+    std::string GetValue() const override
+    {
+        const std::string Value = TStringProperty::GetValue();
+        const auto First = Value.empty() ? 0 : static_cast<unsigned char>(Value[0]);
+        return First > ' ' ? Value : "#" + IntToStr(First);
+    }
+    void SetValue(const std::string& Value) override
+    {
+        if (!Value.starts_with('#') || Value.size() == 1) {
+            if (Utf8ToUtf16(Value).size() != 1)
+                RaiseInvalid();
+            TStringProperty::SetValue(Value);
+            return;
+        }
+        const int Code = StrToInt(Value.substr(1));
+        if (Code < 0 || Code > 0xFFFF)
+            RaiseInvalid();
+        TStringProperty::SetValue(Utf16ToUtf8(std::u16string(1, static_cast<char16_t>(Code))));
+    }
+};
+
 // A component by its name, to choose from those that fit.
 class TComponentProperty : public TPropertyEditor {
 public:
@@ -251,8 +277,9 @@ std::unique_ptr<TPropertyEditor> MakeStandardEditor(TFormDesigner& Designer,
     case tkString:
     case tkLString:
     case tkWString:
-    case tkWChar:
         return MakePropertyEditor<TStringProperty>(Designer, std::move(Targets));
+    case tkWChar:
+        return MakePropertyEditor<TWideCharProperty>(Designer, std::move(Targets));
     case tkClass:
         return NamesComponent(Targets.front())
                    ? MakePropertyEditor<TComponentProperty>(Designer, std::move(Targets))
