@@ -1,5 +1,6 @@
 #include "platform/portable/dialogs/StandardDialog.h"
 
+#include <cstring>
 #include <memory>
 #include <string_view>
 #include <vector>
@@ -21,8 +22,9 @@ public:
     template<typename TValue>
     void Add(TValue Value)
     {
-        const auto* const Bytes = reinterpret_cast<const BYTE*>(&Value);
-        FBytes.insert(FBytes.end(), Bytes, Bytes + sizeof Value);
+        const std::size_t At = FBytes.size();
+        FBytes.resize(At + sizeof Value);
+        std::memcpy(&FBytes[At], &Value, sizeof Value);
     }
     void Add(const char* Text)
     {
