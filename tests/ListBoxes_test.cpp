@@ -49,6 +49,9 @@ struct ListBoxes : TControlScripts {
             Send(Multiple ? LB_SETSEL : LB_SETCURSEL, Multiple ? 1 : Number(Argument),
                  static_cast<LPARAM>(Number(Argument)));
             return;
+        case '~':
+            Send(LB_SETSEL, 0, static_cast<LPARAM>(Number(Argument)));
+            return;
         case 'i': // a range of items
             Send(LB_SELITEMRANGE, 1, MAKELPARAM(Argument[0] - '0', Argument[1] - '0'));
             return;
@@ -114,6 +117,8 @@ TEST_F(ListBoxes, ChooseAsKeysAndMouseSay)
         {"ranges: by program", LBS_EXTENDEDSEL,
          "s2=2[2]a2 s4=4[24]^1a4 i13=4[1234]^1a4 s-1=4[0123456]^1 -2=4[012345]^1 +1=4[023456]^1 "
          "a2=4[023456]^1a2 k0=0[023456]a2 d=1[1]a1! Sd=2[12]a1! -0=2[01]a1"},
+        {"ranges: taken back by program", LBS_EXTENDEDSEL,
+         "s2=2[2]a2 s4=4[24]^1a4 ~1=4[24]^1a4 ~2=4[4]^1a4 ~-1=4[]^1a4"},
         {"ranges: characters", LBS_EXTENDEDSEL, "m2=2[2]a2! Sm3=3[23]a2! ca=0[012]a2!"},
     };
     for (const auto& Case : Cases) {

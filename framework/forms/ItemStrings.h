@@ -2,8 +2,7 @@
 // radio groups, tabs.
 #pragma once
 
-#include <functional>
-
+#include "framework/rtl/ChunkedList.h"
 #include "framework/rtl/Strings.h"
 
 // A control that is told of every change after it has happened.
@@ -20,9 +19,10 @@ public:
 };
 
 // Holds the lines whether the control has a window or not. A list that the
-// control sorts takes new lines where they belong, and keeps a line that is
-// changed where it is: a translated line must not move under its index.
-class TItemStrings : public TStringList {
+// control sorts takes new lines where they belong, behind those that are equal,
+// and keeps a line that is changed where it is: a translated line must not move
+// under its index. Many lines cost little, in whatever order they come and go.
+class TItemStrings : public TStrings {
 public:
     TItemStrings(TPersistent& Owner, TItemsClient& Client) : FOwner(Owner), FClient(Client) {}
 
@@ -30,20 +30,33 @@ public:
     bool KeepsSorted() const { return FKeepsSorted; }
     // Turning it on sorts the lines.
     void SetKeepsSorted(bool Value);
+    using TStrings::Updating;
 
+    int Count() const override { return static_cast<int>(FLines.Count()); }
+    const std::string& Get(int Index) const override { return FLines[Check(Index)].Text; }
+    TObject* Objects(int Index) const override { return FLines[Check(Index)].Object; }
     void Put(int Index, const std::string& S) override;
+    void PutObject(int Index, TObject* Object) override;
     int AddObject(const std::string& S, TObject* Object) override;
     void Insert(int Index, const std::string& S, TObject* Object = nullptr) override;
     void Delete(int Index) override;
     void Clear() override;
 
 protected:
-    void SetUpdateState(bool Updating) override;
+    void SetUpdateState(bool Updating) override { FClient.ItemsUpdating(Updating); }
 
 private:
+    struct TLine {
+        std::string Text;
+        TObject* Object = nullptr;
+    };
+
+    size_t Check(int Index) const;
     int SortedPlace(const std::string& S) const;
+    void InsertLine(int Index, const std::string& S, TObject* Object);
 
     TPersistent& FOwner;
     TItemsClient& FClient;
+    TChunkedList<TLine> FLines;
     bool FKeepsSorted = false;
 };

@@ -76,7 +76,7 @@ TStrings* TCustomListBox::Items() const
 
 int TCustomListBox::ItemIndex() const
 {
-    if (!HandleAllocated())
+    if (!InWindow())
         return FItemIndex;
     return static_cast<int>(Send(*this, FMultiSelect ? LB_GETCARETINDEX : LB_GETCURSEL));
 }
@@ -85,70 +85,86 @@ void TCustomListBox::SetItemIndex(int Value)
 {
     if (!HandleAllocated()) {
         FItemIndex = IsLoading() ? Value : std::clamp(Value, -1, FItems->Count() - 1);
-        return;
+    } else if (!FBehind) {
+        Send(*this, FMultiSelect ? LB_SETCARETINDEX : LB_SETCURSEL, static_cast<WPARAM>(Value));
+    } else if (Value >= (FMultiSelect ? 0 : -1) && Value < FItems->Count()) {
+        FItemIndex = Value;
+        FReveals = true;
     }
-    if (FMultiSelect)
-        Send(*this, LB_SETCARETINDEX, static_cast<WPARAM>(Value));
-    else
-        Send(*this, LB_SETCURSEL, static_cast<WPARAM>(Value));
 }
 
 int TCustomListBox::SelCount() const
 {
-    if (FMultiSelect && HandleAllocated())
+    const int Index = ItemIndex();
+    if (!FMultiSelect)
+        return Index >= 0 && Index < FItems->Count() ? 1 : 0;
+    if (InWindow())
         return static_cast<int>(Send(*this, LB_GETSELCOUNT));
     int Result = 0;
-    for (int I = 0; I < FItems->Count(); ++I)
-        Result += Selected(I) ? 1 : 0;
+    for (size_t I = 0; I < FSelected.Count(); ++I)
+        Result += FSelected[I];
     return Result;
 }
 
 bool TCustomListBox::Selected(int Index) const
 {
     FItems->Get(Index);
-    if (HandleAllocated())
+    if (InWindow())
         return Send(*this, LB_GETSEL, static_cast<WPARAM>(Index)) > 0;
-    return FMultiSelect ? FSelected[static_cast<size_t>(Index)] : Index == FItemIndex;
+    return FMultiSelect ? FSelected[static_cast<size_t>(Index)] != 0 : Index == FItemIndex;
 }
 
 void TCustomListBox::SetSelected(int Index, bool Value)
 {
     FItems->Get(Index);
     if (!FMultiSelect)
-        SetItemIndex(Value ? Index : -1);
-    else if (HandleAllocated())
+        return SetItemIndex(Value ? Index : -1);
+    if (ChangesWindow()) {
         Send(*this, LB_SETSEL, Value, Index);
+        return;
+    }
+    FSelected[static_cast<size_t>(Index)] = Value;
+    if (Value)
+        FAnchor = Index;
+    if (Value && FBehind)
+        SetItemIndex(Index);
+}
+
+void TCustomListBox::SetAllSelected(bool Value)
+{
+    if (InWindow())
+        Send(*this, LB_SETSEL, Value, -1);
     else
-        FSelected[static_cast<size_t>(Index)] = Value;
+        for (size_t I = 0; I < FSelected.Count(); ++I)
+            FSelected[I] = Value;
 }
 
 void TCustomListBox::SelectAll()
 {
-    if (!FMultiSelect)
+    const int Count = FItems->Count();
+    if (!FMultiSelect || Count == 0)
         return;
-    FSelected.assign(FSelected.size(), true);
-    if (HandleAllocated())
-        Send(*this, LB_SETSEL, 1, -1);
+    SetAllSelected(true);
+    SetSelected(Count - 1, true); // as if one had been chosen after the other
 }
 
 void TCustomListBox::ClearSelection()
 {
-    if (!FMultiSelect) {
+    if (FMultiSelect)
+        SetAllSelected(false);
+    else
         SetItemIndex(-1);
-        return;
-    }
-    FSelected.assign(FSelected.size(), false);
-    if (HandleAllocated())
-        Send(*this, LB_SETSEL, 0, -1);
 }
 
-int TCustomListBox::TopIndex() const
+int TCustomListBox::TopIndex()
 {
+    CatchUp();
     return HandleAllocated() ? static_cast<int>(Send(*this, LB_GETTOPINDEX)) : 0;
 }
 
 void TCustomListBox::SetTopIndex(int Value)
 {
+    CatchUp();
     if (HandleAllocated())
         Send(*this, LB_SETTOPINDEX, static_cast<WPARAM>(Value));
 }
@@ -171,6 +187,7 @@ int TCustomListBox::ItemAtPos(const TPoint& Pos, bool Existing)
 TRect TCustomListBox::ItemRect(int Index)
 {
     TRect Result{};
+    CatchUp();
     SendMessageA(Handle(), LB_GETITEMRECT, static_cast<WPARAM>(Index), reinterpret_cast<LPARAM>(&Result));
     return Result;
 }
@@ -216,92 +233,6 @@ void TCustomListBox::CreateParams(TCreateParams& Params)
     else if (FBorderStyle == bsSingle)
         Params.Style |= WS_BORDER;
     Params.WindowClass.style &= ~static_cast<UINT>(CS_HREDRAW | CS_VREDRAW);
-}
-
-void TCustomListBox::CreateWnd()
-{
-    const int Index = FItemIndex;
-    TWinControl::CreateWnd();
-    if (IsOwnerDrawn() && FStyle != lbOwnerDrawVariable)
-        Send(*this, LB_SETITEMHEIGHT, 0, FItemHeight);
-    if (FTabWidth > 0)
-        Send(*this, LB_SETTABSTOPS, 1, reinterpret_cast<LPARAM>(&FTabWidth));
-    if (FColumns > 0)
-        Send(*this, LB_SETCOLUMNWIDTH, static_cast<WPARAM>(std::max(1, (Width() + FColumns - 3) / FColumns)));
-    FillWindow();
-    for (int I = 0; FMultiSelect && I < FItems->Count(); ++I)
-        if (FSelected[static_cast<size_t>(I)])
-            Send(*this, LB_SETSEL, 1, I);
-    if (Index >= 0)
-        SetItemIndex(Index);
-    if (FScrollWidth > 0)
-        Send(*this, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(FScrollWidth));
-}
-
-void TCustomListBox::DestroyWnd()
-{
-    for (int I = 0; FMultiSelect && I < FItems->Count(); ++I)
-        FSelected[static_cast<size_t>(I)] = Selected(I);
-    FItemIndex = ItemIndex();
-    TWinControl::DestroyWnd();
-}
-
-void TCustomListBox::FillWindow()
-{
-    for (int I = 0; I < FItems->Count(); ++I)
-        Send(*this, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(FItems->Get(I).c_str()));
-}
-
-void TCustomListBox::ItemInserted(int Index)
-{
-    FSelected.insert(FSelected.begin() + Index, false);
-    if (HandleAllocated())
-        Send(*this, LB_INSERTSTRING, static_cast<WPARAM>(Index),
-             reinterpret_cast<LPARAM>(FItems->Get(Index).c_str()));
-    else if (!IsLoading() && FItemIndex >= Index)
-        ++FItemIndex;
-}
-
-void TCustomListBox::ItemDeleted(int Index)
-{
-    FSelected.erase(FSelected.begin() + Index);
-    if (HandleAllocated())
-        Send(*this, LB_DELETESTRING, static_cast<WPARAM>(Index));
-    else if (!IsLoading() && FItemIndex >= Index)
-        FItemIndex = FItemIndex == Index ? -1 : FItemIndex - 1;
-}
-
-void TCustomListBox::ItemChanged(int Index)
-{
-    if (!HandleAllocated())
-        return;
-    const int Chosen = ItemIndex();
-    const int Top = TopIndex();
-    const bool WasSelected = Selected(Index);
-    Send(*this, LB_DELETESTRING, static_cast<WPARAM>(Index));
-    Send(*this, LB_INSERTSTRING, static_cast<WPARAM>(Index),
-         reinterpret_cast<LPARAM>(FItems->Get(Index).c_str()));
-    if (FMultiSelect && WasSelected)
-        Send(*this, LB_SETSEL, 1, Index);
-    SetItemIndex(Chosen);
-    SetTopIndex(Top);
-}
-
-void TCustomListBox::ItemsReordered()
-{
-    if (!HandleAllocated())
-        return;
-    Send(*this, LB_RESETCONTENT);
-    FillWindow();
-}
-
-void TCustomListBox::ItemsUpdating(bool Updating)
-{
-    if (!HandleAllocated())
-        return;
-    Send(*this, WM_SETREDRAW, !Updating);
-    if (!Updating)
-        Invalidate();
 }
 
 void TCustomListBox::MeasureItem(int Index, int& Height)
@@ -402,13 +333,13 @@ void TCheckListBox::SetItemEnabled(int Index, bool Value)
 
 void TCheckListBox::ItemInserted(int Index)
 {
-    FChecks.insert(FChecks.begin() + Index, TCheck{});
+    FChecks.Insert(static_cast<size_t>(Index), TCheck{});
     TCustomListBox::ItemInserted(Index);
 }
 
 void TCheckListBox::ItemDeleted(int Index)
 {
-    FChecks.erase(FChecks.begin() + Index);
+    FChecks.Erase(static_cast<size_t>(Index));
     TCustomListBox::ItemDeleted(Index);
 }
 
@@ -447,7 +378,7 @@ void TCheckListBox::MouseDown(TMouseButton Button, TShiftState Shift, int X, int
 void TCheckListBox::DrawItem(int Index, const TRect& Area, TOwnerDrawState ItemState)
 {
     const TCheck Item =
-        Index < static_cast<int>(FChecks.size()) ? FChecks[static_cast<size_t>(Index)] : TCheck{};
+        Index < static_cast<int>(FChecks.Count()) ? FChecks[static_cast<size_t>(Index)] : TCheck{};
     const bool AtRight = UseRightToLeftAlignment();
     TRect Text = Area;
     (AtRight ? Text.right : Text.left) += AtRight ? -CheckWidth : CheckWidth;

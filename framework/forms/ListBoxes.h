@@ -11,7 +11,9 @@ OBX_EVENT(TDrawItemEvent, TWinControl*, int, TRect, TOwnerDrawState)
 OBX_EVENT(TMeasureItemEvent, TWinControl*, int, int&)
 OBX_EVENT(TLBGetDataEvent, TWinControl*, int, std::string&)
 
-// Items and selection are kept with and without a window.
+// Items and selection are kept with and without a window. Long lists: between
+// BeginUpdate and EndUpdate of Items() also the selection can be changed without
+// any cost for the window, which gets everything at once in the end.
 class TCustomListBox : public TWinControl, public TItemsClient {
     OBX_CLASS(TWinControl)
 public:
@@ -31,7 +33,7 @@ public:
     void ClearSelection();
     void Clear() { Items()->Clear(); }
     // The first item that is in view.
-    int TopIndex() const;
+    int TopIndex();
     void SetTopIndex(int Value);
     // The item at a point of the client area; -1 for none.
     int ItemAtPos(const TPoint& Pos, bool Existing);
@@ -98,7 +100,15 @@ private:
         Field = Value;
         RecreateWnd();
     }
-    void FillWindow();
+    // The window has the present items and selection; a group of many changes
+    // leaves it behind.
+    bool InWindow() const { return HandleAllocated() && !FBehind; }
+    bool ChangesWindow();
+    void TakeFromWindow();
+    void PutIntoWindow();
+    void CatchUp();
+    void ShiftItemIndex(int Index, int By);
+    void SetAllSelected(bool Value);
     void DrawItemMessage(const DRAWITEMSTRUCT& Item);
 
     std::unique_ptr<TCanvas> FCanvas;
@@ -111,9 +121,14 @@ private:
     int FScrollWidth = 0;
     TListBoxStyle FStyle = lbStandard;
     int FTabWidth = 0;
-    // While there is no window:
+    // While the window does not have them:
     int FItemIndex = -1;
-    std::vector<bool> FSelected;
+    int FAnchor = -1; // where a range of items that the user chooses begins
+    TChunkedList<char> FSelected;
+    int FTopIndex = 0;
+    bool FReveals = false; // an item is to be in view
+    bool FBehind = false;
+    int FDirectChanges = 0; // of the present group, in the window
 };
 
 class TListBox : public TCustomListBox {
@@ -159,5 +174,5 @@ private:
     size_t Check(int Index) const;
     void Toggle(int Index);
 
-    std::vector<TCheck> FChecks;
+    TChunkedList<TCheck> FChecks;
 };

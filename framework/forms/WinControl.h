@@ -216,6 +216,7 @@ private:
     void UpdateShowing();
     void UpdateTabOrder(TTabOrder Value);
     void FixupTabList();
+    void UnbindWindow(HWND Window);
     static void ScaleControl(TControl& Control, int M, int D);
     void BrushChanged(TObject* Sender);
     // Each answers its part of the messages; false for others.

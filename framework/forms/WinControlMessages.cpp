@@ -179,7 +179,7 @@ void TWinControl::WMWindowPosChanged(TMessage& Message)
 void TWinControl::WMNCDestroy(TMessage& Message)
 {
     DefaultHandler(Message);
-    FHandle = nullptr;
+    UnbindWindow(FHandle);
     FShowing = false;
 }
 

@@ -1,6 +1,8 @@
 // The windows of controls: making, showing and destroying them.
 #include <algorithm>
+#include <mutex>
 #include <string>
+#include <unordered_map>
 
 #include "framework/forms/Application.h"
 #include "framework/forms/WinControl.h"
@@ -8,7 +10,19 @@
 
 namespace {
 
-constexpr char ControlProp[] = "ObxControl";
+// The controls of the windows made here. A property of the window would be a
+// question to the system for every single message.
+struct TWindowMap {
+    std::mutex Lock;
+    std::unordered_map<HWND, TWinControl*> Controls;
+};
+
+// Lives on for windows that are destroyed at the very end.
+TWindowMap& WindowMap()
+{
+    static auto& Map = *new TWindowMap;
+    return Map;
+}
 
 // The control whose window is being made: its first messages come before the
 // handle is known.
@@ -66,11 +80,10 @@ TWinControl* FindControl(HWND Handle)
 {
     if (!Handle)
         return nullptr;
-    DWORD Process = 0;
-    GetWindowThreadProcessId(Handle, &Process);
-    if (Process != GetCurrentProcessId())
-        return nullptr;
-    return static_cast<TWinControl*>(GetPropA(Handle, ControlProp));
+    TWindowMap& Map = WindowMap();
+    const std::scoped_lock Guard(Map.Lock);
+    const auto Found = Map.Controls.find(Handle);
+    return Found == Map.Controls.end() ? nullptr : Found->second;
 }
 
 TControl* FindDragTarget(const TPoint& Pos, bool AllowDisabled)
@@ -90,7 +103,19 @@ TControl* FindDragTarget(const TPoint& Pos, bool AllowDisabled)
 void TWinControl::BindWindow(HWND Window)
 {
     FHandle = Window;
-    SetPropA(Window, ControlProp, this);
+    TWindowMap& Map = WindowMap();
+    const std::scoped_lock Guard(Map.Lock);
+    Map.Controls[Window] = this;
+}
+
+void TWinControl::UnbindWindow(HWND Window)
+{
+    FHandle = nullptr;
+    TWindowMap& Map = WindowMap();
+    const std::scoped_lock Guard(Map.Lock);
+    const auto Found = Map.Controls.find(Window);
+    if (Found != Map.Controls.end() && Found->second == this)
+        Map.Controls.erase(Found);
 }
 
 HWND TWinControl::Handle()
@@ -218,7 +243,7 @@ void TWinControl::DestroyWindowHandle()
     if (Window)
         DestroyWindow(Window);
     FControlState.Exclude(csDestroyingHandle);
-    FHandle = nullptr;
+    UnbindWindow(Window);
 }
 
 void TWinControl::DestroyWnd()

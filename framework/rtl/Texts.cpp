@@ -117,10 +117,13 @@ int AnsiCompareText(std::string_view A, std::string_view B)
 {
     // Most texts are ASCII, and lists are sorted by this.
     const auto IsAscii = [](char Each) { return static_cast<unsigned char>(Each) < 0x80; };
+    const std::size_t Common = std::min(A.size(), B.size());
     std::size_t Same = 0;
-    while (Same < A.size() && Same < B.size() && IsAscii(A[Same]) &&
-           LowerLetter(A[Same]) == LowerLetter(B[Same]))
+    while (Same < Common && IsAscii(A[Same]) &&
+           (A[Same] == B[Same] || LowerLetter(A[Same]) == LowerLetter(B[Same])))
         ++Same;
+    if (Same < Common && IsAscii(A[Same]) && IsAscii(B[Same]))
+        return LowerLetter(A[Same]) < LowerLetter(B[Same]) ? -1 : 1;
     A.remove_prefix(Same);
     B.remove_prefix(Same);
     while (!A.empty() && !B.empty()) {

@@ -104,6 +104,8 @@ LRESULT TComboBox::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
         }
         return 0;
     }
+    case WM_SETREDRAW:
+        return SetRedraw(WParam != 0);
     case WM_SIZE:
         Place();
         return 0;

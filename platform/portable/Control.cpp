@@ -160,6 +160,15 @@ LRESULT TSystemControl::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
     }
 }
 
+LRESULT TSystemControl::SetRedraw(bool On)
+{
+    if (TWindow* const Known = WindowOf(FWindow))
+        Known->Redraw = On;
+    if (On)
+        Invalidate();
+    return 0;
+}
+
 RECT TSystemControl::ClientRect() const
 {
     RECT Rect{};

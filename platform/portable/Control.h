@@ -40,6 +40,8 @@ protected:
         return DefWindowProcA(FWindow, Message, WParam, LParam);
     }
     void Invalidate() { InvalidateRect(FWindow, nullptr, TRUE); }
+    // WM_SETREDRAW of the controls that stay visible or hidden with it.
+    LRESULT SetRedraw(bool On);
     // WM_COMMAND and WM_NOTIFY to the parent.
     LRESULT Command(int Code);
     LRESULT Notify(UINT Code);

@@ -69,8 +69,10 @@ private:
     int PageSize() { return Columns() ? RowsInView() * ColumnsInView() : RowsInView(); }
     void SetTop(int Index);
     int LastTop();
+    int TopToShow(int Last);
     void ScrollTo(int Index);
     void UpdateScrollBar();
+    void Changed();
     void PaintItem(HDC Dc, int Index);
 
     std::vector<TListItem> FItems;
@@ -84,6 +86,7 @@ private:
     int FColumnWidth = 150;
     bool FScrolls = false; // created with a scroll bar, which hides while all items fit
     bool FPressed = false;
+    bool FRedraws = true;
 };
 
 LRESULT TListBox::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
@@ -104,6 +107,11 @@ LRESULT TListBox::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
     case WM_KILLFOCUS:
         TSystemControl::Handle(Message, WParam, LParam);
         Note(Message == WM_SETFOCUS ? LBN_SETFOCUS : LBN_KILLFOCUS);
+        return 0;
+    case WM_SETREDRAW:
+        FRedraws = WParam != 0;
+        SetRedraw(FRedraws);
+        Changed();
         return 0;
     case WM_SIZE:
         UpdateScrollBar();
@@ -132,11 +140,13 @@ LRESULT TListBox::HandleItems(UINT Message, WPARAM WParam, LPARAM LParam)
         return Delete(Index);
     case LB_RESETCONTENT:
         Clear();
-        UpdateScrollBar();
-        Invalidate();
+        Changed();
         return 0;
     case LB_GETCOUNT:
         return Count();
+    case LB_INITSTORAGE:
+        FItems.reserve(FItems.size() + WParam);
+        return static_cast<LRESULT>(FItems.capacity());
     case LB_GETTEXTLEN:
         if (!Valid(Index))
             return LB_ERR;
@@ -223,9 +233,11 @@ LRESULT TListBox::HandleMultiple(UINT Message, WPARAM WParam, LPARAM LParam)
         const int Item = static_cast<int>(LParam);
         if (!Multiple() || (Item != -1 && !Valid(Item)))
             return LB_ERR;
-        FAnchor = Item;
-        if (Item >= 0)
-            MoveCaret(Item);
+        if (WParam) {
+            FAnchor = Item;
+            if (Item >= 0)
+                MoveCaret(Item);
+        }
         SelectRange(std::max(Item, 0), Item < 0 ? Count() - 1 : Item, WParam != 0);
         return 0;
     }
@@ -363,8 +375,7 @@ int TListBox::Insert(int Index, LPARAM Text)
     FItems.insert(FItems.begin() + Index, std::move(Item));
     if (FCurrent >= Index)
         ++FCurrent;
-    UpdateScrollBar();
-    Invalidate();
+    Changed();
     return Index;
 }
 
@@ -381,8 +392,8 @@ LRESULT TListBox::Delete(int Index)
     else if (FCurrent > Index)
         --FCurrent;
     FCaret = std::clamp(FCaret, 0, std::max(0, Count() - 1));
-    UpdateScrollBar();
-    Invalidate();
+    FTop = std::clamp(FTop, 0, std::max(0, Count() - 1));
+    Changed();
     return Count();
 }
 
@@ -620,11 +631,14 @@ RECT TListBox::RectOf(int Index)
         const int Upper = Index % Rows * FItemHeight;
         return {Left, Upper, Left + FColumnWidth, Upper + FItemHeight};
     }
-    int Top = 0;
-    for (int Each = FTop; Each < Index; ++Each)
-        Top += HeightOf(Each);
-    for (int Each = Index; Each < FTop; ++Each)
-        Top -= HeightOf(Each);
+    int Top = (Index - FTop) * FItemHeight;
+    if (Style() & LBS_OWNERDRAWVARIABLE) {
+        Top = 0;
+        for (int Each = FTop; Each < Index; ++Each)
+            Top += HeightOf(Each);
+        for (int Each = Index; Each < FTop; ++Each)
+            Top -= HeightOf(Each);
+    }
     return {0, Top, Client.right, Top + HeightOf(Index)};
 }
 
@@ -660,10 +674,16 @@ int TListBox::LastTop()
         const int Rows = RowsInView(), All = (Count() + Rows - 1) / Rows;
         return std::max(0, All - ColumnsInView()) * Rows;
     }
-    int Index = Count(), Room = ClientRect().bottom;
-    while (Index > 0 && Room >= HeightOf(Index - 1))
-        Room -= HeightOf(--Index);
-    return std::clamp(Index, 0, std::max(0, Count() - 1));
+    return Count() > 0 ? TopToShow(Count() - 1) : 0;
+}
+
+// The first item in view when Last is the last one that is wholly so.
+int TListBox::TopToShow(int Last)
+{
+    int Top = Last, Room = ClientRect().bottom - HeightOf(Last);
+    while (Top > 0 && Room >= HeightOf(Top - 1))
+        Room -= HeightOf(--Top);
+    return Top;
 }
 
 void TListBox::ScrollTo(int Index)
@@ -674,12 +694,8 @@ void TListBox::ScrollTo(int Index)
         const int Rows = RowsInView(), Column = Index / Rows - ColumnsInView() + 1;
         return FTop / Rows < Column ? SetTop(Column * Rows) : void();
     }
-    while (FTop < Index && RectOf(Index).bottom > ClientRect().bottom) {
-        const int Before = FTop;
-        SetTop(FTop + 1);
-        if (FTop == Before)
-            return;
-    }
+    if (const int Top = TopToShow(Index); Top > FTop)
+        SetTop(Top);
 }
 
 void TListBox::UpdateScrollBar()
@@ -697,6 +713,15 @@ void TListBox::UpdateScrollBar()
                     Columns() ? FTop / Rows : FTop,
                     0};
     SetScrollInfo(Window(), Columns() ? SB_HORZ : SB_VERT, &Info, FALSE);
+}
+
+// Items came or went: shown at once unless the program has put that off.
+void TListBox::Changed()
+{
+    if (!FRedraws)
+        return;
+    UpdateScrollBar();
+    Invalidate();
 }
 
 void TListBox::Paint(HDC Dc)

@@ -88,6 +88,8 @@ LRESULT TListView::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
         return 0;
     case WM_GETDLGCODE:
         return DLGC_WANTARROWS | DLGC_WANTCHARS;
+    case WM_SETREDRAW:
+        return SetRedraw(WParam != 0);
     case WM_SIZE:
         PlaceHeader();
         return 0;

@@ -91,6 +91,8 @@ LRESULT TTreeView::Handle(UINT Message, WPARAM WParam, LPARAM LParam)
         TSystemControl::Handle(Message, WParam, LParam);
         Notify(static_cast<UINT>(Message == WM_SETFOCUS ? NM_SETFOCUS : NM_KILLFOCUS));
         return 0;
+    case WM_SETREDRAW:
+        return SetRedraw(WParam != 0);
     case WM_LBUTTONDOWN:
         SetFocus(Window());
         if (Alive())
