@@ -13,7 +13,6 @@
 #include "framework/forms/ComboBoxes.h"
 #include "framework/forms/Labels.h"
 #include "framework/rtl/RegistryIni.h"
-#include "platform/Picture.h"
 
 namespace {
 
@@ -123,6 +122,7 @@ struct TLocaleEditorTest : TLocaleScene, testing::Test {
 
 TEST_F(TLocaleEditorTest, ShowsItsPagesInOrderAndWhatTheyHold)
 {
+    TRegIniFile(Settings).WriteString("LocaleTranslator", "WindowPlace", "20,20,800,560");
     TFormUser User;
     User.Do([](TForm& Shown) {
         EXPECT_EQ(Shown.Caption(), "Locale Translation Editor");
@@ -139,6 +139,11 @@ TEST_F(TLocaleEditorTest, ShowsItsPagesInOrderAndWhatTheyHold)
     });
     User.Page("Locales");
     ExpectLocales(User, {SystemDefault, UserDefault, EnglishName}, {GermanName, SwedishName});
+    User.Do([](TForm& Shown) {
+        const TListBox& List = *Editor(Shown).LangListInApp;
+        EXPECT_NEAR(List.Left() + List.Width(), List.Parent()->ClientWidth(), 20) << "of a larger window";
+        EXPECT_NEAR(List.Top() + List.Height(), List.Parent()->ClientHeight(), 20);
+    });
     User.Click("BtnCancel");
     EXPECT_FALSE(Edit(User));
 }
@@ -484,60 +489,6 @@ TEST_F(TLocaleEditorTest, TranslatorDestroyedMeanwhileClosesTheEditor)
         TLocaleTranslator& Edited = *Translator;
         EXPECT_FALSE(User.Run<bool>([&] { return Edited.ShowEditor(); }));
     }
-}
-
-TEST(Probe, Pictures)
-{
-    const TRegistryScope Registry;
-    const TFilesScope Files;
-    TLocaleScene Scene;
-    const TPackageScope Package;
-    const TEditorsScope Editors;
-    Scene.SetLocalesOf(*Scene.Translator, {English, Swedish});
-    Scene.Form->SetDesigning(true);
-    TFormUser User;
-#ifdef _WIN32
-    const std::string Kind = "win_";
-#else
-    const std::string Kind = "nat_";
-#endif
-    const auto Picture = [&](const std::string& Name) {
-        User.Do([=](TForm& F) { SaveWindowPicture(F.Handle(), "/tmp/lead/loc/" + Kind + Name + ".png"); });
-    };
-    User.Choose("PropList", "NEGCURRFORMAT");
-    Picture("translations");
-    User.Page("Locales").Choose("LangListInApp", SwedishName);
-    Picture("locales");
-    User.Do([](TForm& Shown) {
-        for (const char* Name : {"TabLocales", "LangList", "LangListInApp", "PropList"}) {
-            auto& C = PartOf<TWinControl>(Shown, Name);
-            RECT R{}; GetWindowRect(C.Handle(), &R);
-            printf("%s %d %d %d %d window %dx%d visible %d\n", Name, C.Left(), C.Top(), C.Width(), C.Height(), int(R.right - R.left), int(R.bottom - R.top), int(IsWindowVisible(C.Handle())));
-        }
-    });
-    User.Page("Options");
-    Picture("options");
-    User.Page("Font");
-    Picture("font");
-    User.Page("Dictionary");
-    Picture("dictionary");
-    User.Do([](TForm& Shown) { Shown.SetBounds(0, 0, 560, 420); })
-        .Page("Translations")
-        .Choose("PropList", "NEGCURRFORMAT");
-    Picture("small");
-    User.Page("Locales");
-    Picture("smalllocales");
-    User.Click("BtnCancel");
-    const auto Start = GetTickCount();
-    User.Run<bool>([&] { return Scene.Translator->ShowEditor(); });
-    printf("all %u\n", unsigned(GetTickCount() - Start));
-    TFormUser Again;
-    DWORD Shown = 0;
-    TRegIniFile("Software\\Quillmark").WriteString("LocaleTranslator", "WindowPlace", "20,20,900,700");
-    Again.Do([&](TForm&) { Shown = GetTickCount(); }).Page("Locales").Do([=](TForm& F) { SaveWindowPicture(F.Handle(), "/tmp/lead/loc/" + Kind + "biglocales.png"); }).Page("Options").Do([=](TForm& F) { SaveWindowPicture(F.Handle(), "/tmp/lead/loc/" + Kind + "bigoptions.png"); }).Click("BtnCancel");
-    const auto Start2 = GetTickCount();
-    Again.Run<bool>([&] { return Scene.Translator->ShowEditor(); });
-    printf("open %u\n", unsigned(Shown - Start2));
 }
 
 } // namespace

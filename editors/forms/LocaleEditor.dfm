@@ -205,6 +205,7 @@ inherited LocaleEditor: TLocaleEditor
         Height = 323
         Anchors = [akLeft, akTop, akBottom]
         ItemHeight = 14
+        ScrollWidth = 320
         Sorted = True
         TabOrder = 0
         OnClick = LangListClick
@@ -267,6 +268,7 @@ inherited LocaleEditor: TLocaleEditor
         Height = 323
         Anchors = [akLeft, akTop, akRight, akBottom]
         ItemHeight = 14
+        ScrollWidth = 320
         Sorted = True
         TabOrder = 6
         OnClick = LangListInAppClick
