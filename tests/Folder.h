@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <fstream>
 #include <map>
 #include <random>
 #include <string>
@@ -35,8 +36,9 @@ public:
     // Makes the file, and the folders it is in.
     std::string Write(const std::string& File, const std::string& Content) const
     {
-        std::filesystem::create_directories((FPath / std::u8string(File.begin(), File.end())).parent_path());
-        ReplaceWholeFile(Name(File), Content);
+        const std::filesystem::path Path = FPath / std::u8string(File.begin(), File.end());
+        std::filesystem::create_directories(Path.parent_path());
+        std::ofstream(Path, std::ios::binary) << Content;
         return Name(File);
     }
     std::string Read(const std::string& File) const { return ReadWholeFile(Name(File)); }

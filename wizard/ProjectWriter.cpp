@@ -154,16 +154,16 @@ private:
 
 void NoStep(const std::string&) {}
 
-bool Recover(const std::string& ProjectFileName)
+bool Recover(const std::string& ProjectFileName, const TWriteStep& Step)
 {
     TJournal Journal(ProjectFileName);
     RemoveTemporaries(Journal.Name());
     if (!Journal.Read())
         return false;
     if (Journal.State() == jsDone)
-        Journal.End(NoStep);
+        Journal.End(Step);
     else
-        Journal.Undo(NoStep);
+        Journal.Undo(Step);
     return true;
 }
 
@@ -195,7 +195,7 @@ void WriteProjectFiles(const std::string& ProjectFileName, const std::vector<TPr
     const TWriteStep& Tell = Step ? Step : NoStep;
     TJournal Journal(ProjectFileName);
     const TFileLock Lock(Journal.Name());
-    Recover(ProjectFileName);
+    Recover(ProjectFileName, NoStep);
     for (const TProjectFile& File : Files) {
         CheckUnchanged(File);
         Journal.Entries.push_back({File.Name, !File.Before});
@@ -227,10 +227,10 @@ void WriteProjectFiles(const std::string& ProjectFileName, const std::vector<TPr
     Journal.End(Tell);
 }
 
-bool RecoverProject(const std::string& ProjectFileName)
+bool RecoverProject(const std::string& ProjectFileName, const TWriteStep& Step)
 {
     if (!FileExists(TJournal(ProjectFileName).Name()))
         return false;
     const TFileLock Lock(TJournal(ProjectFileName).Name());
-    return Recover(ProjectFileName);
+    return Recover(ProjectFileName, Step ? Step : NoStep);
 }

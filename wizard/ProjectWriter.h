@@ -34,4 +34,4 @@ void WriteProjectFiles(const std::string& ProjectFileName, const std::vector<TPr
 
 // To be called before a project is read. False when there was nothing to put right.
 // Throws EParserError for a journal that is none; nothing is changed then.
-bool RecoverProject(const std::string& ProjectFileName);
+bool RecoverProject(const std::string& ProjectFileName, const TWriteStep& Step = {});
