@@ -125,6 +125,44 @@ TEST_F(Orbilex, BadInputIsNamedAndTheNextFileFollows)
     EXPECT_EQ(Missing.Output, "");
 }
 
+TEST_F(Orbilex, GlobalizesAProjectAndExchangesDictionaries)
+{
+    const std::string Form = Write("booking.dfm", ReadWholeFile(FBooking));
+    const char* const Folder = FFolder.c_str();
+    const TAnswer Dry = RunTool({"globalize", Folder, "--locales", "1053,1031", "--dry-run"});
+    EXPECT_EQ(Dry.Code, 0) << Dry.Errors;
+    EXPECT_TRUE(Has(Dry.Output, "booking.dfm: changed; placed FormTranslatorSwedish, FormTranslatorGerman"))
+        << Dry.Output;
+    EXPECT_EQ(ReadWholeFile(Form), ReadWholeFile(FBooking));
+    EXPECT_EQ(RunTool({"export-dictionary", Folder}).Code, 2);
+
+    EXPECT_EQ(RunTool({"globalize", Folder, "--locales", "1053,1031", "--file", "booking.lng"}).Code, 0);
+    const TAnswer Second = RunTool({"globalize", Folder, "--locales", "1053", "--json"});
+    EXPECT_TRUE(Has(Second.Output, "\"changed\": false")) << Second.Output;
+    EXPECT_FALSE(Has(Second.Output, "\"changed\": true")) << Second.Output;
+
+    const TAnswer Export = RunTool({"export-dictionary", Folder, "--locales", "1053"});
+    EXPECT_EQ(Export.Code, 0) << Export.Errors;
+    const std::string Name = Export.Output.substr(0, Export.Output.find(": new"));
+    ASSERT_TRUE(Has(Name, ".1053.txt")) << Export.Output;
+    EXPECT_TRUE(Has(ReadWholeFile(Name), "&Route:\t\r\n"));
+    ReplaceWholeFile(Name, "&Route:\t&Rutt:\r\n");
+    const TAnswer Import = RunTool({"import-dictionary", Folder, Name.c_str()});
+    EXPECT_EQ(Import.Code, 0) << Import.Errors;
+    EXPECT_TRUE(Has(Import.Output, "1 text translated")) << Import.Output;
+    EXPECT_TRUE(
+        Has(ReadWholeFile(FFolder + "/booking.lng"), "BookingForm.LblRoute.Caption%1053='&Rutt:'\r\n"));
+    EXPECT_EQ(RunTool({"import-dictionary", Folder, Name.c_str()}).Code, 1) << "nothing new";
+    EXPECT_EQ(RunTool({"import-dictionary", Folder, Form.c_str()}).Code, 2) << "no locale in the name";
+
+    const std::string Broken = Write("broken.dfm", "object A: TA\n  Caption = 'open\nend\n");
+    const TAnswer Damaged = RunTool({"globalize", Folder, "--locales", "1041"});
+    EXPECT_EQ(Damaged.Code, 2);
+    EXPECT_TRUE(Has(Damaged.Errors, Broken + ":2:")) << Damaged.Errors;
+    EXPECT_EQ(RunTool({"globalize", "/no/such", "--locales", "1041"}).Code, 2);
+    EXPECT_EQ(RunTool({"globalize", Folder}).Code, 2);
+}
+
 TEST_F(Orbilex, WrongUseIsCodeTwo)
 {
     for (const auto& Arguments : std::vector<std::vector<const char*>>{

@@ -1,37 +1,10 @@
 #include "tools/FormFiles.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <iostream>
 
-#include "framework/rtl/Texts.h"
-
-namespace {
-
-namespace fs = std::filesystem;
-
-// Names are UTF-8 on every platform.
-fs::path PathOf(const std::string& Name)
-{
-    return fs::path(std::u8string(Name.begin(), Name.end()));
-}
-
-std::string NameOf(const fs::path& Path)
-{
-    const std::u8string Name = Path.generic_u8string();
-    return {Name.begin(), Name.end()};
-}
-
-bool IsFormFile(const std::string& Name)
-{
-    const size_t Dot = Name.rfind('.');
-    if (Dot == Name.npos)
-        return false;
-    const std::string Extension = LowerCase(Name.substr(Dot));
-    return Extension == ".dfm" || Extension == ".lfm" || Extension == ".xfm" || Extension == ".fmx";
-}
-
-} // namespace
+#include "framework/design/Project.h"
+#include "framework/rtl/FileNames.h"
 
 void TFormInput::Declare(CLI::App& Command)
 {
@@ -47,17 +20,13 @@ std::vector<std::string> FormFilesOf(const std::vector<std::string>& Paths)
 {
     std::vector<std::string> Result;
     for (const std::string& Path : Paths) {
-        std::error_code Ignored;
-        if (!fs::is_directory(PathOf(Path), Ignored)) {
+        if (!DirectoryExists(Path)) {
             Result.push_back(Path);
             continue;
         }
-        std::vector<std::string> Found;
-        for (const auto& Entry : fs::recursive_directory_iterator(PathOf(Path)))
-            if (Entry.is_regular_file() && IsFormFile(NameOf(Entry.path())))
-                Found.push_back(NameOf(Entry.path()));
-        std::sort(Found.begin(), Found.end());
-        Result.insert(Result.end(), Found.begin(), Found.end());
+        const std::string Folder = ExtractFileName(Path).empty() ? Path : Path + "/";
+        for (const std::string& File : FilesBelow(Path, IsFormFileName))
+            Result.push_back(Folder + File);
     }
     return Result;
 }

@@ -5,7 +5,7 @@
 #include "core/KeyLines.h"
 #include "core/VisibleTexts.h"
 #include "tools/FormFiles.h"
-#include "tools/TranslatableForm.h"
+#include "wizard/TranslatableForm.h"
 
 namespace {
 

@@ -9,7 +9,7 @@
 
 int RunOrbilex(int ArgumentCount, const char* const* Arguments)
 {
-    CLI::App Program{"Lists, converts and translates form files.\n"
+    CLI::App Program{"Lists, converts and translates form files, and globalizes projects of them.\n"
                      "Exit code: 0 fine, 1 findings, 2 wrong use or bad input."};
     Program.name("orbilex");
     Program.require_subcommand(1);
@@ -19,6 +19,9 @@ int RunOrbilex(int ArgumentCount, const char* const* Arguments)
     AddListCommand(Program, Outcome);
     AddRoundtripCommand(Program, Outcome);
     AddTranslateCommand(Program, Outcome);
+    AddGlobalizeCommand(Program, Outcome);
+    AddExportDictionaryCommand(Program, Outcome);
+    AddImportDictionaryCommand(Program, Outcome);
     try {
         TApplicationScope Scope;
         RegisterStandardClasses();

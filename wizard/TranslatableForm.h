@@ -13,7 +13,10 @@ public:
     // Loads a form with stand-ins for the classes that are not known here. No
     // window is shown. Errors: EFormFileError, EFOpenError.
     TTranslatableForm(const std::string& FileName, int CodePage);
+    explicit TTranslatableForm(TFormDocument Document);
 
+    // A form, frame or data module.
+    TComponent& Root() const { return FForm.Root(); }
     const TFormDocument& Document() const { return FForm.Document(); }
     TFormDocument Save() const { return FForm.Save(); }
 

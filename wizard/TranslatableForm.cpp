@@ -1,4 +1,4 @@
-#include "tools/TranslatableForm.h"
+#include "wizard/TranslatableForm.h"
 
 #include <algorithm>
 #include <array>
@@ -49,7 +49,12 @@ TFormDocument ReadDocument(const std::string& FileName, int CodePage)
 } // namespace
 
 TTranslatableForm::TTranslatableForm(const std::string& FileName, int CodePage)
-    : FForm(ReadDocument(FileName, CodePage), TUnknownClasses::Accept, MakeHiddenRoot)
+    : TTranslatableForm(ReadDocument(FileName, CodePage))
+{
+}
+
+TTranslatableForm::TTranslatableForm(TFormDocument Document)
+    : FForm(std::move(Document), TUnknownClasses::Accept, MakeHiddenRoot)
 {
     AddTranslators(FForm.Root());
 }
