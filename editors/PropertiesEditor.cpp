@@ -157,4 +157,5 @@ void TPropertiesEditor::BtnIncludePropClick(TObject*)
     const int Top = ListAvail->TopIndex();
     RefreshPropList();
     ListAvail->SetTopIndex(Top);
+    GoOnIn(*ListAvail);
 }

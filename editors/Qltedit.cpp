@@ -283,7 +283,7 @@ void TLocaleEditor::BtnCopyLangClick(TObject*)
     LangList->Items()->Delete(Item);
     SetModified();
     SelectLocale();
-    LangList->SetFocus();
+    GoOnIn(*LangList);
     LangListClick(LangList);
 }
 
@@ -298,7 +298,7 @@ void TLocaleEditor::BtnRemoveLangClick(TObject*)
     CbxLang->Items()->Delete(CbxLang->Items()->IndexOfObject(IntegerObject(Lcid)));
     LangListInApp->Items()->Delete(Item);
     SetModified();
-    LangListInApp->SetFocus();
+    GoOnIn(*LangListInApp);
     LangListInAppClick(LangListInApp);
     SelectLocale();
 }
@@ -324,6 +324,7 @@ void TLocaleEditor::BtnSetDefaultClick(TObject*)
 {
     FDesignLcid = LcidOf(*LangListInApp->Items(), LangListInApp->ItemIndex());
     SetModified();
+    GoOnIn(*LangListInApp);
     LangListInAppClick(LangListInApp);
 }
 
@@ -331,6 +332,7 @@ void TLocaleEditor::BtnSetStartupClick(TObject*)
 {
     FStartupLcid = LcidOf(*LangListInApp->Items(), LangListInApp->ItemIndex());
     SetModified();
+    GoOnIn(*LangListInApp);
     LangListInAppClick(LangListInApp);
 }
 

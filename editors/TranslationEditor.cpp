@@ -250,6 +250,7 @@ void TTranslationEditor::BtnRemoveClick(TObject*)
     const THourglass Hourglass;
     EmptyBox();
     RemoveSelected();
+    GoOnIn(*PropList);
 }
 
 void TTranslationEditor::BtnNewClick(TObject*)
@@ -426,6 +427,12 @@ bool TTranslationEditor::CloseQuery()
         LeaveBox();
     const bool MayClose = !FModified || Confirmed(SDiscardChanges) || !FTranslator;
     return MayClose && inherited::CloseQuery();
+}
+
+void TTranslationEditor::GoOnIn(TWinControl& Control)
+{
+    if (Control.CanFocus())
+        Control.SetFocus();
 }
 
 bool TTranslationEditor::Confirmed(const std::string& Question)

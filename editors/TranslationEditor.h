@@ -147,6 +147,8 @@ protected:
     void EmptyBox();
     // Draws a text of several lines as one.
     static void DrawInOneLine(TListBox& List, const std::string& Text, TRect Area);
+    // Takes the focus from a button that has nothing to do any more.
+    static void GoOnIn(TWinControl& Control);
     // Warns and asks.
     static bool Confirmed(const std::string& Question);
 
