@@ -12,7 +12,7 @@
 #include "framework/rtl/Files.h"
 #include "framework/streaming/FormFile.h"
 #include "tools/FormFiles.h"
-#include "tools/TranslatableForm.h"
+#include "wizard/TranslatableForm.h"
 
 namespace {
 
