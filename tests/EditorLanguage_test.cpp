@@ -57,7 +57,7 @@ constexpr TForm* (*EditorForms[])() = {&MakeEditor<TFormEditor>, &MakeEditor<TDl
 bool IsTechnical(const std::string& Key)
 {
     return Key.starts_with("CommonPropList.") || Key.starts_with("LblEditFont.") ||
-           Key.starts_with("LblDisplayFont.");
+           Key.starts_with("LblDisplayFont.") || Key.find(".FocusControl.") != Key.npos;
 }
 
 std::string MnemonicOf(const std::string& Literal)
@@ -91,8 +91,8 @@ TEST_F(EditorLanguage, EveryVisibleTextIsTranslated)
                 if (!IsVisibleText(Key, Value) || IsTechnical(Key))
                     continue;
                 ++Checked;
-                const bool SameWord = Value == "'VCL'" || Value == "'&OK'";
-                EXPECT_EQ(Text == Value, SameWord) << Value;
+                const bool MayBeSame = Value == "'VCL'" || Value == "'&OK'" || Key.starts_with("SystemMenu");
+                EXPECT_TRUE(Text != Value || MayBeSame) << Value;
                 EXPECT_EQ(Text.find('%') == Text.npos, Value.find('%') == Value.npos) << Text;
             }
         }

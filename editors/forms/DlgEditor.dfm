@@ -4,7 +4,6 @@ inherited DlgEditor: TDlgEditor
     inherited TabTranslations: TTabSheet
       inherited PanList: TPanel
         inherited LblList: TLabel
-          Width = 182
           Caption = 'Dialog properties to be translated'
         end
       end
@@ -15,8 +14,10 @@ inherited DlgEditor: TDlgEditor
       object LblAvail: TLabel
         Left = 8
         Top = 8
-        Width = 112
+        Width = 352
         Height = 14
+        Anchors = [akLeft, akTop, akRight]
+        AutoSize = False
         Caption = 'Properties available'
         FocusControl = ListAvail
       end
@@ -47,8 +48,9 @@ inherited DlgEditor: TDlgEditor
         object LblSelected: TLabel
           Left = 14
           Top = 24
-          Width = 62
+          Width = 206
           Height = 14
+          AutoSize = False
           Caption = '%s Selected'
         end
         object BtnIncludeProp: TButton

@@ -21,8 +21,10 @@ inherited FormEditor: TFormEditor
           object LblAvail: TLabel
             Left = 8
             Top = 8
-            Width = 112
+            Width = 336
             Height = 14
+            Anchors = [akLeft, akTop, akRight]
+            AutoSize = False
             Caption = 'Properties available'
             FocusControl = ListAvail
           end
@@ -53,8 +55,9 @@ inherited FormEditor: TFormEditor
             object LblSelected: TLabel
               Left = 14
               Top = 24
-              Width = 62
+              Width = 206
               Height = 14
+              AutoSize = False
               Caption = '%s Selected'
             end
             object BtnIncludeProp: TButton
@@ -105,8 +108,10 @@ inherited FormEditor: TFormEditor
           object LblCommon: TLabel
             Left = 8
             Top = 8
-            Width = 111
+            Width = 336
             Height = 14
+            Anchors = [akLeft, akTop, akRight]
+            AutoSize = False
             Caption = 'Common properties'
             FocusControl = CommonPropList
           end

@@ -6,14 +6,15 @@ inherited LocaleEditor: TLocaleEditor
         object LblLang: TLabel [0]
           Left = 8
           Top = 8
-          Width = 36
+          Width = 276
           Height = 14
+          Anchors = [akLeft, akTop, akRight]
+          AutoSize = False
           Caption = 'Locale'
           FocusControl = CbxLang
         end
         inherited LblList: TLabel
           Top = 60
-          Width = 193
           Caption = 'Locale properties to be translated'
         end
         inherited PropList: TListBox
@@ -185,16 +186,20 @@ inherited LocaleEditor: TLocaleEditor
       object LblLangList: TLabel
         Left = 8
         Top = 8
-        Width = 83
+        Width = 224
         Height = 14
+        Anchors = [akLeft, akTop, akRight]
+        AutoSize = False
         Caption = 'System locales'
         FocusControl = LangList
       end
       object LblLangListInApp: TLabel
         Left = 387
         Top = 8
-        Width = 115
+        Width = 221
         Height = 14
+        Anchors = [akLeft, akTop, akRight]
+        AutoSize = False
         Caption = 'Locales in application'
         FocusControl = LangListInApp
       end
@@ -290,8 +295,10 @@ inherited LocaleEditor: TLocaleEditor
       object LblLocaleList: TLabel [4]
         Left = 16
         Top = 60
-        Width = 231
+        Width = 550
         Height = 14
+        Anchors = [akLeft, akTop, akRight]
+        AutoSize = False
         Caption = 'Get system Locale properties from file'
         FocusControl = EdtLocaleList
       end

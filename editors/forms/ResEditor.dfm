@@ -4,7 +4,6 @@ inherited ResEditor: TResEditor
     inherited TabTranslations: TTabSheet
       inherited PanList: TPanel
         inherited LblList: TLabel
-          Width = 181
           Caption = 'Resource strings to be translated'
         end
         inherited PropList: TListBox
@@ -19,7 +18,6 @@ inherited ResEditor: TResEditor
         end
         inherited PanOriginal: TPanel
           inherited LblOrgTranslation: TLabel
-            Width = 131
             Caption = 'Original resource string'
           end
         end
@@ -31,16 +29,20 @@ inherited ResEditor: TResEditor
       object LblModules: TLabel
         Left = 8
         Top = 8
-        Width = 99
+        Width = 600
         Height = 14
+        Anchors = [akLeft, akTop, akRight]
+        AutoSize = False
         Caption = 'Resource Modules'
         FocusControl = ModuleList
       end
       object LblResStrings: TLabel
         Left = 8
         Top = 124
-        Width = 154
+        Width = 600
         Height = 14
+        Anchors = [akLeft, akTop, akRight]
+        AutoSize = False
         Caption = 'Resource Strings in module'
         FocusControl = ResStringList
       end

@@ -48,8 +48,10 @@ object TranslationEditor: TTranslationEditor
         object LblList: TLabel
           Left = 8
           Top = 8
-          Width = 148
+          Width = 276
           Height = 14
+          Anchors = [akLeft, akTop, akRight]
+          AutoSize = False
           Caption = 'Properties to be translated'
           FocusControl = PropList
         end
@@ -120,8 +122,10 @@ object TranslationEditor: TTranslationEditor
           object LblTranslation: TLabel
             Left = 4
             Top = 8
-            Width = 61
+            Width = 313
             Height = 14
+            Anchors = [akLeft, akTop, akRight]
+            AutoSize = False
             Caption = 'Translation'
             FocusControl = EdtTranslation
           end
@@ -153,8 +157,10 @@ object TranslationEditor: TTranslationEditor
           object LblOrgTranslation: TLabel
             Left = 4
             Top = 4
-            Width = 142
+            Width = 313
             Height = 14
+            Anchors = [akLeft, akTop, akRight]
+            AutoSize = False
             Caption = 'Original value of property'
             FocusControl = EdtOrgTranslation
           end
@@ -182,29 +188,33 @@ object TranslationEditor: TTranslationEditor
       object LblTotal: TLabel
         Left = 16
         Top = 20
-        Width = 146
+        Width = 230
         Height = 14
+        AutoSize = False
         Caption = 'Total nr of translations:'
       end
       object LblTotalNr: TLabel
         Left = 260
         Top = 20
-        Width = 7
+        Width = 120
         Height = 14
+        AutoSize = False
         Caption = '0'
       end
       object LblLocalized: TLabel
         Left = 16
         Top = 44
-        Width = 150
+        Width = 230
         Height = 14
+        AutoSize = False
         Caption = 'Nr of properties localized:'
       end
       object LblLocalizedNr: TLabel
         Left = 260
         Top = 44
-        Width = 7
+        Width = 120
         Height = 14
+        AutoSize = False
         Caption = '0'
       end
       object CkxMove: TCheckBox
@@ -236,8 +246,9 @@ object TranslationEditor: TTranslationEditor
         object LblEditFont: TLabel
           Left = 16
           Top = 34
-          Width = 41
+          Width = 420
           Height = 14
+          AutoSize = False
           Caption = 'Tahoma'
         end
         object BtnEditFont: TButton
@@ -262,8 +273,9 @@ object TranslationEditor: TTranslationEditor
         object LblDisplayFont: TLabel
           Left = 16
           Top = 34
-          Width = 41
+          Width = 420
           Height = 14
+          AutoSize = False
           Caption = 'Tahoma'
         end
         object BtnDisplayFont: TButton
