@@ -134,6 +134,7 @@ TEST(Modules, TheProgramIsFoundWithAllItsTexts)
 {
     const std::map<UINT, std::string> All = {
 #define ORBILEX_TEXT(Name, Identifier, Text) {Identifier, Text},
+#include "editors/EditorTexts.inc"
 #include "framework/rtl/RtlConsts.inc"
 #include "strings/TestTexts.inc"
 #undef ORBILEX_TEXT
