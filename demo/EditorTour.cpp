@@ -41,7 +41,9 @@ private:
     static void CALLBACK Tick(HWND, UINT, UINT_PTR, DWORD)
     {
         auto* const Editor = dynamic_cast<TTranslationEditor*>(Screen->ActiveForm());
-        if (!Editor || !Editor->Visible() || Editor->ModalResult() != mrNone || FBusy)
+        // The hourglass says that the editor is at work, or looks at dialogs.
+        if (!Editor || !Editor->Visible() || Editor->ModalResult() != mrNone || FBusy ||
+            Screen->Cursor() != crDefault)
             return;
         FBusy = true;
         Current->Visit(*Editor);
