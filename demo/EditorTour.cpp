@@ -12,6 +12,7 @@
 #include "editors/Editors.h"
 #include "editors/TranslationEditor.h"
 #include "framework/forms/ListBoxes.h"
+#include "framework/forms/MessageForms.h"
 #include "framework/forms/PageControls.h"
 #include "framework/rtl/Files.h"
 #include "platform/Picture.h"
@@ -40,6 +41,11 @@ public:
 private:
     static void CALLBACK Tick(HWND, UINT, UINT_PTR, DWORD)
     {
+        // Looking at the dialogs is a change that may be discarded.
+        if (auto* const Question = dynamic_cast<TMessageForm*>(Screen->ActiveForm())) {
+            Question->SetModalResult(mrYes);
+            return;
+        }
         auto* const Editor = dynamic_cast<TTranslationEditor*>(Screen->ActiveForm());
         // The hourglass says that the editor is at work, or looks at dialogs.
         if (!Editor || !Editor->Visible() || Editor->ModalResult() != mrNone || FBusy ||
