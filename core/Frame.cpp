@@ -61,6 +61,8 @@ void SortByPlace(std::vector<TTranslatorFrame*>& Frames)
                    [](const TPlaced& Each) { return Each.second; });
 }
 
+int SavePauses = 0;
+
 uint64_t NextNumber()
 {
     static uint64_t Last = 0;
@@ -85,6 +87,16 @@ TTranslatorFrame::TTranslatorFrame(TComponent* Owner, const TMetaClass& Kind, co
 TTranslatorFrame::~TTranslatorFrame()
 {
     Living().erase(FindLiving(FNumber));
+}
+
+TTranslatorFrame::TSavePause::TSavePause()
+{
+    ++SavePauses;
+}
+
+TTranslatorFrame::TSavePause::~TSavePause()
+{
+    --SavePauses;
 }
 
 bool TTranslatorFrame::TLife::IsOver() const
@@ -270,6 +282,8 @@ void TTranslatorFrame::LoadStorageFile()
 
 void TTranslatorFrame::SaveStorageFile()
 {
+    if (SavePauses > 0)
+        return;
     const bool HasFolder =
         FFileName.find('\\') != std::string::npos || FFileName.find(PathDelimiter) != std::string::npos;
     if (HasFolder)

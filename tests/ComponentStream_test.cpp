@@ -305,7 +305,7 @@ TEST(LoadedForm, SavesNothingButTheChanges)
     EXPECT_NE(Added.find("Mood = mdBad"), std::string::npos);
     EXPECT_NE(Added.find("    Tag = 3\n"), std::string::npos);
     delete Root.FindComponent("Grid");
-    EXPECT_NE(WriteForm(Form.Save()).find("'deep'"), std::string::npos);
+    EXPECT_EQ(WriteForm(Form.Save()).find("'deep'"), std::string::npos);
 }
 
 } // namespace

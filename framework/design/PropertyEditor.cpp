@@ -61,10 +61,28 @@ TPropertyEditorMaker FindMaker(const TPropertyEditor::TTarget& Target)
     return Result;
 }
 
+// Events of classes that the program does not have are told by their names.
+bool IsEvent(const TPropInfo& Prop)
+{
+    return Prop.Kind() == tkMethod ||
+           (Prop.Kind() == tkUnknown && Prop.Name.size() > 2 && Prop.Name.starts_with("On") &&
+            Prop.Name[2] >= 'A' && Prop.Name[2] <= 'Z');
+}
+
+bool AreAlike(const TPropInfo& One, const TPropInfo& Other)
+{
+    if (IsEvent(One) || IsEvent(Other))
+        return IsEvent(One) && IsEvent(Other);
+    return One.Kind() == Other.Kind() && One.PropType->Name == Other.PropType->Name;
+}
+
 std::unique_ptr<TPropertyEditor> MakeEditor(TFormDesigner& Designer, TPropertyEditor::TTargets Targets)
 {
     const auto Make = FindMaker(Targets.front());
-    return Make ? Make(Designer, std::move(Targets)) : MakeStandardEditor(Designer, std::move(Targets));
+    if (Make)
+        return Make(Designer, std::move(Targets));
+    return IsEvent(*Targets.front().Prop) ? MakeEventEditor(Designer, std::move(Targets))
+                                          : MakeStandardEditor(Designer, std::move(Targets));
 }
 
 } // namespace
@@ -148,12 +166,12 @@ TPropertyEditors GetPropertyEditors(TFormDesigner& Designer, const std::vector<T
     if (Objects.empty())
         return Result;
     for (const TPropInfo* const Prop : GetPropList(*Objects.front())) {
-        if ((Prop->Kind() == tkMethod) != Events)
+        if (IsEvent(*Prop) != Events)
             continue;
         TPropertyEditor::TTargets Targets;
         for (TPersistent* const Object : Objects) {
             const TPropInfo* const Same = GetPropInfo(*Object, Prop->Name);
-            if (Same && Same->Kind() == Prop->Kind() && Same->PropType->Name == Prop->PropType->Name)
+            if (Same && AreAlike(*Same, *Prop))
                 Targets.push_back({Object, Same});
         }
         if (Targets.size() != Objects.size())

@@ -284,6 +284,8 @@ std::unique_ptr<TPropertyEditor> MakeStandardEditor(TFormDesigner& Designer,
         return NamesComponent(Targets.front())
                    ? MakePropertyEditor<TComponentProperty>(Designer, std::move(Targets))
                    : MakePropertyEditor<TClassProperty>(Designer, std::move(Targets));
+    case tkUnknown:
+        return MakeKeptEditor(Designer, std::move(Targets));
     default:
         return nullptr;
     }

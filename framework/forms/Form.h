@@ -216,6 +216,8 @@ private:
     void ShowMDIChild();
     void IconChanged(TObject* Sender);
     void ReadTextHeight(TReader& Reader);
+    // Forms are designed in windows of their own.
+    TFormStyle ShownStyle() const { return HasState(csDesigning) ? fsNormal : FFormStyle; }
     void WindowStyle(TCreateParams& Params) const;
     void MDIStyle(TCreateParams& Params) const;
 

@@ -143,9 +143,9 @@ void TCustomForm::MergeMenu(bool)
 {
     TForm* const Main = Application ? Application->MainForm() : nullptr;
     if (Main && Main != this && Main->Menu() && FMenu && !IsModal() && !HasState(csDesigning) &&
-        (FFormStyle == fsMDIChild || (FMenu->AutoMerge() && Main->FormStyle() != fsMDIForm)))
+        (ShownStyle() == fsMDIChild || (FMenu->AutoMerge() && Main->FormStyle() != fsMDIForm)))
         Main->Menu()->Merge(FMenu);
-    if (FFormStyle != fsMDIChild && HandleAllocated())
+    if (ShownStyle() != fsMDIChild && HandleAllocated())
         RefreshMenu();
 }
 

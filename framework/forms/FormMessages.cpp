@@ -32,7 +32,7 @@ void TCustomForm::Dispatch(TMessage& Message)
         return;
     case CM_TEXTCHANGED:
         inherited::Dispatch(Message);
-        if (FFormStyle == fsMDIChild && HandleAllocated())
+        if (ShownStyle() == fsMDIChild && HandleAllocated())
             SendMessageA(::GetParent(WindowHandle()), WM_MDIREFRESHMENU, 0, 0);
         break;
     case CM_DIALOGKEY:
@@ -63,14 +63,14 @@ bool TCustomForm::DispatchActivation(TMessage& Message)
 {
     switch (Message.Msg) {
     case WM_ACTIVATE:
-        if (FFormStyle != fsMDIForm || HasState(csDesigning))
+        if (ShownStyle() != fsMDIForm || HasState(csDesigning))
             SetActive((Message.WParam & 0xffff) != WA_INACTIVE);
         else
             ActivateFrame(Message);
         break;
     case WM_MDIACTIVATE:
         DefaultHandler(Message);
-        if (FFormStyle == fsMDIChild)
+        if (ShownStyle() == fsMDIChild)
             SetActive(reinterpret_cast<HWND>(Message.LParam) == WindowHandle());
         break;
     case CM_ACTIVATE:
@@ -194,7 +194,7 @@ bool TCustomForm::IsShortCut(TMessage& Message)
 
 bool TCustomForm::CloseQuery()
 {
-    if (FFormStyle == fsMDIForm)
+    if (ShownStyle() == fsMDIForm)
         for (int Index = 0; Index < MDIChildCount(); ++Index)
             if (!MDIChildren(Index)->CloseQuery())
                 return false;
@@ -219,7 +219,7 @@ void TCustomForm::Close()
     if (!CloseQuery())
         return;
     TCloseAction Action = caHide;
-    if (FFormStyle == fsMDIChild)
+    if (ShownStyle() == fsMDIChild)
         Action = FBorderIcons.Contains(biMinimize) ? caMinimize : caNone;
     DoClose(Action);
     if (Action == caNone)
@@ -259,7 +259,7 @@ void TCustomForm::CloseModal()
 
 TModalResult TCustomForm::ShowModal()
 {
-    if (FShowing || !Enabled() || IsModal() || FFormStyle == fsMDIChild)
+    if (FShowing || !Enabled() || IsModal() || ShownStyle() == fsMDIChild)
         throw EInvalidOperation(SCannotShowModal);
     Application->RunModally([this] {
         FFormState.Include(fsModal);

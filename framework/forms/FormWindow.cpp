@@ -39,9 +39,9 @@ void TCustomForm::WindowStyle(TCreateParams& Params) const
         {WS_CAPTION | WS_BORDER, WS_EX_TOOLWINDOW},
         {WS_CAPTION | WS_THICKFRAME, WS_EX_TOOLWINDOW},
     };
-    const TFormBorderStyle Border =
-        FFormStyle == fsMDIChild && (FBorderStyle == bsNone || FBorderStyle == bsDialog) ? bsSizeable
-                                                                                         : FBorderStyle;
+    const bool NeedsFrame = HasState(csDesigning) || (ShownStyle() == fsMDIChild &&
+                                                      (FBorderStyle == bsNone || FBorderStyle == bsDialog));
+    const TFormBorderStyle Border = NeedsFrame ? bsSizeable : FBorderStyle;
     Params.Style |= Borders[Border].Style;
     Params.ExStyle |= Borders[Border].ExStyle;
     if (Border == bsNone)
@@ -79,10 +79,12 @@ void TCustomForm::CreateParams(TCreateParams& Params)
     Params.WindowClass.style = CS_DBLCLKS;
     Params.WndParent = Application ? Application->Handle() : nullptr;
     WindowStyle(Params);
-    if (FFormStyle == fsMDIChild)
+    if (ShownStyle() == fsMDIChild)
         MDIStyle(Params);
-    if (FFormStyle == fsStayOnTop)
+    if (ShownStyle() == fsStayOnTop)
         Params.ExStyle |= WS_EX_TOPMOST;
+    if (HasState(csDesigning))
+        return;
     if (FPosition == poDefault || FPosition == poDefaultPosOnly)
         Params.X = Params.Y = CW_USEDEFAULT;
     if (FPosition == poDefault || FPosition == poDefaultSizeOnly)
@@ -92,7 +94,7 @@ void TCustomForm::CreateParams(TCreateParams& Params)
 // A menu without items takes no room.
 bool TCustomForm::HasMenuBar() const
 {
-    return FMenu && FMenu->Items()->Count() > 0 && FFormStyle != fsMDIChild && !IsEmbedded() &&
+    return FMenu && FMenu->Items()->Count() > 0 && ShownStyle() != fsMDIChild && !IsEmbedded() &&
            !HasState(csDesigning);
 }
 
@@ -107,11 +109,11 @@ TSize TCustomForm::FrameSize() const
 
 void TCustomForm::CreateWindowHandle(const TCreateParams& Params)
 {
-    if (FFormStyle == fsMDIChild && !IsEmbedded()) {
+    if (ShownStyle() == fsMDIChild && !IsEmbedded()) {
         CreateMDIChild(Params);
     } else {
         inherited::CreateWindowHandle(Params);
-        if (FFormStyle == fsMDIForm)
+        if (ShownStyle() == fsMDIForm)
             CreateMDIClient();
     }
 }
@@ -143,7 +145,7 @@ std::string TCustomForm::SystemMenuText(UINT Command)
         return {};
     // Only an MDI child in its frame has commands that other windows do not have.
     const TForm* const Frame = Application ? Application->MainForm() : nullptr;
-    const bool NeedsWindow = FFormStyle == fsMDIChild && Frame && Frame->ClientHandle();
+    const bool NeedsWindow = ShownStyle() == fsMDIChild && Frame && Frame->ClientHandle();
     const bool AskOther = Application && Application->Handle() && !HandleAllocated() && !NeedsWindow;
     const HWND Window = AskOther ? Application->Handle() : Handle();
     char Text[1024];
@@ -203,7 +205,7 @@ void TCustomForm::DestroyWindowHandle()
 
 void TCustomForm::RefreshMenu()
 {
-    if (HasState(csLoading) || !HandleAllocated() || FFormStyle == fsMDIChild || IsEmbedded() ||
+    if (HasState(csLoading) || !HandleAllocated() || ShownStyle() == fsMDIChild || IsEmbedded() ||
         HasState(csDestroying))
         return;
     const HMENU Bar = HasMenuBar() ? FMenu->Handle() : nullptr;
@@ -222,7 +224,7 @@ void TCustomForm::RefreshMenu()
 // The place that Position asks for; taken once, when the form is first shown.
 void TCustomForm::ApplyPosition()
 {
-    if (IsEmbedded() || FWindowState == wsMaximized)
+    if (IsEmbedded() || FWindowState == wsMaximized || HasState(csDesigning))
         return;
     const TCustomForm* Center = nullptr;
     if (FPosition == poMainFormCenter)
@@ -230,7 +232,7 @@ void TCustomForm::ApplyPosition()
     else if (FPosition == poOwnerFormCenter)
         Center = dynamic_cast<TCustomForm*>(Owner());
     TRect Area = Screen->WorkAreaRect();
-    if (Center && Center != this && FFormStyle != fsMDIChild)
+    if (Center && Center != this && ShownStyle() != fsMDIChild)
         Area = Center->BoundsRect();
     else if (FPosition != poScreenCenter && FPosition != poDesktopCenter && FPosition != poMainFormCenter &&
              FPosition != poOwnerFormCenter)
@@ -282,8 +284,8 @@ void TCustomForm::ShowWindowNow()
         ShowWindow(WindowHandle(), SW_SHOWNA);
         return;
     }
-    ShowWindow(WindowHandle(), ShowCommands[FWindowState]);
-    if (FFormStyle == fsMDIChild)
+    ShowWindow(WindowHandle(), ShowCommands[HasState(csDesigning) ? wsNormal : FWindowState]);
+    if (ShownStyle() == fsMDIChild)
         ShowMDIChild();
 }
 
@@ -294,7 +296,7 @@ void TCustomForm::HideWindowNow()
     } catch (...) {
         Application->HandleException(this);
     }
-    if (FFormStyle == fsMDIChild && !IsEmbedded()) {
+    if (ShownStyle() == fsMDIChild && !IsEmbedded()) {
         DestroyHandle();
         return;
     }

@@ -134,6 +134,17 @@ TDynamicProp& TDynamicProperties::AddOpaque(const std::string& Name, std::unique
     return Result;
 }
 
+void TDynamicProperties::Remove(std::string_view Name)
+{
+    // All() still names it.
+    std::vector<std::unique_ptr<TDynamicProp>> Leaving;
+    for (auto& Prop : FOwn)
+        if (SameText(Prop->Name, Name))
+            Leaving.push_back(std::move(Prop));
+    std::erase(FOwn, nullptr);
+    Rebuild();
+}
+
 TDynamicProp* TDynamicProperties::Find(std::string_view Name) const
 {
     for (const auto& Prop : FOwn)

@@ -43,6 +43,9 @@ public:
     // as it is: its kind is tkUnknown, so that no translator and no list reaches it.
     TDynamicProp& AddOpaque(const std::string& Name, std::unique_ptr<TPersistent> Value);
 
+    // Takes one away; that of the class comes back.
+    void Remove(std::string_view Name);
+
     // Letter case ignored; null if none.
     TDynamicProp* Find(std::string_view Name) const;
 

@@ -68,8 +68,9 @@ int64_t CharacterOf(const TFormValue& Value)
 
 } // namespace
 
-TComponentReader::TComponentReader(const TFormDocument& Document, TUnknownClasses UnknownClasses)
-    : FDocument(Document), FUnknownClasses(UnknownClasses)
+TComponentReader::TComponentReader(const TFormDocument& Document, TUnknownClasses UnknownClasses,
+                                   TStandInMaker MakeStandIn)
+    : FDocument(Document), FUnknownClasses(UnknownClasses), FMakeStandIn(std::move(MakeStandIn))
 {
 }
 
@@ -114,6 +115,19 @@ void TComponentReader::ReadObject(TComponent& Component, const TFormObject& Sour
                    ChildOwner ? *ChildOwner : Owner);
 }
 
+TComponent* TComponentReader::MakeStandIn(const TFormObject& Source, TComponent& Owner) const
+{
+    const auto TakeClass = [&](TComponent& StandIn, const TMetaClass& Parent) {
+        StandIn.NeedDynamicProperties().SetClass(&GenericClass(Source.ClassName(), Parent));
+        return &StandIn;
+    };
+    if (TComponent* const Special = FMakeStandIn ? FMakeStandIn(Source, Owner) : nullptr)
+        return TakeClass(*Special, Special->DeclaredClass());
+    auto* const Generic = new TGenericComponent(&Owner);
+    Generic->SetOwnsChildren(Source.Kind() == TFormObjectKind::Inline);
+    return TakeClass(*Generic, TComponent::MetaClass());
+}
+
 TComponent* TComponentReader::MakeChild(const TFormObject& Source, TComponent& Parent, TComponent& Owner)
 {
     if (Source.Kind() == TFormObjectKind::Inherited)
@@ -126,10 +140,7 @@ TComponent* TComponentReader::MakeChild(const TFormObject& Source, TComponent& P
     if (Class && Class->CanCreate()) {
         Child = static_cast<TComponent*>(Class->Create(&Owner));
     } else if (FUnknownClasses == TUnknownClasses::Accept) {
-        auto* const Generic = new TGenericComponent(&Owner);
-        Generic->NeedDynamicProperties().SetClass(&GenericClass(Source.ClassName(), TComponent::MetaClass()));
-        Generic->SetOwnsChildren(Source.Kind() == TFormObjectKind::Inline);
-        Child = Generic;
+        Child = MakeStandIn(Source, Owner);
     } else {
         throw EClassNotFound(FDocument.ErrorAt(Source, Format(SClassNotFound, {Source.ClassName()})).what());
     }

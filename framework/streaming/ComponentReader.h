@@ -1,6 +1,7 @@
 // Makes components from the tree of a form file.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <span>
 #include <string>
@@ -15,6 +16,10 @@ enum class TUnknownClasses {
     Accept  // stand-ins are made from the file, so that every form can be loaded
 };
 
+// Makes the stand-in, owned by Owner, for a component of a class that the program does
+// not have; null for the usual one.
+using TStandInMaker = std::function<TComponent*(const TFormObject& Source, TComponent& Owner)>;
+
 // A property that names a component is set when all components are there.
 struct TComponentReference {
     TPersistent* Instance;
@@ -28,7 +33,8 @@ struct TComponentReference {
 // are gone. The document must outlive the reader.
 class TComponentReader : public TReader {
 public:
-    TComponentReader(const TFormDocument& Document, TUnknownClasses UnknownClasses);
+    TComponentReader(const TFormDocument& Document, TUnknownClasses UnknownClasses,
+                     TStandInMaker MakeStandIn = {});
 
     // Reads the file's root into Root, which exists already, and makes the
     // components inside it, owned by Root. Sets Root's name when it has none.
@@ -61,6 +67,7 @@ private:
 
     void ReadAll();
     void ReadObject(TComponent& Component, const TFormObject& Source, TComponent& Owner);
+    TComponent* MakeStandIn(const TFormObject& Source, TComponent& Owner) const;
     TComponent* MakeChild(const TFormObject& Source, TComponent& Parent, TComponent& Owner);
     void NameChild(TComponent& Child, const TFormObject& Source, const TComponent& Owner);
     void ReadProperties(TPersistent& Instance, const TFormProperties& Source);
@@ -78,6 +85,7 @@ private:
 
     const TFormDocument& FDocument;
     TUnknownClasses FUnknownClasses;
+    TStandInMaker FMakeStandIn;
     TComponent* FRoot = nullptr;
     TComponent* FOwner = nullptr;
     std::vector<TComponent*> FComponents;

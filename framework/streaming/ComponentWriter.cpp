@@ -35,6 +35,16 @@ const TPersistent* SubObject(const TObject* Held)
 
 } // namespace
 
+void ForEachWrittenChild(TComponent& Parent, TComponent& Root, const std::function<void(TComponent*)>& Visit)
+{
+    Parent.GetChildren(Visit, &Root);
+    if (&Parent != &Root)
+        return;
+    for (int I = 0; I < Parent.ComponentCount(); ++I)
+        if (!Parent.Components(I)->HasParent())
+            Visit(Parent.Components(I));
+}
+
 TComponentWriter::TComponentWriter(TComponent& Root, TWrittenProperties Written)
     : FRoot(Root), FWritten(Written)
 {
@@ -56,20 +66,12 @@ TFormObject TComponentWriter::WriteComponent(const TComponent& Component)
     return Result;
 }
 
-// First the components nested in Parent, then, for the root, those without a
-// parent of their own.
 void TComponentWriter::WriteChildren(TComponent& Parent, TFormObject& Target)
 {
-    const auto Write = [&](TComponent* Child) {
+    ForEachWrittenChild(Parent, FRoot, [&](TComponent* Child) {
         Target.Children().push_back(WriteComponent(*Child));
         WriteChildren(*Child, Target.Children().back());
-    };
-    Parent.GetChildren(Write, &FRoot);
-    if (&Parent != &FRoot)
-        return;
-    for (int I = 0; I < Parent.ComponentCount(); ++I)
-        if (!Parent.Components(I)->HasParent())
-            Write(Parent.Components(I));
+    });
 }
 
 void TComponentWriter::WriteProperties(const TPersistent& Instance, const std::string& Prefix,

@@ -1,6 +1,7 @@
 // Makes the tree of a form file from components.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -12,6 +13,10 @@ enum class TWrittenProperties {
     Changed, // those that differ from their class's defaults, as form files have them
     All      // every stored one, to compare two states of a component
 };
+
+// Visits what form files nest in Parent, in their order: first the components inside
+// it, then, for the root, those without a parent of their own.
+void ForEachWrittenChild(TComponent& Parent, TComponent& Root, const std::function<void(TComponent*)>& Visit);
 
 // Writes a form or single components. The tree holds copies of everything.
 class TComponentWriter : public TWriter {

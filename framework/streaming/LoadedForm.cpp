@@ -1,107 +1,249 @@
 #include "framework/streaming/LoadedForm.h"
 
 #include <algorithm>
+#include <unordered_map>
 
 #include "framework/streaming/ComponentWriter.h"
+#include "framework/streaming/FormChanges.h"
+
+// Forgets components that are destroyed: another one may be made in their place.
+class TLoadedForm::TWatch : public TComponent {
+public:
+    TWatch() : TComponent(nullptr) {}
+
+    void Notification(TComponent* Component, TOperation Operation) override
+    {
+        TComponent::Notification(Component, Operation);
+        if (Operation != opRemove)
+            return;
+        for (TEntry& Each : Entries)
+            if (Each.Component == Component)
+                Each.Component = nullptr;
+    }
+
+    std::vector<TEntry> Entries; // in the order of the document's objects
+};
 
 namespace {
 
-// The property of that name, which mostly stands at the same place in both.
-const TFormProperty* FindNear(const TFormProperties& Properties, size_t Index, const std::string& Name)
-{
-    const auto& All = Properties.Properties();
-    if (Index < All.size() && All[Index].Name() == Name)
-        return &All[Index];
-    return Properties.Find(Name);
-}
+using TEntries = std::vector<TLoadedForm::TEntry>;
 
-void ApplyChanges(TFormProperties& Target, const TFormProperties& Before, const TFormProperties& After);
-
-bool SameCount(const TFormValue& A, const TFormValue& B)
-{
-    if (A.Kind() != B.Kind())
-        return false;
-    if (A.Is(TFormValueKind::Collection))
-        return A.AsCollection().size() == B.AsCollection().size();
-    return A.Is(TFormValueKind::List) && A.AsList().size() == B.AsList().size();
-}
-
-// Only the items and lines that differ are replaced, so that the others keep
-// their spelling and what the components do not know of them.
-void ApplyValue(TFormValue& Target, const TFormValue& Before, const TFormValue& After)
-{
-    if (!SameCount(Target, Before) || !SameCount(Before, After)) {
-        Target = After;
-    } else if (Target.Is(TFormValueKind::Collection)) {
-        auto& Items = Target.EditCollection();
-        for (size_t I = 0; I < Items.size(); ++I)
-            ApplyChanges(Items[I], Before.AsCollection()[I], After.AsCollection()[I]);
-    } else {
-        auto& Values = Target.EditList();
-        for (size_t I = 0; I < Values.size(); ++I)
-            if (!Before.AsList()[I].SameAs(After.AsList()[I]))
-                Values[I] = After.AsList()[I];
-    }
-}
-
-void ApplyChanges(TFormProperties& Target, const TFormProperties& Before, const TFormProperties& After)
-{
-    for (size_t I = 0; I < After.Properties().size(); ++I) {
-        const TFormProperty& New = After.Properties()[I];
-        const TFormProperty* const Old = FindNear(Before, I, New.Name());
-        if (Old && Old->Value.SameAs(New.Value))
-            continue;
-        TFormProperty* const Present = Target.Find(New.Name());
-        if (!Present)
-            Target.Add(New.Name(), New.Value);
-        else if (Old)
-            ApplyValue(Present->Value, Old->Value, New.Value);
-        else
-            Present->Value = New.Value;
-    }
-}
-
-void CollectObjects(TFormObject& Object, std::vector<TFormObject*>& Objects)
+void CollectObjects(const TFormObject& Object, std::vector<const TFormObject*>& Objects)
 {
     Objects.push_back(&Object);
-    for (TFormObject& Child : Object.Children())
+    for (const TFormObject& Child : Object.Children())
         CollectObjects(Child, Objects);
 }
 
-void CollectComponents(TComponent& Owner, std::vector<const TComponent*>& Components)
+void NumberParents(const TFormObject& Object, int Parent, std::vector<int>& Parents)
 {
-    Components.push_back(&Owner);
-    for (int I = 0; I < Owner.ComponentCount(); ++I)
-        CollectComponents(*Owner.Components(I), Components);
+    const int Number = static_cast<int>(Parents.size());
+    Parents.push_back(Parent);
+    for (const TFormObject& Child : Object.Children())
+        NumberParents(Child, Number, Parents);
 }
+
+// Where components are written now.
+struct TWrittenTree {
+    struct TPlace {
+        TComponent* Parent;
+        int Rank;
+    };
+    std::unordered_map<const TComponent*, TPlace> Places;
+    std::vector<std::pair<TComponent*, std::vector<TComponent*>>> Children;
+
+    explicit TWrittenTree(TComponent& Root) { Visit(Root, Root); }
+
+private:
+    void Visit(TComponent& Parent, TComponent& Root)
+    {
+        std::vector<TComponent*> Found;
+        ForEachWrittenChild(Parent, Root, [&](TComponent* Child) {
+            Places[Child] = {&Parent, static_cast<int>(Found.size())};
+            Found.push_back(Child);
+        });
+        for (TComponent* const Child : Found)
+            Visit(*Child, Root);
+        Children.emplace_back(&Parent, std::move(Found));
+    }
+};
+
+// Puts the tree of the file together anew from the parts that it had.
+class TAssembly {
+public:
+    TAssembly(const TFormDocument& Document, TComponent& Root, const TEntries& Entries)
+        : FEntries(Entries), FTree(Root), FAll(Root, TWrittenProperties::All), FChanged(Root)
+    {
+        CollectObjects(Document.Root, FObjects);
+        for (size_t I = 0; I < Entries.size(); ++I)
+            if (Entries[I].Component)
+                FNumbers.emplace(Entries[I].Component, static_cast<int>(I));
+        for (size_t I = 1; I < Entries.size(); ++I)
+            if (const TComponent* const Parent = Entries[I].Component ? ParentOf(Entries[I]) : nullptr)
+                FChildren[Parent].push_back({Entries[I].Component, static_cast<int>(I)});
+        for (const auto& [Parent, Written] : FTree.Children)
+            Arrange(*Parent, Written);
+    }
+
+    TFormObject Write(TComponent& Component, int Number)
+    {
+        TFormObject Result = Number < 0 ? FChanged.WriteComponent(Component) : Changed(Component, Number);
+        const auto Inside = FChildren.find(&Component);
+        if (Inside == FChildren.end() || IsSecond(Component, Number))
+            return Result;
+        for (const TNode& Each : Inside->second)
+            Result.Children().push_back(Write(*Each.Component, Each.Number));
+        return Result;
+    }
+
+private:
+    struct TNode {
+        TComponent* Component;
+        int Number; // of its entry; -1 for a new component
+    };
+
+    int NumberOf(const TComponent* Component) const
+    {
+        const auto Found = FNumbers.find(Component);
+        return Found == FNumbers.end() ? -1 : Found->second;
+    }
+
+    // A file may name one inherited component twice; what is inside belongs to the first.
+    bool IsSecond(const TComponent& Component, int Number) const
+    {
+        return Number >= 0 && NumberOf(&Component) != Number;
+    }
+
+    // The component whose part of the file an entry belongs to now.
+    const TComponent* ParentOf(const TLoadedForm::TEntry& Entry) const
+    {
+        const auto Place = FTree.Places.find(Entry.Component);
+        const TComponent* const Before =
+            Entry.Parent < 0 ? nullptr : FEntries[static_cast<size_t>(Entry.Parent)].Component;
+        if (Place != FTree.Places.end() && Place->second.Parent != Before)
+            return Place->second.Parent;
+        return FEntries[static_cast<size_t>(Entry.FileParent)].Component;
+    }
+
+    TFormObject Changed(TComponent& Component, int Number)
+    {
+        const TFormObject& Source = *FObjects[static_cast<size_t>(Number)];
+        TFormObject Result;
+        static_cast<TFormProperties&>(Result) = Source;
+        Result.InitHeader(Source.Kind(), Source.Name(), Source.ClassName(), Source.Position());
+        Result.SetSpan(Source.Span());
+        const TFormObject After = FAll.WriteComponent(Component);
+        const TFormObject& Before = FEntries[static_cast<size_t>(Number)].Before;
+        ApplyChanges(Result, Before, After);
+        if (After.Name() != Before.Name())
+            Result.SetName(After.Name());
+        return Result;
+    }
+
+    // The file's order stays unless that of the components was changed.
+    void Arrange(const TComponent& Parent, const std::vector<TComponent*>& Written)
+    {
+        auto& Nodes = FChildren[&Parent];
+        if (IsReordered(Parent, Written))
+            SortAs(Nodes, Written);
+        auto Place = Nodes.begin();
+        for (TComponent* const Each : Written) {
+            if (Each->Name().empty() && NumberOf(Each) < 0)
+                continue;
+            const auto Known = std::find_if(Nodes.begin(), Nodes.end(),
+                                            [&](const TNode& Node) { return Node.Component == Each; });
+            Place = Known != Nodes.end() ? Known + 1 : Nodes.insert(Place, {Each, NumberOf(Each)}) + 1;
+        }
+    }
+
+    bool IsReordered(const TComponent& Parent, const std::vector<TComponent*>& Written) const
+    {
+        int Last = -1;
+        for (const TComponent* const Each : Written) {
+            const int Number = NumberOf(Each);
+            const auto* const Entry = Number < 0 ? nullptr : &FEntries[static_cast<size_t>(Number)];
+            if (!Entry || Entry->Parent < 0 ||
+                FEntries[static_cast<size_t>(Entry->Parent)].Component != &Parent)
+                continue;
+            if (Entry->Rank < Last)
+                return true;
+            Last = Entry->Rank;
+        }
+        return false;
+    }
+
+    void SortAs(std::vector<TNode>& Nodes, const std::vector<TComponent*>& Written) const
+    {
+        std::vector<TNode> Sorted;
+        for (TComponent* const Each : Written)
+            for (const TNode& Node : Nodes)
+                if (Node.Component == Each)
+                    Sorted.push_back(Node);
+        // What is not written stands where it stood.
+        auto Next = Sorted.begin();
+        for (TNode& Node : Nodes)
+            if (FTree.Places.contains(Node.Component) && Next != Sorted.end())
+                Node = *Next++;
+    }
+
+    const TEntries& FEntries;
+    TWrittenTree FTree;
+    TComponentWriter FAll;
+    TComponentWriter FChanged;
+    std::vector<const TFormObject*> FObjects;
+    std::unordered_map<const TComponent*, int> FNumbers;
+    std::unordered_map<const TComponent*, std::vector<TNode>> FChildren;
+};
 
 } // namespace
 
-TLoadedForm::TLoadedForm(TFormDocument Document, TUnknownClasses UnknownClasses, const TRootMaker& MakeRoot)
-    : FDocument(std::move(Document))
+TLoadedForm::TLoadedForm(TFormDocument Document, TUnknownClasses UnknownClasses, const TRootMaker& MakeRoot,
+                         TStandInMaker MakeStandIn)
+    : FDocument(std::move(Document)), FWatch(std::make_unique<TWatch>())
 {
     FRoot = MakeRoot(FDocument.Root);
-    TComponentReader Reader(FDocument, UnknownClasses);
+    TComponentReader Reader(FDocument, UnknownClasses, std::move(MakeStandIn));
     Reader.ReadRoot(*FRoot);
+
+    std::vector<int> FileParents;
+    NumberParents(FDocument.Root, -1, FileParents);
+    const auto& Components = Reader.Components();
+    const TWrittenTree Tree(*FRoot);
+    std::unordered_map<const TComponent*, int> Numbers;
+    FWatch->Entries.reserve(Components.size());
+    for (size_t I = 0; I < Components.size(); ++I) {
+        FWatch->Entries.push_back({Components[I], {}, FileParents[I], -1, -1});
+        Numbers.emplace(Components[I], static_cast<int>(I));
+        FWatch->FreeNotification(Components[I]);
+    }
+    for (TEntry& Each : FWatch->Entries)
+        if (const auto Place = Tree.Places.find(Each.Component); Place != Tree.Places.end())
+            if (const auto Parent = Numbers.find(Place->second.Parent); Parent != Numbers.end()) {
+                Each.Parent = Parent->second;
+                Each.Rank = Place->second.Rank;
+            }
+    Settle();
+}
+
+TLoadedForm::TLoadedForm(TLoadedForm&&) noexcept = default;
+
+// The root goes first, while the watch is there to be told.
+TLoadedForm::~TLoadedForm()
+{
+    FRoot.reset();
+}
+
+void TLoadedForm::Settle()
+{
     TComponentWriter Writer(*FRoot, TWrittenProperties::All);
-    FEntries.reserve(Reader.Components().size());
-    for (TComponent* const Component : Reader.Components())
-        FEntries.push_back({Component, Writer.WriteComponent(*Component)});
+    for (TEntry& Each : FWatch->Entries)
+        if (Each.Component)
+            Each.Before = Writer.WriteComponent(*Each.Component);
 }
 
 TFormDocument TLoadedForm::Save() const
 {
     TFormDocument Result = FDocument;
-    std::vector<TFormObject*> Objects;
-    CollectObjects(Result.Root, Objects);
-    std::vector<const TComponent*> Alive;
-    CollectComponents(*FRoot, Alive);
-    std::sort(Alive.begin(), Alive.end());
-    TComponentWriter Writer(*FRoot, TWrittenProperties::All);
-    for (size_t I = 0; I < FEntries.size(); ++I) {
-        const TEntry& Entry = FEntries[I];
-        if (std::binary_search(Alive.begin(), Alive.end(), Entry.Component))
-            ApplyChanges(*Objects[I], Entry.Before, Writer.WriteComponent(*Entry.Component));
-    }
+    Result.Root = TAssembly(FDocument, *FRoot, FWatch->Entries).Write(*FRoot, 0);
     return Result;
 }
