@@ -20,5 +20,5 @@ configure_package_config_file(cmake/OrbilexConfig.cmake.in ${CMAKE_BINARY_DIR}/O
                               INSTALL_DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/Orbilex)
 write_basic_package_version_file(${CMAKE_BINARY_DIR}/OrbilexConfigVersion.cmake COMPATIBILITY SameMinorVersion)
 install(FILES ${CMAKE_BINARY_DIR}/OrbilexConfig.cmake ${CMAKE_BINARY_DIR}/OrbilexConfigVersion.cmake
-              cmake/Forms.cmake cmake/ResStrings.cmake cmake/LanguageModule.cpp.in
+              cmake/Forms.cmake cmake/ResStrings.cmake cmake/ModuleStrings.cpp.in
         DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/Orbilex)

@@ -21,5 +21,38 @@ function(orbilex_program Name)
     add_executable(${Name} ${ARGN})
     if(WIN32)
         target_sources(${Name} PRIVATE ${PROJECT_SOURCE_DIR}/platform/windows/program.rc)
+        target_link_options(${Name} PRIVATE -static)
     endif()
+endfunction()
+
+# orbilex_take_in(TARGET layers...): the shared library holds these layers whole, with
+# their texts, but not what they themselves are built on.
+function(orbilex_take_in Target)
+    set(Files)
+    foreach(Layer ${ARGN})
+        list(APPEND Files $<TARGET_FILE:${Layer}>)
+        get_target_property(Tables ${Layer} ORBILEX_STRING_TABLES)
+        if(Tables)
+            target_sources(${Target} PRIVATE ${Tables})
+        endif()
+        target_include_directories(${Target} PUBLIC $<TARGET_PROPERTY:${Layer},INTERFACE_INCLUDE_DIRECTORIES>)
+        target_compile_definitions(${Target} PUBLIC $<TARGET_PROPERTY:${Layer},INTERFACE_COMPILE_DEFINITIONS>)
+    endforeach()
+    add_dependencies(${Target} ${ARGN})
+    set_property(TARGET ${Target} APPEND PROPERTY LINK_DEPENDS ${Files})
+    target_link_libraries(${Target} PRIVATE -Wl,--whole-archive ${Files} -Wl,--no-whole-archive)
+    set_target_properties(${Target} PROPERTIES LIBRARY_OUTPUT_DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+endfunction()
+
+# Puts the DLLs of the C++ runtime, which modules of one program share, beside the programs.
+function(orbilex_shared_runtime Target)
+    if(NOT WIN32)
+        return()
+    endif()
+    foreach(Name libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
+        execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${Name} OUTPUT_VARIABLE File
+                        OUTPUT_STRIP_TRAILING_WHITESPACE)
+        add_custom_command(TARGET ${Target} POST_BUILD COMMAND ${CMAKE_COMMAND} -E copy_if_different ${File}
+                                                               ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+    endforeach()
 endfunction()

@@ -8,7 +8,7 @@
 # texts, for LoadResourceLanguage (framework/rtl/Modules.h). Set its OUTPUT_NAME to
 # the program's name and its SUFFIX to ".DEU" or whatever the language is.
 
-set(ORBILEX_LANGUAGE_MODULE_SOURCE ${CMAKE_CURRENT_LIST_DIR}/LanguageModule.cpp.in CACHE INTERNAL "")
+set(ORBILEX_MODULE_STRINGS_SOURCE ${CMAKE_CURRENT_LIST_DIR}/ModuleStrings.cpp.in CACHE INTERNAL "")
 
 # Writes the source that holds the texts of File, and gives its name. A change of
 # File changes its sum in the source: resource compilers tell nobody what they read.
@@ -55,6 +55,7 @@ endfunction()
 # third argument is where Source is installed.
 function(orbilex_add_string_table Target Source)
     get_target_property(Type ${Target} TYPE)
+    set_property(TARGET ${Target} APPEND PROPERTY ORBILEX_STRING_TABLES ${Source})
     if(Type STREQUAL STATIC_LIBRARY)
         foreach(Kind EXECUTABLE SHARED_LIBRARY MODULE_LIBRARY)
             set(InKind "$<STREQUAL:$<TARGET_PROPERTY:TYPE>,${Kind}>")
@@ -98,9 +99,11 @@ function(orbilex_resource_strings Target File)
 ")
     file(CONFIGURE OUTPUT ${Made}/${Name}.cpp CONTENT "#include \"${Name}.h\"
 
-#include \"platform/Strings.h\"
+#include \"platform/OwnModule.h\"
 
-#define ORBILEX_TEXT(Name, Identifier, Text) constinit const TResStringRec Name{&HInstance, Identifier};
+static constinit HINSTANCE Module = OwnModule;
+
+#define ORBILEX_TEXT(Name, Identifier, Text) constinit const TResStringRec Name{&Module, Identifier};
 #include \"${File}\"
 #undef ORBILEX_TEXT
 ")
@@ -112,8 +115,8 @@ endfunction()
 
 function(orbilex_language_module Target)
     set(Made ${CMAKE_CURRENT_BINARY_DIR}/${Target}.strings)
-    configure_file(${ORBILEX_LANGUAGE_MODULE_SOURCE} ${Made}/LanguageModule.cpp COPYONLY)
-    add_library(${Target} MODULE ${Made}/LanguageModule.cpp)
+    configure_file(${ORBILEX_MODULE_STRINGS_SOURCE} ${Made}/ModuleStrings.cpp COPYONLY)
+    add_library(${Target} MODULE ${Made}/ModuleStrings.cpp)
     set_target_properties(${Target} PROPERTIES PREFIX "" CXX_VISIBILITY_PRESET hidden)
     if(TARGET orbilex_options)
         target_link_libraries(${Target} PRIVATE orbilex_options)

@@ -8,6 +8,7 @@
 #include "framework/forms/Application.h"
 #include "framework/rtl/Filer.h"
 #include "framework/rtl/SysUtils.h"
+#include "framework/streaming/Snapshot.h"
 
 namespace {
 
@@ -61,8 +62,6 @@ void SortByPlace(std::vector<TTranslatorFrame*>& Frames)
                    [](const TPlaced& Each) { return Each.second; });
 }
 
-int SavePauses = 0;
-
 uint64_t NextNumber()
 {
     static uint64_t Last = 0;
@@ -87,16 +86,6 @@ TTranslatorFrame::TTranslatorFrame(TComponent* Owner, const TMetaClass& Kind, co
 TTranslatorFrame::~TTranslatorFrame()
 {
     Living().erase(FindLiving(FNumber));
-}
-
-TTranslatorFrame::TSavePause::TSavePause()
-{
-    ++SavePauses;
-}
-
-TTranslatorFrame::TSavePause::~TSavePause()
-{
-    --SavePauses;
 }
 
 bool TTranslatorFrame::TLife::IsOver() const
@@ -282,7 +271,7 @@ void TTranslatorFrame::LoadStorageFile()
 
 void TTranslatorFrame::SaveStorageFile()
 {
-    if (SavePauses > 0)
+    if (TSnapshotScope::IsActive())
         return;
     const bool HasFolder =
         FFileName.find('\\') != std::string::npos || FFileName.find(PathDelimiter) != std::string::npos;

@@ -76,16 +76,6 @@ public:
     // Takes the state of the first peer of the same Locale, unless that is 0.
     void Loaded() override;
 
-    // While one exists, writing translators saves no translations files: a designer
-    // writes components to compare them.
-    class TSavePause {
-    public:
-        TSavePause();
-        ~TSavePause();
-        TSavePause(const TSavePause&) = delete;
-        TSavePause& operator=(const TSavePause&) = delete;
-    };
-
     // Adds the stream property "Storage".
     void DefineProperties(TFiler& Filer) override;
 

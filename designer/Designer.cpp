@@ -1,19 +1,19 @@
 // The development environment.
 //   designer [project, folder or form...]
 //   designer --tour [--out DIR] form...   pictures of the forms being designed
+//   --package NAME                        loads this package instead of the remembered ones
 #include <exception>
 #include <filesystem>
 #include <iostream>
 #include <string>
 #include <vector>
 
-#include "Obxc3/Obxc3.h"
 #include "designer/DesignerForm.h"
-#include "designer/Package.h"
-#include "editors/Editors.h"
+#include "designer/StandardPages.h"
+#include "framework/forms/MessageForms.h"
 #include "framework/forms/StandardClasses.h"
 #include "framework/rtl/SysUtils.h"
-#include "orbilex_designer_forms.h"
+#include "orbilex_designer.h"
 #include "platform/Picture.h"
 
 namespace {
@@ -21,6 +21,7 @@ namespace {
 struct TOptions {
     bool Tour = !HAS_DISPLAY;
     std::string Folder = "out";
+    std::vector<std::string> Packages;
     std::vector<std::string> Paths;
 };
 
@@ -33,6 +34,8 @@ bool ReadOptions(int Count, char** Arguments, TOptions& Options)
             Options.Tour = true;
         else if (Argument == "--out" && I + 1 < Count)
             Options.Folder = Arguments[++I];
+        else if (Argument == "--package" && I + 1 < Count)
+            Options.Packages.emplace_back(Arguments[++I]);
         else if (Argument.starts_with("--"))
             return false;
         else
@@ -69,18 +72,29 @@ int TakePictures(TDesignerForm& Designer, const std::string& Folder)
     return Fine ? 0 : 1;
 }
 
+void LoadPackages(TPackages& Packages, const TOptions& Options)
+{
+    for (const std::string& Each : Options.Packages)
+        Packages.Load(Each);
+    if (!Options.Packages.empty())
+        return;
+    const std::string Errors = Packages.LoadRemembered();
+    if (!Errors.empty())
+        MessageDlg(Errors, mtWarning, {mbOK}, 0);
+}
+
 int RunDesigner(const TOptions& Options)
 {
     const TApplicationScope Scope;
-    const TPackageScope Package;
-    const TEditorsScope Editors;
     RegisterStandardClasses();
     RegisterStandardPages();
-    const TTranslatorsScope Translators;
-    RegisterOrbilexDesignerForms();
+    RegisterOrbilexDesigner();
     Application->SetTitle("Orbilex Designer");
+    TPackages Packages;
+    LoadPackages(Packages, Options);
     TDesignerForm* Designer = nullptr;
     Application->CreateForm(Designer);
+    Designer->SetPackages(Packages);
     for (const std::string& Each : Options.Paths)
         Designer->Open(Each);
     if (Options.Tour)
@@ -95,7 +109,7 @@ int main(int Count, char** Arguments)
 {
     TOptions Options;
     if (!ReadOptions(Count, Arguments, Options)) {
-        std::cerr << "usage: designer [--tour] [--out DIR] [project, folder or form...]\n";
+        std::cerr << "usage: designer [--tour] [--out DIR] [--package NAME] [project, folder or form...]\n";
         return 2;
     }
     try {

@@ -8,6 +8,13 @@
 #include "framework/forms/MessageForms.h"
 #include "framework/rtl/SysUtils.h"
 
+namespace {
+
+// How many items of the Tools menu stand before those of the experts.
+constexpr int OwnTools = 2;
+
+} // namespace
+
 const TMetaClass& TDesignerForm::MetaClass()
 {
     using T = TDesignerForm;
@@ -32,6 +39,7 @@ const TMetaClass& TDesignerForm::MetaClass()
                                    Published<&T::MnuSelectAllClick>("MnuSelectAllClick"),
                                    Published<&T::MnuInspectorClick>("MnuInspectorClick"),
                                    Published<&T::MnuTreeClick>("MnuTreeClick"),
+                                   Published<&T::MnuLoadPackageClick>("MnuLoadPackageClick"),
                                    Published<&T::MnuAboutClick>("MnuAboutClick")});
     return Class;
 }
@@ -76,6 +84,7 @@ void TDesignerForm::FindParts()
     FindPart(*this, "DlgSaveForm", DlgSaveForm);
     FindPart(*this, "DlgOpenProject", DlgOpenProject);
     FindPart(*this, "DlgSaveProject", DlgSaveProject);
+    FindPart(*this, "DlgOpenPackage", DlgOpenPackage);
 }
 
 void TDesignerForm::ConnectWorkspace()
@@ -326,7 +335,8 @@ void TDesignerForm::InspectorTabsChange(TObject*)
 
 void TDesignerForm::ShowExperts()
 {
-    MnuTools->Clear();
+    while (MnuTools->Count() > OwnTools)
+        delete MnuTools->Items(MnuTools->Count() - 1);
     int Number = 0;
     for (TIExpert* const Expert : LibraryExperts()) {
         auto* const Item = new TMenuItem(this);
@@ -341,6 +351,18 @@ void TDesignerForm::ShowExperts()
 void TDesignerForm::ExpertClick(TObject* Sender)
 {
     Try([&] { LibraryExperts()[static_cast<size_t>(static_cast<TMenuItem*>(Sender)->Tag())]->Execute(); });
+}
+
+void TDesignerForm::MnuLoadPackageClick(TObject*)
+{
+    if (!FPackages || !DlgOpenPackage->Execute())
+        return;
+    Try([&] {
+        FPackages->Load(DlgOpenPackage->FileName());
+        FPackages->Remember();
+    });
+    ShowPalette();
+    ShowExperts();
 }
 
 void TDesignerForm::PopupVerbs(const TPoint& Point)

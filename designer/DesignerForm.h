@@ -3,6 +3,7 @@
 #pragma once
 
 #include "designer/Inspector.h"
+#include "designer/Packages.h"
 #include "designer/Workspace.h"
 #include "framework/forms/ComCtrls.h"
 #include "framework/forms/Dialogs.h"
@@ -19,6 +20,8 @@ public:
 
     TWorkspace& Workspace() { return FWorkspace; }
     TInspector* Inspector() const { return FInspector; }
+    // Where packages are loaded into; it outlives the form.
+    void SetPackages(TPackages& Packages) { FPackages = &Packages; }
     // A project file, a folder, or a form; errors are shown.
     void Open(const std::string& Path);
     // The class that the next click on a form places; null for none.
@@ -41,6 +44,7 @@ public:
     TSaveDialog* DlgSaveForm = nullptr;
     TOpenDialog* DlgOpenProject = nullptr;
     TSaveDialog* DlgSaveProject = nullptr;
+    TOpenDialog* DlgOpenPackage = nullptr;
     void PaletteChange(TObject* Sender);
     void InspectorTabsChange(TObject* Sender);
     void ProjectListDblClick(TObject* Sender);
@@ -61,6 +65,7 @@ public:
     void MnuSelectAllClick(TObject* Sender);
     void MnuInspectorClick(TObject* Sender);
     void MnuTreeClick(TObject* Sender);
+    void MnuLoadPackageClick(TObject* Sender);
     void MnuAboutClick(TObject* Sender);
 
 protected:
@@ -91,6 +96,7 @@ private:
     void AppMessage(MSG& Message, bool& Handled);
 
     TWorkspace FWorkspace;
+    TPackages* FPackages = nullptr;
     TInspector* FInspector = nullptr;
     std::vector<TSpeedButton*> FButtons; // by the page's classes; the first is the arrow
     std::string FTreeShape;              // what the tree shows

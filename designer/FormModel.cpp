@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "core/Frame.h"
 #include "framework/forms/FormRoots.h"
 #include "framework/forms/StandInControls.h"
 #include "framework/forms/WinControl.h"
@@ -10,6 +9,7 @@
 #include "framework/rtl/SysUtils.h"
 #include "framework/streaming/ComponentWriter.h"
 #include "framework/streaming/FormFile.h"
+#include "framework/streaming/Snapshot.h"
 
 namespace {
 
@@ -61,7 +61,7 @@ TFormModel::~TFormModel() = default;
 
 std::unique_ptr<TLoadedForm> TFormModel::Load(const TFormDocument& Document) const
 {
-    const TTranslatorFrame::TSavePause Pause;
+    const TSnapshotScope Snapshot;
     return std::make_unique<TLoadedForm>(Document, TUnknownClasses::Accept, MakeDesignedRoot,
                                          MakeStandInControl);
 }
@@ -91,7 +91,7 @@ void TFormModel::Modified()
 
 std::shared_ptr<const TFormModel::TState> TFormModel::TakeState()
 {
-    const TTranslatorFrame::TSavePause Pause;
+    const TSnapshotScope Snapshot;
     TState Result{FForm->Save(), {}, OutsideTexts()};
     Result.Bytes = WriteForm(Result.Document);
     return std::make_shared<const TState>(std::move(Result));
@@ -164,7 +164,7 @@ void TFormModel::Step(TStates& From, TStates& To)
 
 void TFormModel::Settle()
 {
-    const TTranslatorFrame::TSavePause Pause;
+    const TSnapshotScope Snapshot;
     FForm->Settle();
 }
 

@@ -6,13 +6,14 @@
 #include "Obxc3/Obxc3.h"
 #include "Qft/Qft.h"
 #include "designer/DesignerForm.h"
-#include "designer/Package.h"
+#include "designer/StandardPages.h"
 #include "editors/Editors.h"
+#include "editors/Registration.h"
 #include "framework/design/ComponentEditor.h"
 #include "framework/forms/MessageForms.h"
 #include "framework/forms/StandardClasses.h"
 #include "framework/rtl/Files.h"
-#include "orbilex_designer_forms.h"
+#include "orbilex_designer.h"
 #include "tests/FormUser.h"
 
 namespace {
@@ -80,8 +81,9 @@ protected:
 
     Designer()
     {
+        RegisterTranslators();
         RegisterStandardPages();
-        RegisterOrbilexDesignerForms();
+        RegisterOrbilexDesigner();
         std::filesystem::create_directories(Folder);
         File = Folder + "/OrderForm.dfm";
         ReplaceWholeFile(File, Order);
@@ -90,6 +92,8 @@ protected:
         Main->Open(File);
         Run();
     }
+
+    ~Designer() override { UnregisterTranslators(); }
 
     static void Run() { Application->ProcessMessages(); }
 
@@ -150,7 +154,6 @@ protected:
     const TApplicationScope Scope;
     const TPackageScope Package;
     const TEditorsScope Editors;
-    const TTranslatorsScope Translators;
     const std::string Folder = testing::TempDir() + "designer";
     std::string File;
     TDesignerForm* Main = nullptr;

@@ -215,6 +215,13 @@ object DesignerForm: TDesignerForm
     end
     object MnuTools: TMenuItem
       Caption = '&Tools'
+      object MnuLoadPackage: TMenuItem
+        Caption = '&Load package...'
+        OnClick = MnuLoadPackageClick
+      end
+      object MnuToolsLine: TMenuItem
+        Caption = '-'
+      end
     end
     object MnuHelp: TMenuItem
       Caption = '&Help'
@@ -248,6 +255,13 @@ object DesignerForm: TDesignerForm
     Title = 'Open project'
     Left = 120
     Top = 280
+  end
+  object DlgOpenPackage: TOpenDialog
+    DefaultExt = 'dll'
+    Filter = 'Packages (*.dll;*.so)|*.dll;*.so|All files|*.*'
+    Title = 'Load package'
+    Left = 200
+    Top = 240
   end
   object DlgSaveProject: TSaveDialog
     DefaultExt = 'obp'

@@ -20,4 +20,4 @@ public:
 };
 
 // Set by the environment while it runs; null in applications. Not owned.
-inline TIToolServices* ToolServices = nullptr;
+extern TIToolServices* ToolServices;

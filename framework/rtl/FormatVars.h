@@ -44,32 +44,29 @@ private:
 
 // A separator is one character, which in UTF-8 may be several bytes (a French
 // thousand separator has three). Empty: none.
-inline std::string DecimalSeparator = ".";
-inline std::string ThousandSeparator = ",";
+extern std::string DecimalSeparator;
+extern std::string ThousandSeparator;
 
-inline std::string CurrencyString = "$";
-inline int CurrencyDecimals = 2; // digits after the decimal separator
-inline int CurrencyFormat = 0;   // 0 $1, 1 1$, 2 $ 1, 3 1 $
-inline int NegCurrFormat = 0;    // 0 ($1), 1 -$1, 2 $-1, 3 $1-, 4 (1$), ... 15 (1 $), as Windows numbers them
+extern std::string CurrencyString;
+extern int CurrencyDecimals; // digits after the decimal separator
+extern int CurrencyFormat;   // 0 $1, 1 1$, 2 $ 1, 3 1 $
+extern int NegCurrFormat;    // 0 ($1), 1 -$1, 2 $-1, 3 $1-, 4 (1$), ... 15 (1 $), as Windows numbers them
 
 // Pictures are made of the letters that DatePicture.h explains.
-inline std::string DateSeparator = "/"; // "/" in a picture
-inline std::string ShortDateFormat = "m/d/yy";
-inline std::string LongDateFormat = "mmmm d, yyyy";
-inline std::string TimeSeparator = ":"; // ":" in a picture
-inline std::string TimeAMString = "am"; // "ampm" in a picture
-inline std::string TimePMString = "pm";
-inline std::string ShortTimeFormat = "h:mm AMPM";
-inline std::string LongTimeFormat = "h:mm:ss AMPM";
+extern std::string DateSeparator; // "/" in a picture
+extern std::string ShortDateFormat;
+extern std::string LongDateFormat;
+extern std::string TimeSeparator; // ":" in a picture
+extern std::string TimeAMString;  // "ampm" in a picture
+extern std::string TimePMString;
+extern std::string ShortTimeFormat;
+extern std::string LongTimeFormat;
 
 // Days from 1, Sunday, to 7, Saturday.
-inline TNameTable<7> ShortDayNames("Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat");
-inline TNameTable<7> LongDayNames("Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday",
-                                  "Saturday");
-inline TNameTable<12> ShortMonthNames("Jan", "Feb", "Mar", "Apr", "May", "Jun", "Jul", "Aug", "Sep", "Oct",
-                                      "Nov", "Dec");
-inline TNameTable<12> LongMonthNames("January", "February", "March", "April", "May", "June", "July", "August",
-                                     "September", "October", "November", "December");
+extern TNameTable<7> ShortDayNames;
+extern TNameTable<7> LongDayNames;
+extern TNameTable<12> ShortMonthNames;
+extern TNameTable<12> LongMonthNames;
 
 // The locale that the variables above belong to.
 struct TSysLocale {
@@ -79,4 +76,4 @@ struct TSysLocale {
     bool FarEast = false;    // Chinese, Japanese or Korean
     bool MiddleEast = false; // written from right to left
 };
-inline TSysLocale SysLocale;
+extern TSysLocale SysLocale;

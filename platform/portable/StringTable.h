@@ -60,7 +60,7 @@ extern "C" {
 [[gnu::weak, gnu::visibility("hidden")]] extern const TStringTable* __stop_orbilex_strings[];
 }
 
-inline TModuleStrings OwnModuleStrings()
+[[gnu::visibility("hidden")]] inline TModuleStrings OwnModuleStrings()
 {
     return {__start_orbilex_strings, __stop_orbilex_strings};
 }

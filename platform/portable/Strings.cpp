@@ -2,44 +2,14 @@
 #include "platform/Strings.h"
 
 #include <atomic>
-#include <map>
-#include <mutex>
-#include <shared_mutex>
 
-#include <dlfcn.h>
-#include <link.h>
-
-#include "platform/portable/StringTable.h"
+#include "platform/OwnModule.h"
+#include "platform/portable/Libraries.h"
 #include "platform/portable/Window.h"
 
-// Made by the linker: the first byte of the module.
-extern "C" [[gnu::visibility("hidden")]] HINSTANCE__ __ehdr_start;
-
-constinit HINSTANCE HInstance = &__ehdr_start;
+constinit HINSTANCE HInstance = OwnModule;
 
 namespace {
-
-// In the handle of a library that was loaded as a data file, otherwise its address.
-constexpr ElfW(Addr) DataFileBit = 1;
-
-struct TLibrary {
-    void* Handle = nullptr; // of the dynamic loader
-    int Count = 0;          // how often it was loaded
-    TModuleStrings Strings{};
-};
-
-// Libraries by their handle.
-struct TLibraries {
-    std::shared_mutex Lock;
-    std::map<HMODULE, TLibrary> Loaded;
-};
-
-// Never destroyed: texts are loaded to the very end of the program.
-TLibraries& Libraries()
-{
-    static auto& Result = *new TLibraries;
-    return Result;
-}
 
 const char* FindText(const TModuleStrings& Strings, UINT Identifier)
 {
@@ -94,40 +64,4 @@ bool SetLoadStringSlot(TLoadStringA Loader)
 int LoadStringA(HINSTANCE Instance, UINT Identifier, LPSTR Buffer, int Capacity)
 {
     return LoadStringSlot()(Instance, Identifier, Buffer, Capacity);
-}
-
-HMODULE LoadLibraryExA(LPCSTR Name, HANDLE, DWORD Flags)
-{
-    void* const Handle = Name ? dlopen(Name, RTLD_NOW | RTLD_LOCAL) : nullptr;
-    if (!Handle) {
-        SetLastError(ERROR_MOD_NOT_FOUND);
-        return nullptr;
-    }
-    const ElfW(Addr) DataFile = Flags & LOAD_LIBRARY_AS_DATAFILE ? DataFileBit : 0;
-    const auto Module = reinterpret_cast<HMODULE>(static_cast<link_map*>(Handle)->l_addr | DataFile);
-    const std::unique_lock Guard(Libraries().Lock);
-    TLibrary& Library = Libraries().Loaded[Module];
-    if (Library.Count++ > 0) {
-        dlclose(Handle);
-        return Module;
-    }
-    Library.Handle = Handle;
-    if (const auto Strings = reinterpret_cast<TModuleStringsFunction>(dlsym(Handle, "OrbilexStrings")))
-        Library.Strings = Strings();
-    return Module;
-}
-
-BOOL FreeLibrary(HMODULE Module)
-{
-    const std::unique_lock Guard(Libraries().Lock);
-    const auto Place = Libraries().Loaded.find(Module);
-    if (Place == Libraries().Loaded.end()) {
-        SetLastError(ERROR_MOD_NOT_FOUND);
-        return FALSE;
-    }
-    if (--Place->second.Count == 0) {
-        dlclose(Place->second.Handle);
-        Libraries().Loaded.erase(Place);
-    }
-    return TRUE;
 }

@@ -101,11 +101,14 @@ void OutputDebugStringA(LPCSTR Text);
 HMODULE GetModuleHandleA(LPCSTR Name);
 DWORD GetModuleFileNameA(HMODULE Module, LPSTR Name, DWORD Size);
 
-// Loads a shared object by its file name. What it offers is its string table (StringTable.h); File means
-// nothing. The file name of a module that was loaded as a data file is not told. Each load is to be freed.
+// Loads a shared object by its file name; one without an extension gets ".so", and without a folder it is
+// looked for beside the program first. File means nothing. The file name of a module that was loaded as a
+// data file is not told. Each load is to be freed.
 #define LOAD_LIBRARY_AS_DATAFILE 0x00000002
 HMODULE LoadLibraryExA(LPCSTR Name, HANDLE File, DWORD Flags);
 BOOL FreeLibrary(HMODULE Module);
+// By the exported name; null when there is none.
+FARPROC GetProcAddress(HMODULE Module, LPCSTR Name);
 
 // A text of a module's string table; null is the program. Returns its bytes
 // without the zero at its end; 0 when there is none. A text that is too long for

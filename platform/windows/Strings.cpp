@@ -2,13 +2,12 @@
 
 #include <atomic>
 
-// Made by the linker: the first byte of the module.
-extern "C" HINSTANCE__ __ImageBase;
+#include "platform/OwnModule.h"
 
 // The import slot itself. The system fills it when the module is loaded.
 extern "C" TLoadStringA __imp_LoadStringA;
 
-constinit HINSTANCE HInstance = &__ImageBase;
+constinit HINSTANCE HInstance = OwnModule;
 
 TLoadStringA LoadStringSlot()
 {

@@ -1,6 +1,7 @@
-#include "designer/Package.h"
+#include "designer/StandardPages.h"
 
-#include "editors/Registration.h"
+#include <vector>
+
 #include "framework/design/Palette.h"
 
 namespace {
@@ -35,14 +36,4 @@ void RegisterStandardPages()
         for (const char* const Name : Page.Classes)
             if (const TMetaClass* const Class = GetClass(Name))
                 RegisterComponents(Page.Name, {Class});
-}
-
-TTranslatorsScope::TTranslatorsScope()
-{
-    RegisterTranslators();
-}
-
-TTranslatorsScope::~TTranslatorsScope()
-{
-    UnregisterTranslators();
 }

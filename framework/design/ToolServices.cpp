@@ -1,0 +1,3 @@
+#include "framework/design/ToolServices.h"
+
+constinit TIToolServices* ToolServices = nullptr;
