@@ -2,6 +2,7 @@
 //   demo                     the booking desk
 //   demo --planning          the harbour's planning
 //   demo --tour [--out DIR]  all forms in all languages as pictures (Tour.h)
+//   --forms DIR              takes the form files of this folder instead of its own
 //   demo --editors [--out DIR]
 //                            the editors in all languages as pictures (EditorTour.h)
 #include <exception>
@@ -22,6 +23,7 @@ struct TOptions {
     bool Editors = false;
     bool Planning = false;
     std::string Folder = "out";
+    std::string Forms;
 };
 
 // False when an argument is unknown.
@@ -37,6 +39,8 @@ bool ReadOptions(int Count, char** Arguments, TOptions& Options)
             Options.Planning = true;
         else if (Argument == "--out" && I + 1 < Count)
             Options.Folder = Arguments[++I];
+        else if (Argument == "--forms" && I + 1 < Count)
+            Options.Forms = Arguments[++I];
         else
             return false;
     }
@@ -62,10 +66,12 @@ int main(int Count, char** Arguments)
 {
     TOptions Options;
     if (!ReadOptions(Count, Arguments, Options)) {
-        std::cerr << "usage: demo [--planning | --tour [--out DIR] | --editors [--out DIR]]\n";
+        std::cerr << "usage: demo [--forms DIR] [--planning | --tour [--out DIR] | --editors [--out DIR]]\n";
         return 2;
     }
     try {
+        if (!Options.Forms.empty())
+            UseFormsOf(Options.Forms);
         if (Options.Editors)
             return RunEditorTour(Options.Folder);
         if (Options.Tour)

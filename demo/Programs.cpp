@@ -1,5 +1,8 @@
 #include "demo/Programs.h"
 
+#include <filesystem>
+#include <map>
+
 #include "demo/AboutForm.h"
 #include "demo/BerthsForm.h"
 #include "demo/BookingForm.h"
@@ -11,13 +14,38 @@
 #include "demo/OptionsForm.h"
 #include "demo/PlanningForm.h"
 #include "demo/TextsModule.h"
+#include "framework/forms/FormResources.h"
 #include "framework/forms/StandardClasses.h"
+#include "framework/streaming/FormFile.h"
+#include "framework/streaming/FormText.h"
 #include "orbilex_demo_forms.h"
+
+namespace {
+
+// Form files by their classes.
+std::map<std::string, std::string>& FormFiles()
+{
+    static std::map<std::string, std::string> Result;
+    return Result;
+}
+
+} // namespace
 
 void RegisterDemoForms()
 {
     RegisterStandardClasses();
     RegisterOrbilexDemoForms();
+    for (const auto& [Class, Text] : FormFiles())
+        RegisterFormResource(Class, Text);
+}
+
+void UseFormsOf(const std::string& Folder)
+{
+    for (const auto& Each : std::filesystem::directory_iterator(Folder))
+        if (Each.path().extension() == ".dfm") {
+            const TFormDocument Document = ReadFormFile(Each.path().generic_string());
+            FormFiles()[Document.Root.ClassName()] = WriteFormText(Document);
+        }
 }
 
 std::vector<TForm*> CreateBookingDesk()
