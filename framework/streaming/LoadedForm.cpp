@@ -148,11 +148,13 @@ private:
             SortAs(Nodes, Written);
         auto Place = Nodes.begin();
         for (TComponent* const Each : Written) {
-            if (Each->Name().empty() && NumberOf(Each) < 0)
-                continue;
             const auto Known = std::find_if(Nodes.begin(), Nodes.end(),
                                             [&](const TNode& Node) { return Node.Component == Each; });
-            Place = Known != Nodes.end() ? Known + 1 : Nodes.insert(Place, {Each, NumberOf(Each)}) + 1;
+            if (Known != Nodes.end())
+                Place = Known + 1;
+            else if (NumberOf(Each) < 0 && !Each->Name().empty())
+                Place = Nodes.insert(Place, {Each, -1}) + 1;
+            // Others stand inside a component that is not their parent.
         }
     }
 
