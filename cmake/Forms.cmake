@@ -59,5 +59,5 @@ function(orbilex_embed_forms Target Folder)
     file(CONFIGURE OUTPUT ${Made}/${Target}.cpp
          CONTENT "#include \"${Target}.h\"\n\n${Declarations}\nvoid ${Function}()\n{\n${Calls}}\n")
     target_sources(${Target} PRIVATE ${Made}/${Target}.cpp)
-    target_include_directories(${Target} PUBLIC ${Made})
+    target_include_directories(${Target} PUBLIC $<BUILD_INTERFACE:${Made}>)
 endfunction()

@@ -44,14 +44,24 @@ function(orbilex_take_in Target)
     set_target_properties(${Target} PROPERTIES LIBRARY_OUTPUT_DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
 endfunction()
 
+# The DLLs of the C++ runtime.
+function(orbilex_runtime_files Result)
+    set(Files)
+    foreach(Name libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
+        execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${Name} OUTPUT_VARIABLE File
+                        OUTPUT_STRIP_TRAILING_WHITESPACE)
+        list(APPEND Files ${File})
+    endforeach()
+    set(${Result} ${Files} PARENT_SCOPE)
+endfunction()
+
 # Puts the DLLs of the C++ runtime, which modules of one program share, beside the programs.
 function(orbilex_shared_runtime Target)
     if(NOT WIN32)
         return()
     endif()
-    foreach(Name libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
-        execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${Name} OUTPUT_VARIABLE File
-                        OUTPUT_STRIP_TRAILING_WHITESPACE)
+    orbilex_runtime_files(Files)
+    foreach(File ${Files})
         add_custom_command(TARGET ${Target} POST_BUILD COMMAND ${CMAKE_COMMAND} -E copy_if_different ${File}
                                                                ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
     endforeach()

@@ -83,6 +83,8 @@ function(orbilex_check_identifiers File)
     endforeach()
 endfunction()
 
+# A third argument is the folder, below the installed headers, where FILE lies for
+# those who use the target installed.
 function(orbilex_resource_strings Target File)
     get_filename_component(File ${File} ABSOLUTE)
     get_filename_component(Name ${File} NAME_WE)
@@ -109,8 +111,16 @@ static constinit HINSTANCE Module = OwnModule;
 ")
     target_sources(${Target} PRIVATE ${Made}/${Name}.cpp)
     target_include_directories(${Target} PUBLIC $<BUILD_INTERFACE:${Made}>)
-    orbilex_string_table_source(Source ${Made} ${File})
-    orbilex_add_string_table(${Target} ${Source})
+    if(ARGN)
+        orbilex_string_table_source(Source ${Made} ${File} ${ARGV2}/${Name}.inc)
+        get_filename_component(SourceName ${Source} NAME)
+        orbilex_add_string_table(${Target} ${Source} ${CMAKE_INSTALL_INCLUDEDIR}/orbilex/${ARGV2}/${SourceName})
+        install(FILES ${Source} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/orbilex/${ARGV2})
+        install(FILES ${Made}/${Name}.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/orbilex/${ARGV2})
+    else()
+        orbilex_string_table_source(Source ${Made} ${File})
+        orbilex_add_string_table(${Target} ${Source})
+    endif()
 endfunction()
 
 function(orbilex_language_module Target)
