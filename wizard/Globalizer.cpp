@@ -5,6 +5,7 @@
 
 #include "Qlt/LocaleEntries.h"
 #include "Qlt/LocaleValues.h"
+#include "WizardTexts.h"
 #include "core/KeyLines.h"
 #include "core/Literals.h"
 #include "framework/rtl/SysUtils.h"
@@ -73,28 +74,27 @@ void TGlobalization::CheckChoices()
     std::set<int> Locales;
     for (const int Locale : FChoices.Locales) {
         if (Locale <= 0)
-            Refuse(IntToStr(Locale) + " is no locale identifier");
+            Refuse(Format(SNoLocaleIdentifier, {Locale}));
         if (Locale != FChoices.OwnLocale && Locales.insert(Locale).second)
             FLocales.push_back(Locale);
     }
     if (FLocales.empty())
-        Refuse("There is no language to carry");
+        Refuse(SNoLanguage);
     if (FScan.Forms.empty())
-        Refuse("The project " + FScan.Project.Name + " has no forms");
+        Refuse(Format(SNoForms, {FScan.Project.Name}));
     const TFoundForm* const Main =
         FChoices.MainForm.empty() ? FScan.MainForm() : FScan.FindForm(FChoices.MainForm);
     if (!Main)
-        Refuse(FChoices.MainForm.empty() ? "The project " + FScan.Project.Name + " has no main form"
-                                         : "There is no form " + FChoices.MainForm + " in the project");
+        Refuse(FChoices.MainForm.empty() ? Format(SNoMainForm, {FScan.Project.Name})
+                                         : Format(SNoSuchForm, {FChoices.MainForm}));
     if (Main->Kind != TFoundKind::Form)
-        Refuse(Main->Name + " cannot be the main form: it is no form");
+        Refuse(Format(SNotAForm, {Main->Name}));
     FMainForm = &FScan.Forms[static_cast<size_t>(Main - FScan.Forms.data())];
     const bool CanSelect =
         std::any_of(Main->Selectors.begin(), Main->Selectors.end(),
                     [&](const std::string& Name) { return SameName(Name, FChoices.Selector); });
     if (!FChoices.Selector.empty() && !CanSelect)
-        Refuse("There is no component " + FChoices.Selector + " on " + Main->Name +
-               " that can be the language selector");
+        Refuse(Format(SNoSuchSelector, {FChoices.Selector, Main->Name}));
 }
 
 // Ancestors first: their descendants have the same translators.
@@ -108,12 +108,12 @@ void TGlobalization::GlobalizeForm(size_t Index, std::vector<bool>& Done)
         GlobalizeForm(static_cast<size_t>(Form.Ancestor), Done);
     std::vector<std::string>& Notes = FEdit.ChangeOf(Form).Notes;
     if (Form.Kind == TFoundKind::Frame) {
-        Notes.push_back("left alone: a locale translator does not switch what is on a frame");
+        Notes.push_back(SFrameLeftAlone);
         return;
     }
     const bool IsEmptyModule = Form.Kind == TFoundKind::DataModule && Form.Texts.empty();
     if (IsEmptyModule && Form.Dialogs.empty())
-        Notes.push_back("a data module without texts needs no form translator");
+        Notes.push_back(SModuleWithoutTexts);
     if (FChoices.Forms && !IsEmptyModule)
         TranslateForm(Form);
     if (FChoices.CommonDialogs && !Form.Dialogs.empty())
@@ -179,8 +179,7 @@ void TGlobalization::TranslateDialogs(TFoundForm& Form)
             IsNew = true;
         }
     if (IsNew)
-        FEdit.ChangeOf(Form).Notes.push_back("the texts of the dialogs come from the system: see them in the "
-                                             "editor of the dialog translators");
+        FEdit.ChangeOf(Form).Notes.push_back(SDialogTexts);
 }
 
 void TGlobalization::PlaceResourceTranslators()
@@ -220,9 +219,7 @@ void TGlobalization::PlaceButtonTranslator()
         FLocales.size() == 1 && ButtonLanguage(FLocales.front()) != lnUser ? FLocales.front() : 0;
     PlaceNew(*FMainForm, ButtonTranslatorObject(Only), {"ButtonTranslator"});
     if (Only == 0)
-        FEdit.ChangeOf(*FMainForm)
-            .Notes.push_back("set the Language of the button translator when the locale changes "
-                             "(OnTranslated of the locale translator)");
+        FEdit.ChangeOf(*FMainForm).Notes.push_back(SButtonLanguage);
 }
 
 void TGlobalization::PlaceLocaleTranslator()
@@ -253,7 +250,8 @@ void TGlobalization::FillLocales(const TPlacedTranslator& Translator)
             continue;
         for (const std::string& Entry : LocaleTranslatorEntries(Locale))
             Missing[std::string(KeyOf(Entry))] = ValueOf(Entry);
-        FEdit.ChangeOf(*Translator.Form).Notes.push_back("offers " + LanguageAndCountry(Locale));
+        FEdit.ChangeOf(*Translator.Form)
+            .Notes.push_back(Format(SLocaleOffered, {LanguageAndCountry(Locale)}));
     }
     Lines.Put(Missing);
 }

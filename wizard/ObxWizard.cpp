@@ -97,7 +97,7 @@ TObxWizard::TPageKind TObxWizard::ShownPage() const
 
 void TObxWizard::ShowMain()
 {
-    ShowPage(wpMain);
+    TurnTo(wpMain);
     ReadSettings();
     CbxMainFormChange(CbxMainForm);
     StartNote->SetActivePage(TabStart);
@@ -106,12 +106,16 @@ void TObxWizard::ShowMain()
 
 void TObxWizard::ShowPage(TPageKind Page)
 {
-    // Whatever has the focus is about to be hidden.
+    TurnTo(Page);
+    SetActiveControl(&FirstControl(Page));
+}
+
+void TObxWizard::TurnTo(TPageKind Page)
+{
+    // What has the focus is about to be hidden.
     SetActiveControl(nullptr);
     Notebook->SetPageIndex(Page);
     UpdateButtons();
-    if (Visible())
-        SetActiveControl(&FirstControl(Page));
 }
 
 void TObxWizard::UpdateButtons()

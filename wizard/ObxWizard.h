@@ -120,6 +120,7 @@ private:
     TPageKind ShownPage() const;
     void ShowPage(TPageKind Page);
     void ShowMain();
+    void TurnTo(TPageKind Page);
     void UpdateButtons();
     TWinControl& FirstControl(TPageKind Page) const;
     // Shows where something is missing, and says it.

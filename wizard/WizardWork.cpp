@@ -1,4 +1,5 @@
 // The pages Progress and Result.
+#include <algorithm>
 #include <utility>
 
 #include "WizardTexts.h"
@@ -100,8 +101,9 @@ void TObxWizard::Work(const std::function<TProjectChanges()>& Plan)
     try {
         const TCursorGuard Cursor(crAppStart);
         const TProjectChanges Changes = Plan();
-        WriteChanges(Changes, [this](const std::string& File, int Done, int Total) {
-            return ShowProgress(File, Done, Total);
+        WriteChanges(Changes, [this](const std::string& What, int Done, int Total) {
+            // "replace Main.dfm", or a step for all files.
+            return ShowProgress(What.substr(std::min(What.find(' '), What.size() - 1) + 1), Done, Total);
         });
         FWorking = false;
         ShowResult(Changes);
