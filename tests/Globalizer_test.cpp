@@ -20,6 +20,7 @@
 #include "framework/rtl/Texts.h"
 #include "framework/streaming/FormFile.h"
 #include "framework/streaming/LoadedForm.h"
+#include "tests/BareDemo.h"
 #include "tests/Folder.h"
 #include "tests/FormatVarsScope.h"
 #include "wizard/Dictionaries.h"
@@ -393,15 +394,7 @@ void CheckProject(const TTestFolder& Folder, const TGlobalizeChoices& Choices, i
 
 TEST_F(Globalizer, TheDemoFromItsBareForms)
 {
-    for (const auto& Entry : std::filesystem::directory_iterator(DEMO_FORMS)) {
-        const std::u8string Name = Entry.path().filename().u8string();
-        const std::u8string Full = Entry.path().generic_u8string();
-        TFormDocument Document = ReadFormFile({Full.begin(), Full.end()});
-        std::erase_if(Document.Root.Children(),
-                      [](const TFormObject& Child) { return IsTranslatorClass(Child.ClassName()); });
-        FFolder.Write({Name.begin(), Name.end()}, WriteForm(Document));
-    }
-    FFolder.Write("DemoTexts.inc", ReadWholeFile(DEMO_FORMS "/../DemoTexts.inc"));
+    WriteBareDemo(FFolder);
     for (const char* const File : {"", "demo.lng"}) {
         TGlobalizeChoices Choices = ChoicesOf(FourLanguages);
         Choices.MainForm = "MainForm";

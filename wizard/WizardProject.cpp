@@ -73,7 +73,8 @@ void TObxWizard::Open(const std::string& FileOrFolder)
     FProjectPath = FileOrFolder;
     FCodePage = 0;
     Scan();
-    PnlProjectName->SetCaption(FScan.Project.FileName);
+    if (!FIsEnvironmentProject)
+        PnlProjectName->SetCaption(FScan.Project.FileName);
     FillMainForms();
     if (WasPutRight)
         ShowMessage(SProjectRecovered);
@@ -96,14 +97,17 @@ void TObxWizard::BtnFolderClick(TObject*)
     ShowMain();
 }
 
+// What is chosen already stays chosen.
 void TObxWizard::FillMainForms()
 {
+    const std::string Chosen = CbxMainForm->Text();
     CbxMainForm->Items()->Clear();
     for (const TFoundForm& Form : FScan.Forms)
         if (Form.Kind == TFoundKind::Form)
             CbxMainForm->Items()->Add(Form.Name);
-    const TFoundForm* const Main = FScan.MainForm();
+    const TFoundForm* const Main = Chosen.empty() ? FScan.MainForm() : FScan.FindForm(Chosen);
     CbxMainForm->SetItemIndex(Main ? CbxMainForm->Items()->IndexOf(Main->Name) : -1);
+    CbxMainFormChange(CbxMainForm);
 }
 
 void TObxWizard::CbxMainFormChange(TObject*)
@@ -124,6 +128,7 @@ void TObxWizard::CheckMain()
         const THourglass Hourglass;
         FCodePage = 0;
         Scan();
+        FillMainForms();
     }
     if (!Radio1->Checked() || !FScan.Errors.empty())
         return;
