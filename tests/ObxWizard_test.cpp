@@ -275,6 +275,17 @@ TEST_F(ObxWizard, DictionariesGoOutAndComeBack)
     EXPECT_NE(Folder.Read("MainForm.dfm").find("'BtnSave.Caption='#39'&Spara'#39"), std::string::npos);
 }
 
+TEST_F(ObxWizard, TheKeyboardIsEnough)
+{
+    WriteEditor();
+    TFormUser User;
+    User.Key(VK_RETURN).Key(VK_RETURN).Key(VK_END).Keys(" ").Key(VK_RETURN);
+    SeePage(User, "Result");
+    User.Key(VK_RETURN);
+    EXPECT_EQ(Run(User), mrOk);
+    EXPECT_NE(Folder.Read("MainForm.dfm").find("FormTranslator"), std::string::npos);
+}
+
 TEST_F(ObxWizard, StoppedWorkChangesNothing)
 {
     WriteEditor();

@@ -10,6 +10,7 @@
 #include "core/Literals.h"
 #include "framework/rtl/SysUtils.h"
 #include "framework/streaming/FormNames.h"
+#include "wizard/DialogTexts.h"
 #include "wizard/Languages.h"
 #include "wizard/TranslatorObjects.h"
 
@@ -25,6 +26,7 @@ public:
     TProjectChanges Plan()
     {
         CheckChoices();
+        FDialogTexts = DialogTextsOf(FScan);
         std::vector<bool> Done(FScan.Forms.size());
         for (size_t I = 0; I < FScan.Forms.size(); ++I)
             GlobalizeForm(I, Done);
@@ -43,6 +45,8 @@ private:
     void GlobalizeForm(size_t Index, std::vector<bool>& Done);
     void TranslateForm(TFoundForm& Form);
     void TranslateDialogs(TFoundForm& Form);
+    void FillDialogs(const TPlacedTranslator& Translator);
+    void AddMissing(const TPlacedTranslator& Translator, const TLineMap& Originals);
     void PlaceResourceTranslators();
     void PlaceButtonTranslator();
     void PlaceLocaleTranslator();
@@ -66,6 +70,7 @@ private:
     TProjectScan& FScan;
     const TGlobalizeChoices& FChoices;
     std::vector<int> FLocales;
+    TLineMap FDialogTexts;
     TFoundForm* FMainForm = nullptr;
 };
 
@@ -135,15 +140,24 @@ void TGlobalization::TranslateForm(TFoundForm& Form)
 
 void TGlobalization::FillForm(const TPlacedTranslator& Translator)
 {
-    const TTranslatorStorage Storage = FEdit.StorageOf(Translator);
-    TTranslatorLines Lines(Storage);
-    const TLineMap Present = Lines.All();
-    const TLineMap Inherited = InheritedLines(Translator);
-    TLineMap Missing;
     TLineMap Originals;
     for (const std::string& Text : Translator.Form->Texts) {
         const std::string Key(KeyOf(Text));
         Originals[Key] = Text.substr(Key.size() + 1);
+    }
+    AddMissing(Translator, Originals);
+    if (const TTranslatorStorage Storage = FEdit.StorageOf(Translator); Storage.File)
+        TTranslatorLines(Storage).PutOriginals(Originals);
+}
+
+// Lines for the originals that have none yet.
+void TGlobalization::AddMissing(const TPlacedTranslator& Translator, const TLineMap& Originals)
+{
+    TTranslatorLines Lines(FEdit.StorageOf(Translator));
+    const TLineMap Present = Lines.All();
+    const TLineMap Inherited = InheritedLines(Translator);
+    TLineMap Missing;
+    for (const auto& [Key, Original] : Originals) {
         if (Present.contains(Key))
             continue;
         const auto Known = Inherited.find(Key);
@@ -153,8 +167,6 @@ void TGlobalization::FillForm(const TPlacedTranslator& Translator)
     Change.Added += static_cast<int>(Missing.size());
     Change.Kept += static_cast<int>(Originals.size() - Missing.size());
     Lines.Put(Missing);
-    if (Storage.File)
-        Lines.PutOriginals(Originals);
 }
 
 // A descendant's list takes the place of its ancestor's.
@@ -163,7 +175,7 @@ TLineMap TGlobalization::InheritedLines(const TPlacedTranslator& Translator)
     if (Translator.Form->Ancestor < 0)
         return {};
     TFoundForm& Ancestor = FScan.Forms[static_cast<size_t>(Translator.Form->Ancestor)];
-    for (const TPlacedTranslator& Each : FEdit.Translators(Ancestor, FormTranslatorClass))
+    for (const TPlacedTranslator& Each : FEdit.Translators(Ancestor, Translator.Object().ClassName()))
         if (Each.Locale == Translator.Locale)
             return TTranslatorLines(FEdit.StorageOf(Each)).All();
     return {};
@@ -178,8 +190,24 @@ void TGlobalization::TranslateDialogs(TFoundForm& Form)
             PlaceForLanguage(Form, DialogTranslatorClass, "DialogTranslator", Locale);
             IsNew = true;
         }
-    if (IsNew)
+    for (const TPlacedTranslator& Each : FEdit.Translators(Form, DialogTranslatorClass))
+        if (std::find(FLocales.begin(), FLocales.end(), Each.Locale) != FLocales.end())
+            FillDialogs(Each);
+    const bool IsKnown = std::none_of(Form.Dialogs.begin(), Form.Dialogs.end(),
+                                      [](const std::string& Dialog) { return DialogTexts(Dialog).empty(); });
+    if (IsNew && !IsKnown)
         FEdit.ChangeOf(Form).Notes.push_back(SDialogTexts);
+}
+
+// What the system's own dialogs were found to say stays.
+void TGlobalization::FillDialogs(const TPlacedTranslator& Translator)
+{
+    TLineMap Originals = FDialogTexts;
+    AddMissing(Translator, Originals);
+    TTranslatorLines Lines(FEdit.StorageOf(Translator));
+    for (const auto& Known : Lines.Originals())
+        Originals.erase(Known.first);
+    Lines.PutOriginals(Originals);
 }
 
 void TGlobalization::PlaceResourceTranslators()
