@@ -354,6 +354,27 @@ TEST_F(ObxWizard, FailuresAreShownAndThePageStays)
     EXPECT_EQ(Folder.Files(), Edited);
 }
 
+TEST_F(ObxWizard, ReadOnlyFilesAreNamed)
+{
+    WriteEditor();
+    const std::string Name = Folder.Name("MainForm.dfm");
+    const std::filesystem::path Path(std::u8string(Name.begin(), Name.end()));
+    std::filesystem::permissions(Path, std::filesystem::perms::owner_read);
+    if (std::ofstream(Path, std::ios::app).is_open())
+        GTEST_SKIP() << "this user may write to read-only files";
+    const auto Before = Folder.Files();
+    TFormUser User;
+    User.Click("BtnNext").Click("BtnNext");
+    Check(User, "Swedish, Sweden");
+    User.Click("BtnNext").Click("BtnCancel");
+    EXPECT_EQ(Run(User), mrCancel);
+    ASSERT_EQ(Errors.size(), 1u);
+    EXPECT_NE(Errors[0].find("MainForm.dfm"), std::string::npos) << Errors[0];
+    Errors.clear();
+    EXPECT_EQ(Folder.Files(), Before);
+    std::filesystem::permissions(Path, std::filesystem::perms::owner_all);
+}
+
 TEST_F(ObxWizard, DamagedFormsAreNamedUntilTheyAreRepaired)
 {
     WriteEditor();
