@@ -210,7 +210,7 @@ TEST_F(DesignedPackage, GlobalizesTheOpenProject)
     Main->Open(Folder.Write("editor.obp", "[Project]\nName=Editor\n[Forms]\nMainForm.dfm\n"));
     Main->Open(Folder.Name("MainForm.dfm"));
     TFormUser User;
-    User.See("PnlProjectName", "editor").Click("BtnNext").Click("BtnNext");
+    User.See("PnlProjectName", Main->Workspace().GetProjectName()).Click("BtnNext").Click("BtnNext");
     User.Do([](TForm& Form) {
         auto& List = PartOf<TCheckListBox>(Form, "LstLocales");
         List.SetFocus();
