@@ -393,6 +393,11 @@ TEST(UnitTexts, OfPascalAndC)
         {"#define ORBILEX_TEXT(Name, Id, Text) Name\n", {}},
         {"resourcestring A = 'first';\n B = 'broken\n C = 'c';", {"first"}},
         {"resourcestring A = 'caf\xE9';", {"caf\xC3\xA9"}},
+        {"resourcestring A = 'a';\n B = 'b';\nresourcestring\n C = 'c';", {"a", "b", "c"}},
+        {"resourcestring A = 'a'#$D#$0A'b' + #246#128#$20AC#$D83D#$DE00;",
+         {"a\r\nb\xC3\xB6\xE2\x82\xAC\xE2\x82\xAC\xF0\x9F\x98\x80"}},
+        {"resourcestring A = ( 'a' + ( 'b' ) ); B = '#' + #;", {"ab", "##"}},
+        {"ORBILEX_TEXT( SA, 40000, \"One\")", {"One"}},
     };
     for (const auto& Case : Cases)
         EXPECT_EQ(ReadUnitTexts(Case.Source, 1252).ResourceStrings, Case.Texts) << Case.Source;
@@ -400,6 +405,7 @@ TEST(UnitTexts, OfPascalAndC)
         ReadUnitTexts("type TA = class (TB, IC) end; TC = class X: TD; end;\n", 1252).Parents;
     EXPECT_EQ(Parents, (std::map<std::string, std::string>{{"TA", "TB"}}));
     EXPECT_EQ(ReadUnitTexts("class TA : public TB {\n", 1252).Parents, Parents);
+    EXPECT_EQ(ReadUnitTexts("type TA = class( TB )\n", 1252).Parents, Parents);
 }
 
 // Everything that a developer can tell from the forms of a project of real ones.

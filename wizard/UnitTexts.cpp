@@ -1,5 +1,7 @@
 #include "wizard/UnitTexts.h"
 
+#include <charconv>
+
 #include "framework/rtl/Exceptions.h"
 #include "framework/rtl/Streams.h"
 #include "framework/rtl/Texts.h"
@@ -24,7 +26,8 @@ std::string InUtf8(const std::string& Bytes, int CodePage)
 // Reads tokens and keeps the last one that was taken.
 class TUnitReader {
 public:
-    explicit TUnitReader(const std::string& Source) : FSource(Source)
+    TUnitReader(const std::string& Source, int CodePage)
+        : FSource(Source), FCodec(TFormCodec::Find(TFormEncoding::CodePage, CodePage))
     {
         FStream.Write(Source.data(), static_cast<int64_t>(Source.size()));
         // The parser does not read the last byte.
@@ -55,18 +58,18 @@ private:
             Next();
         return Name;
     }
-    // What comments and line ends leave behind is passed over.
+    // What comments and line ends leave behind is passed over, and blanks behind a
+    // bracket.
     void Next()
     {
         do
             FParser->NextToken();
-        while (IsAt('\n') || IsAt('}') || IsAt(')'));
+        while ((FParser->Token() > toFloat && FParser->Token() <= ' ') || IsAt('}') || IsAt(')'));
     }
 
     void ReadOne()
     {
         if (IsAtWord("resourcestring")) {
-            Next();
             ReadConstants();
         } else if (IsAtWord("ORBILEX_TEXT")) {
             ReadRow();
@@ -83,7 +86,8 @@ private:
     // Name = 'text' + 'text'; up to the next word that is no such name.
     void ReadConstants()
     {
-        while (IsAt(toSymbol)) {
+        Next();
+        while (IsAt(toSymbol) && !IsAtWord("resourcestring")) {
             const std::string Name = FParser->TokenString();
             Next();
             if (!IsAt('=')) {
@@ -103,19 +107,44 @@ private:
     std::string ReadText()
     {
         std::string Result;
+        TUnitJoiner Units(Result);
         size_t End = 0; // of the token before, when it was quoted
         while (IsAt(toString) || IsAt('+')) {
             const auto Start = static_cast<size_t>(FParser->TokenPosition());
             const bool IsQuoted = Start < FSource.size() && FSource[Start] == '\'';
-            if (IsAt(toString)) {
-                if (IsQuoted && Start == End)
+            if (IsAt(toString) && !IsQuoted) {
+                ReadCode(Start, Result, Units);
+            } else if (IsAt(toString)) {
+                Units.Flush();
+                if (Start == End)
                     Result += '\'';
                 Result += FParser->TokenString();
             }
             End = IsQuoted ? Start + FParser->TokenString().size() + 2 : 0;
             Next();
         }
+        Units.Flush();
         return Result;
+    }
+
+    // #13 or #$D, which the parser takes for two tokens; the last one stays. Bytes are
+    // those of the code page, greater codes are units of UTF-16.
+    void ReadCode(size_t Start, std::string& Text, TUnitJoiner& Units)
+    {
+        const bool IsHex = Start + 1 < FSource.size() && FSource[Start + 1] == '$';
+        constexpr unsigned Ascii = 0x80;
+        constexpr unsigned OneByte = 0x100;
+        uint16_t Code = '#';
+        std::from_chars(FSource.data() + Start + (IsHex ? 2 : 1), FSource.data() + FSource.size(), Code,
+                        IsHex ? 16 : 10);
+        if (Code >= Ascii && Code < OneByte && FCodec) {
+            Units.Flush();
+            FCodec->Decode(std::string(1, static_cast<char>(Code)), Text);
+        } else {
+            Units.Add(Code);
+        }
+        if (IsHex)
+            Next();
     }
 
     // ORBILEX_TEXT(Name, number, "text"); the parser drops the bracket.
@@ -164,6 +193,7 @@ private:
     }
 
     const std::string& FSource;
+    std::optional<TFormCodec> FCodec;
     TMemoryStream FStream;
     TSourceParser* FParser = nullptr;
     TUnitTexts FResult;
@@ -174,5 +204,5 @@ private:
 TUnitTexts ReadUnitTexts(const std::string& Bytes, int CodePage)
 {
     const std::string Source = InUtf8(Bytes, CodePage);
-    return TUnitReader(Source).Read();
+    return TUnitReader(Source, CodePage).Read();
 }
