@@ -230,6 +230,55 @@ TEST_F(Globalizer, KeepsTranslationsAndAddsTextsAndLanguages)
     }
 }
 
+// One source text is translated differently where it means something else.
+TEST_F(Globalizer, ExchangedDictionariesKeepWhatWasMeantForOnePlace)
+{
+    WriteEditor();
+    std::string Other = MainDfm;
+    Other.replace(Other.find("MainForm"), 8, "Other");
+    FFolder.Write("Dialog.dfm", Other);
+    const auto Translated = [&](const std::string& File) {
+        return LineOf(*Form(File).Root.FindChild("FormTranslatorSwedish"), "BtnSave.Caption");
+    };
+    const auto Translate = [&](const std::string& File, const std::string& Text) {
+        std::string Bytes = FFolder.Read(File);
+        const std::string Empty = "'BtnSave.Caption='#39#39";
+        FFolder.Write(
+            File, Bytes.replace(Bytes.find(Empty), Empty.size(), "'BtnSave.Caption='#39'" + Text + "'#39"));
+    };
+    const auto Import = [&](const std::string& Text) {
+        const std::string Name = FFolder.Write("sv.1053.txt", Text);
+        const TProjectChanges Changes = PlanImport(Scan(), {{Name, Swedish}});
+        WriteChanges(Changes);
+        return Changes;
+    };
+    Globalize(ChoicesOf({Swedish}));
+    Translate("MainForm.dfm", "&Spara");
+    Translate("Dialog.dfm", "S&para som");
+    WriteChanges(PlanExport(Scan(), {}));
+    EXPECT_TRUE(Import(FFolder.Read("editor.1053.txt")).ToWrite().empty());
+    EXPECT_EQ(Import("&Save\tLagra\n").ToWrite().size(), 1u);
+    EXPECT_EQ(Translated("MainForm.dfm"), "'Lagra'");
+    EXPECT_EQ(Translated("Dialog.dfm"), "'S&para som'");
+    EXPECT_EQ(Import("&Save\t\n\nWrong\n&Save Spara\n").Files.back().Notes,
+              std::vector<std::string>{"passed over, for there is no TAB in them: lines 3, 4"});
+    EXPECT_EQ(Translated("MainForm.dfm"), "'Lagra'");
+
+    const auto Fails = [](const auto& Work, const std::string& Message) {
+        try {
+            Work();
+            ADD_FAILURE() << Message;
+        } catch (const EConvertError& Error) {
+            EXPECT_NE(Error.Message().find(Message), std::string::npos) << Error.Message();
+        }
+    };
+    Fails([&] { Import("Editor\tText\n&Save\tL\xE5s\n"); }, "sv.1053.txt:2: ");
+    std::string Bytes = FFolder.Read("MainForm.dfm");
+    FFolder.Write("MainForm.dfm", Bytes.replace(Bytes.find("'#39'Lagra'#39"), 14, "#?'"));
+    Fails([&] { PlanExport(Scan(), {}); }, "MainForm.BtnSave.Caption%1053: ");
+    Fails([&] { Import("&Save\tx\n"); }, "MainForm.BtnSave.Caption%1053: ");
+}
+
 // The texts of dialogs are those that the dialogs themselves were found to have.
 TEST_F(Globalizer, DialogsCanBeTranslatedWithoutBeingShown)
 {
@@ -327,9 +376,13 @@ TEST_F(Globalizer, RefusesWhatDoesNotFitAndChangesNothing)
     Refused([](auto& Choices) { Choices.Locales.clear(); }, "no language");
     Refused([](auto& Choices) { Choices.Locales = {English}; }, "no language");
     Refused([](auto& Choices) { Choices.Locales = {-1}; }, "-1");
+    Refused([](auto& Choices) { Choices.Locales = {Swedish, 70000}; }, "70000");
+    Refused([](auto& Choices) { Choices.Locales = {1024}; }, "1024");
     Refused([](auto& Choices) { Choices.MainForm = "Nowhere"; }, "Nowhere");
     Refused([](auto& Choices) { Choices.Selector = "BtnSave"; }, "BtnSave");
     Refused([](auto& Choices) { Choices.TranslationsFile = "Texts.lng"; }, "Texts.lng:1");
+    for (const char* const File : {"./MainForm.dfm", "Texts.pas", "editor.obp"})
+        Refused([&](auto& Choices) { Choices.TranslationsFile = File; }, File);
     EXPECT_THROW(PlanExport(Scan(), {}), EInvalidOperation);
     EXPECT_THROW(PlanImport(Scan(), {{FFolder.Name("Texts.pas"), Swedish}}), EInvalidOperation);
 
@@ -339,6 +392,15 @@ TEST_F(Globalizer, RefusesWhatDoesNotFitAndChangesNothing)
     ASSERT_EQ(Damaged.Errors.size(), 1u);
     EXPECT_EQ(Damaged.Errors[0].find(FFolder.Name("Broken.dfm") + ":2:"), 0u) << Damaged.Errors[0];
     EXPECT_THROW(PlanGlobalization(Damaged, ChoicesOf({Swedish})), EReadError);
+
+    // In one file their lines would be the same.
+    Project.Forms = {"MainForm.dfm", "sub/Main.dfm"};
+    FFolder.Write("sub/Main.dfm", MainDfm);
+    TGlobalizeChoices Choices = ChoicesOf({Swedish});
+    EXPECT_EQ(PlanGlobalization(ScanProject(Project), Choices).ToWrite().size(), 2u);
+    Choices.TranslationsFile = "Some.lng";
+    EXPECT_THROW(PlanGlobalization(ScanProject(Project), Choices), EInvalidOperation);
+    std::filesystem::remove_all(FFolder.Name("sub"));
 
     int Steps = 0;
     const auto Stop = [&](const std::string&, int Done, int Total) {

@@ -379,6 +379,8 @@ TEST_F(ObxWizard, DamagedFormsAreNamedUntilTheyAreRepaired)
 {
     WriteEditor();
     Folder.Write("MainForm.dfm", "object MainForm: TMainForm\n  Caption = 'open\nend\n");
+    Folder.Write("Broken.pas", "unit Broken;\ninterface\nresourcestring\n  A = 'open\n");
+    Folder.Write("editor.obp", Folder.Read("editor.obp") + "[Units]\nBroken.pas\n");
     TFormUser User;
     User.Click("BtnNext").Do([this](TForm& Form) {
         EXPECT_EQ(Wizard(Form).MemErrors->Lines()->Get(0).find(Folder.Name("MainForm.dfm") + ":2:"), 0u);
@@ -390,6 +392,9 @@ TEST_F(ObxWizard, DamagedFormsAreNamedUntilTheyAreRepaired)
         EXPECT_FALSE(Wizard(Form).PanErrors->Visible());
         EXPECT_TRUE(Wizard(Form).BtnNext->Enabled());
         EXPECT_EQ(Wizard(Form).CbxMainForm->Text(), "MainForm");
+        const TListItem* const Unit = Wizard(Form).LvwFound->FindCaption(0, "Broken");
+        ASSERT_NE(Unit, nullptr) << "it declares resource strings";
+        EXPECT_EQ(Unit->SubItems()->Get(1), "0");
     });
     User.Click("BtnCancel");
     EXPECT_EQ(Run(User), mrCancel);

@@ -4,16 +4,9 @@
 #include <nlohmann/json.hpp>
 
 #include "framework/rtl/Exceptions.h"
+#include "wizard/ChangeReport.h"
 
 namespace {
-
-std::string ListOf(const std::vector<std::string>& Texts)
-{
-    std::string Result;
-    for (const std::string& Text : Texts)
-        Result += (Result.empty() ? "" : ", ") + Text;
-    return Result;
-}
 
 void Print(const TFileChange& File)
 {

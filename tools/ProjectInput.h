@@ -15,8 +15,7 @@ struct TProjectInput {
 
     void Declare(CLI::App& Command);
 
-    // Puts right what a killed run has left, and scans the project. Prints what cannot
-    // be read; then Errors of the result has something.
+    // Puts right what a killed run has left, and scans the project.
     TProjectScan Scan() const;
 
     // Carries out the changes, unless it is to be a dry run, and prints them.

@@ -15,14 +15,6 @@ std::string FileLine(const TFileChange& File, const std::string& Name,
     return Format(File.Before ? SFileChanged : SFileNew, {Name, FileSize(File.Name)});
 }
 
-std::string ListOf(const std::vector<std::string>& Texts)
-{
-    std::string Result;
-    for (const std::string& Text : Texts)
-        Result += (Result.empty() ? "" : ", ") + Text;
-    return Result;
-}
-
 std::vector<std::string> DetailsOf(const TFileChange& File)
 {
     std::vector<std::string> Result;
@@ -39,6 +31,14 @@ std::vector<std::string> DetailsOf(const TFileChange& File)
 }
 
 } // namespace
+
+std::string ListOf(const std::vector<std::string>& Texts)
+{
+    std::string Result;
+    for (const std::string& Text : Texts)
+        Result += (Result.empty() ? "" : ", ") + Text;
+    return Result;
+}
 
 std::string NameInProject(const std::string& FileName, const std::string& ProjectFileName)
 {

@@ -2,12 +2,16 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "wizard/ProjectEdit.h"
 
 // How many files changed, and then each file with what was done to it, in lines that
 // end in CR LF. FileSize tells the size of a file that was written, in bytes.
 std::string ReportOf(const TProjectChanges& Changes, int (*FileSize)(const std::string& FileName));
+
+// "FormTranslatorSwedish, FormTranslatorGerman"
+std::string ListOf(const std::vector<std::string>& Texts);
 
 // A file's name without the folder of the project file.
 std::string NameInProject(const std::string& FileName, const std::string& ProjectFileName);

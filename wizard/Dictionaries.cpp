@@ -14,6 +14,7 @@
 #include "core/TextFile.h"
 #include "framework/rtl/Files.h"
 #include "framework/rtl/SysUtils.h"
+#include "framework/rtl/Utf8.h"
 
 namespace {
 
@@ -44,17 +45,21 @@ public:
     {
         for (const auto& [Key, Value] : FLines)
             if (const std::string* const Source = SourceOf(Key))
-                Visit(*Source, FIsResource ? Value : FromLiterals(Value));
+                Visit(*Source, TranslationOf(Key, Value));
     }
 
-    // Returns how many texts got another translation.
-    int Translate(const TLineMap& Dictionary)
+    // Returns how many texts got another translation. What is translated otherwise than
+    // Pairs, which a dictionary is made of, stays: it was meant for that place.
+    int Translate(const TLineMap& Dictionary, const TLineMap& Pairs)
     {
         TLineMap Changed;
         for (const auto& [Key, Value] : FLines) {
             const std::string* const Source = SourceOf(Key);
             const auto Found = Source ? Dictionary.find(AsRead(*Source)) : Dictionary.end();
             if (Found == Dictionary.end())
+                continue;
+            const std::string Present = TranslationOf(Key, Value);
+            if (!Present.empty() && Present != Pairs.at(*Source))
                 continue;
             const std::string New = FIsResource ? Found->second : ToLiterals(Found->second);
             if (New != Value)
@@ -68,6 +73,11 @@ public:
     }
 
 private:
+    std::string TranslationOf(const std::string& Key, const std::string& Value) const
+    {
+        return FIsResource ? Value : PlainText(FStorage.Owner, Key, Value);
+    }
+
     void ReadLines()
     {
         FLines = TTranslatorLines(FStorage).All();
@@ -80,7 +90,7 @@ private:
         // Numbers and names of fonts are no texts.
         for (const auto& [Key, Value] : Originals)
             if (Value.starts_with('\'') || Value.starts_with('#'))
-                FSources.emplace(Key, FromLiterals(Value));
+                FSources.emplace(Key, PlainText({FStorage.Owner.Section, DefaultsLocale}, Key, Value));
     }
 
     const std::string* SourceOf(const std::string& Key) const
@@ -147,6 +157,27 @@ std::string WithPairs(const std::string& Text, const TLineMap& Pairs, TFileChang
     return Result;
 }
 
+// A dictionary as a file that stays, with its lines that are no pairs.
+// Throws EConvertError "Booking.1053.txt:7: ..." for a line that is not UTF-8.
+TFileChange CheckedDictionary(const std::string& FileName)
+{
+    TFileChange Result;
+    Result.Name = FileName;
+    Result.Before = Result.After = ReadTextFile(FileName);
+    TLineSplitter Lines(Result.After);
+    std::string_view Line;
+    std::string Wrong;
+    for (int Number = 1; Lines.Next(Line); ++Number) {
+        if (!IsValidUtf8(Line))
+            throw EConvertError(FileName + ":" + IntToStr(Number) + ": the text is not UTF-8");
+        if (!Line.empty() && Line.find('\t') == Line.npos)
+            Wrong += (Wrong.empty() ? "" : ", ") + IntToStr(Number);
+    }
+    if (!Wrong.empty())
+        Result.Notes.push_back(Format(SLinesWithoutTab, {Wrong}));
+    return Result;
+}
+
 } // namespace
 
 std::string DictionaryName(const TProject& Project, int Locale, const std::string& Folder)
@@ -191,15 +222,20 @@ TProjectChanges PlanExport(TProjectScan Scan, const std::vector<int>& Locales, c
 TProjectChanges PlanImport(TProjectScan Scan, const std::vector<TDictionaryInput>& Dictionaries)
 {
     TProjectEdit Edit(std::move(Scan));
+    std::vector<TFileChange> Checked;
     for (const TDictionaryInput& Input : Dictionaries) {
+        Checked.push_back(CheckedDictionary(Input.FileName));
+        const TLineMap Pairs = PairsOf(Edit, Input.Locale);
         TLineMap Dictionary;
         for (const auto& [Source, Translation] : ReadDictionaryPairs(Input.FileName))
             if (!Translation.empty())
                 Dictionary[Source] = Translation;
         for (const TPlacedTranslator& Each : TranslatorsOf(Edit, Input.Locale)) {
             TTranslatorTexts Texts(Edit, Each);
-            Edit.ChangeOf(*Each.Form).Translated += Texts.Translate(Dictionary);
+            Edit.ChangeOf(*Each.Form).Translated += Texts.Translate(Dictionary, Pairs);
         }
     }
-    return Edit.Changes();
+    TProjectChanges Result = Edit.Changes();
+    Result.Files.insert(Result.Files.end(), Checked.begin(), Checked.end());
+    return Result;
 }

@@ -26,6 +26,10 @@ struct TDictionaryInput {
 };
 
 // Takes translations over into all lines of the project's translators whose source text
-// a dictionary translates; empty translations are passed over.
-// Errors as PlanExport, and those of ReadDictionaryPairs.
+// a dictionary translates; empty translations are passed over. Where texts of one source
+// are translated differently, the first of them and those like it are replaced; the others
+// stay, so that taking back what was exported changes nothing. Lines of a dictionary that
+// are no pairs are told in a note.
+// Errors as PlanExport, and those of ReadDictionaryPairs; EConvertError, with the line, for
+// a dictionary or a translator with a text that is wrong.
 TProjectChanges PlanImport(TProjectScan Scan, const std::vector<TDictionaryInput>& Dictionaries);

@@ -1,6 +1,7 @@
 #include "wizard/Globalizer.h"
 
 #include <algorithm>
+#include <map>
 #include <set>
 
 #include "Qlt/LocaleEntries.h"
@@ -10,6 +11,7 @@
 #include "core/Literals.h"
 #include "framework/rtl/SysUtils.h"
 #include "framework/streaming/FormNames.h"
+#include "platform/FileSystem.h"
 #include "wizard/DialogTexts.h"
 #include "wizard/Languages.h"
 #include "wizard/TranslatorObjects.h"
@@ -25,7 +27,9 @@ public:
 
     TProjectChanges Plan()
     {
-        CheckChoices();
+        CheckLocales();
+        CheckMainForm();
+        CheckStorage();
         FDialogTexts = DialogTextsOf(FScan);
         std::vector<bool> Done(FScan.Forms.size());
         for (size_t I = 0; I < FScan.Forms.size(); ++I)
@@ -41,7 +45,9 @@ public:
 private:
     [[noreturn]] static void Refuse(const std::string& Message) { throw EInvalidOperation(Message); }
 
-    void CheckChoices();
+    void CheckLocales();
+    void CheckMainForm();
+    void CheckStorage() const;
     void GlobalizeForm(size_t Index, std::vector<bool>& Done);
     void TranslateForm(TFoundForm& Form);
     void TranslateDialogs(TFoundForm& Form);
@@ -74,17 +80,23 @@ private:
     TFoundForm* FMainForm = nullptr;
 };
 
-void TGlobalization::CheckChoices()
+void TGlobalization::CheckLocales()
 {
+    const std::vector<int> Present = FScan.Locales();
     std::set<int> Locales;
     for (const int Locale : FChoices.Locales) {
-        if (Locale <= 0)
+        const bool IsPresent = std::find(Present.begin(), Present.end(), Locale) != Present.end();
+        if (!IsPresent && !IsKnownLocale(Locale))
             Refuse(Format(SNoLocaleIdentifier, {Locale}));
         if (Locale != FChoices.OwnLocale && Locales.insert(Locale).second)
             FLocales.push_back(Locale);
     }
     if (FLocales.empty())
         Refuse(SNoLanguage);
+}
+
+void TGlobalization::CheckMainForm()
+{
     if (FScan.Forms.empty())
         Refuse(Format(SNoForms, {FScan.Project.Name}));
     const TFoundForm* const Main =
@@ -100,6 +112,29 @@ void TGlobalization::CheckChoices()
                     [&](const std::string& Name) { return SameName(Name, FChoices.Selector); });
     if (!FChoices.Selector.empty() && !CanSelect)
         Refuse(Format(SNoSuchSelector, {FChoices.Selector, Main->Name}));
+}
+
+// Forms share a translations file by their names.
+void TGlobalization::CheckStorage() const
+{
+    if (FChoices.TranslationsFile.empty())
+        return;
+    const TProject& Project = FScan.Project;
+    const std::string Storage = FileIdentity(Project.FullName(FChoices.TranslationsFile));
+    std::vector<std::string> Files = Project.Forms;
+    Files.insert(Files.end(), Project.Units.begin(), Project.Units.end());
+    Files.push_back(Project.FileName);
+    for (const std::string& File : Files)
+        if (FileIdentity(Project.FullName(File)) == Storage)
+            Refuse(Format(SFileOfProject, {FChoices.TranslationsFile}));
+    std::map<std::string, std::string> Names;
+    for (const TFoundForm& Form : FScan.Forms) {
+        if (Form.Kind == TFoundKind::Frame)
+            continue;
+        const auto [Other, IsNew] = Names.try_emplace(LowerCase(Form.Name), Form.File);
+        if (!IsNew)
+            Refuse(Format(SSameNames, {Other->second, Form.File}));
+    }
 }
 
 // Ancestors first: their descendants have the same translators.
@@ -325,8 +360,10 @@ TProjectChanges PlanGlobalization(TProjectScan Scan, const TGlobalizeChoices& Ch
 void WriteChanges(const TProjectChanges& Changes, const TProjectProgress& Progress)
 {
     const std::vector<TProjectFile> Files = Changes.ToWrite();
-    // Three steps a file, and four for the journal.
-    const int Total = static_cast<int>(Files.size()) * 5 + 4;
+    // A file is written, copied and replaced, and two others beside it are removed.
+    constexpr int StepsOfFile = 5;
+    constexpr int StepsOfJournal = 4;
+    const int Total = static_cast<int>(Files.size()) * StepsOfFile + StepsOfJournal;
     int Done = 0;
     bool IsDecided = false;
     WriteProjectFiles(Changes.ProjectFileName, Files, [&](const std::string& What) {

@@ -4,6 +4,7 @@
 
 #include "Qlt/LocaleEntries.h"
 #include "core/KeyLines.h"
+#include "platform/winapi.h"
 
 namespace {
 
@@ -39,6 +40,11 @@ constexpr struct {
                        {0x1B, lnSlovak},  {0x1D, lnSwedish}, {0x1F, lnTurkish}, {0x24, lnSlovenia}};
 
 } // namespace
+
+bool IsKnownLocale(int Locale)
+{
+    return Locale > 0 && IsValidLocale(static_cast<LCID>(Locale), LCID_SUPPORTED);
+}
 
 std::string LanguageName(int Locale)
 {

@@ -6,6 +6,9 @@
 
 #include "Qbt/LanguageCaptions.h"
 
+// Whether it names a language that the operating system knows.
+bool IsKnownLocale(int Locale);
+
 // "Swedish", "Swedish, Sweden"; as the operating system has them.
 std::string LanguageName(int Locale);
 std::string LanguageAndCountry(int Locale);

@@ -116,7 +116,9 @@ private:
     void FindAncestors()
     {
         for (TFoundForm& Form : FScan.Forms) {
-            const auto Parent = FParents.find(Form.Document.Root.ClassName());
+            const auto Parent = std::find_if(FParents.begin(), FParents.end(), [&](const auto& Each) {
+                return SameName(Each.first, Form.Document.Root.ClassName());
+            });
             if (Form.Document.Root.Kind() != TFormObjectKind::Inherited || Parent == FParents.end())
                 continue;
             for (size_t I = 0; I < FScan.Forms.size(); ++I)

@@ -33,8 +33,8 @@ void TQFormSplash::FormShow(TObject*)
     Panel->SetBounds(0, 0, Picture.Width() + Frame, Picture.Height() + Frame);
     SetBounds(Left(), Top(), Panel->Width(), Panel->Height());
     Repaint();
-    RestartTimer(ShowMilliseconds);
     Application->ProcessMessages();
+    RestartTimer(ShowMilliseconds);
 }
 
 void TQFormSplash::RestartTimer(unsigned Milliseconds)

@@ -6,6 +6,7 @@
 #include "core/Bisection.h"
 #include "core/KeyLines.h"
 #include "core/Literals.h"
+#include "framework/rtl/Exceptions.h"
 #include "framework/streaming/FormNames.h"
 
 namespace {
@@ -92,6 +93,16 @@ void PutLinesIn(TTranslationsText& File, const TTranslationsOwner& Owner, const 
 
 } // namespace
 
+std::string PlainText(const TTranslationsOwner& Owner, std::string_view Key, const std::string& Value)
+{
+    try {
+        return FromLiterals(Value);
+    } catch (const EConvertError& Error) {
+        throw EConvertError(Owner.Section + "." + std::string(Key) + "%" + std::to_string(Owner.Locale) +
+                            ": " + Error.Message());
+    }
+}
+
 TLineMap TTranslatorLines::All() const
 {
     return FStorage.File ? LinesIn(*FStorage.File, FStorage.Owner)
@@ -127,7 +138,8 @@ TLineMap TResourceLines::All() const
         FStorage.File->ForEach(SourcesOwner(), [&](std::string_view Key, const std::string& Source) {
             const std::string* const Translation = FStorage.File->Find(FStorage.Owner, Key);
             if (Translation)
-                Result.emplace(FromLiterals(Source), FromLiterals(*Translation));
+                Result.emplace(PlainText(SourcesOwner(), Key, Source),
+                               PlainText(FStorage.Owner, Key, *Translation));
         });
         return Result;
     }
@@ -157,7 +169,7 @@ void TResourceLines::PutInFile(const TLineMap& Pairs)
     std::map<std::string, std::string> Keys; // by source
     int Next = 0;                            // number
     FStorage.File->ForEach(SourcesOwner(), [&](std::string_view Key, const std::string& Source) {
-        Keys[FromLiterals(Source)] = Key;
+        Keys[PlainText(SourcesOwner(), Key, Source)] = Key;
         int Number = 0;
         if (Key.starts_with(NumberStart))
             std::from_chars(Key.data() + NumberStart.size(), Key.data() + Key.size(), Number);

@@ -16,6 +16,10 @@ struct TTranslatorStorage {
     TTranslationsOwner Owner;
 };
 
+// The plain text of a value in literals.
+// Throws EConvertError "Form1.Label1.Caption%1053: ..." for one that is wrong.
+std::string PlainText(const TTranslationsOwner& Owner, std::string_view Key, const std::string& Value);
+
 // The lines Key=Value of a form, dialog or locale translator.
 class TTranslatorLines {
 public:

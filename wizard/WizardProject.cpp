@@ -15,8 +15,10 @@
 #include "framework/forms/PushButtons.h"
 #include "framework/rtl/SysUtils.h"
 #include "framework/streaming/FormNames.h"
+#include "wizard/ChangeReport.h"
 #include "wizard/ObxWizard.h"
 #include "wizard/ProjectWriter.h"
+#include "wizard/SourceParser.h"
 
 namespace {
 
@@ -144,16 +146,14 @@ void TObxWizard::FillFound()
     LvwFound->Clear();
     int Texts = 0;
     for (const TFoundForm& Form : FScan.Forms) {
-        std::string Dialogs;
-        for (const std::string& Each : Form.Dialogs)
-            Dialogs += (Dialogs.empty() ? "" : ", ") + Each;
-        AddLine(*LvwFound,
-                {Form.Name, KindName(Form.Kind), std::to_string(Form.Texts.size()), Dialogs, Form.File});
+        AddLine(*LvwFound, {Form.Name, KindName(Form.Kind), std::to_string(Form.Texts.size()),
+                            ListOf(Form.Dialogs), Form.File});
         Texts += static_cast<int>(Form.Texts.size());
     }
     int Units = 0;
     for (const TFoundUnit& Unit : FScan.Units) {
-        if (Unit.ResourceStrings.empty())
+        // A unit of which nothing could be read is shown, with no texts.
+        if (Unit.ResourceStrings.empty() && !DeclaresResourceStrings(FScan.Project.FullName(Unit.File)))
             continue;
         ++Units;
         AddLine(*LvwFound, {ChangeFileExt(ExtractFileName(Unit.File), ""), SKindUnit,
