@@ -442,6 +442,28 @@ TEST_F(Globalizer, DescendantsOverrideTheirAncestorsTranslators)
     EXPECT_TRUE(PlanGlobalization(Scan(), Choices).ToWrite().empty());
 }
 
+// Told by what real ones have.
+TEST_F(Globalizer, FormsFramesAndDataModules)
+{
+    const struct {
+        const char* Source;
+        TFoundKind Kind;
+    } Cases[] = {
+        {"object A: TA\n  OldCreateOrder = False\n  Left = 1\n  Top = 2\n", TFoundKind::DataModule},
+        {"object A: TA\n  Height = 480\n  HorizontalOffset = 9\n  Width = 640\n", TFoundKind::DataModule},
+        {"object A: TA\n  OnCreate = Make\n  Height = 480\n  Width = 640\n", TFoundKind::DataModule},
+        {"inherited A: TA\n  Height = 480\n  Width = 640\n", TFoundKind::Form},
+        {"object A: TA\n  Left = 1\n  Top = 2\n  Height = 480\n  Width = 640\n", TFoundKind::Form},
+        {"object A: TA\n  Height = 480\n  Caption = 'A'\n", TFoundKind::Form},
+        {"object A: TA\n", TFoundKind::Form},
+        {"object A: TA\n  Width = 320\n  Height = 240\n  TabOrder = 0\n", TFoundKind::Frame},
+    };
+    for (const auto& Case : Cases) {
+        FFolder.Write("A.dfm", std::string(Case.Source) + "end\n");
+        EXPECT_EQ(Scan().Forms.at(0).Kind, Case.Kind) << Case.Source;
+    }
+}
+
 TEST(UnitTexts, OfPascalAndC)
 {
     const struct {

@@ -14,6 +14,14 @@ bool HasAny(const TFormObject& Source, std::initializer_list<const char*> Names)
                        [&](const char* Name) { return Source.Find(Name) != nullptr; });
 }
 
+// Of a root that shows nothing. Of the forms only descendants have a size and no place.
+bool IsDataModule(const TFormObject& Source)
+{
+    return HasAny(Source, {"OldCreateOrder", "HorizontalOffset", "VerticalOffset"}) ||
+           (Source.Kind() == TFormObjectKind::Object && Source.Find("Height") &&
+            !HasAny(Source, {"Left", "Top"}));
+}
+
 std::unique_ptr<TComponent> MakeRoot(const TFormObject& Source)
 {
     if (const TMetaClass* const Class = GetClass(Source.ClassName()); Class && Class->CanCreate())
@@ -21,7 +29,7 @@ std::unique_ptr<TComponent> MakeRoot(const TFormObject& Source)
     const bool Visual =
         HasAny(Source, {"Caption", "ClientHeight", "ClientWidth", "BorderStyle", "Color", "Font.Name",
                         "Font.Height", "TextHeight", "Position", "FormStyle", "Align", "TabOrder"});
-    if (!Visual && HasAny(Source, {"OldCreateOrder", "HorizontalOffset", "VerticalOffset"}))
+    if (!Visual && IsDataModule(Source))
         return std::make_unique<TDataModule>(nullptr);
     if (HasAny(Source, {"TabOrder", "DesignLeft"}) && !HasAny(Source, {"Caption", "BorderStyle", "Position"}))
         return std::make_unique<TFrame>(nullptr);
