@@ -203,12 +203,14 @@ TEST_F(Globalizer, KeepsTranslationsAndAddsTextsAndLanguages)
                      "  object New: TLabel\r\n    Caption = 'Fresh'\r\n  end\r\n");
         FFolder.Write("MainForm.dfm", Main);
         Choices.Locales = {Japanese, Swedish};
+        if (!File.empty())
+            Choices.TranslationsFile = FFolder.Name("./" + File);
         const TProjectChanges Second = Globalize(Choices);
         EXPECT_TRUE(PlanGlobalization(Scan(), Choices).ToWrite().empty());
         EXPECT_EQ(Second.Files[0].Placed,
                   (std::vector<std::string>{"FormTranslatorJapanese", "ResourceTranslatorJapanese"}));
 
-        WriteChanges(PlanExport(Scan(), {}));
+        WriteChanges(PlanExport(Scan(), {Swedish, Japanese, Swedish}));
         EXPECT_EQ(LocaleOfDictionary(FFolder.Name("editor.1053.txt")), Swedish);
         const std::string Pairs = FFolder.Read("editor.1053.txt");
         for (const char* const Pair : {"&Save\t&Spara\r\n", "Fresh\t\r\n", "Open a file\t\xC3\x96ppna\r\n",
@@ -393,6 +395,8 @@ TEST_F(Globalizer, RefusesWhatDoesNotFitAndChangesNothing)
     EXPECT_EQ(Damaged.Errors[0].find(FFolder.Name("Broken.dfm") + ":2:"), 0u) << Damaged.Errors[0];
     EXPECT_THROW(PlanGlobalization(Damaged, ChoicesOf({Swedish})), EReadError);
 
+    Project.Forms = {"MainForm.dfm", "./MainForm.dfm"};
+    EXPECT_EQ(ScanProject(Project).Errors.size(), 1u);
     // In one file their lines would be the same.
     Project.Forms = {"MainForm.dfm", "sub/Main.dfm"};
     FFolder.Write("sub/Main.dfm", MainDfm);

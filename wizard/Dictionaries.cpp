@@ -200,7 +200,8 @@ int LocaleOfDictionary(const std::string& FileName)
 
 TProjectChanges PlanExport(TProjectScan Scan, const std::vector<int>& Locales, const std::string& Folder)
 {
-    const std::vector<int> Wanted = Locales.empty() ? Scan.Locales() : Locales;
+    const std::vector<int> All = Locales.empty() ? Scan.Locales() : Locales;
+    const std::set<int> Wanted(All.begin(), All.end());
     if (Wanted.empty())
         throw EInvalidOperation(SNoTranslators);
     TProjectEdit Edit(std::move(Scan));

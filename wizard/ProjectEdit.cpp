@@ -5,6 +5,7 @@
 #include "framework/rtl/SysUtils.h"
 #include "framework/streaming/FormFile.h"
 #include "framework/streaming/FormNames.h"
+#include "platform/FileSystem.h"
 
 namespace {
 
@@ -97,12 +98,16 @@ std::string TProjectEdit::FileNameOf(const TFoundForm& Form, const TFormObject& 
 TTranslationsText& TProjectEdit::TextsOf(const std::string& FileName)
 {
     const std::string Name = FScan.Project.FullName(FileName);
-    const auto [Place, IsNew] = FTexts.try_emplace(Name);
-    if (IsNew && FileExists(Name)) {
-        Place->second.Before = ReadWholeFile(Name);
-        Place->second.Texts = TTranslationsText(ReadTextFile(Name));
+    const auto [Place, IsNew] = FTexts.try_emplace(FileIdentity(Name));
+    TTextsFile& File = Place->second;
+    if (!IsNew)
+        return File.Texts;
+    File.Name = Name;
+    if (FileExists(Name)) {
+        File.Before = ReadWholeFile(Name);
+        File.Texts = TTranslationsText(ReadTextFile(Name));
     }
-    return Place->second.Texts;
+    return File.Texts;
 }
 
 TTranslatorStorage TProjectEdit::StorageOf(const TPlacedTranslator& Translator)
@@ -131,9 +136,10 @@ TProjectChanges TProjectEdit::Changes()
         Change.After = WriteForm(Form.Document);
         Result.Files.push_back(Change);
     }
-    for (const auto& [Name, File] : FTexts) {
+    for (const auto& Each : FTexts) {
+        const TTextsFile& File = Each.second;
         TFileChange& Change = Result.Files.emplace_back();
-        Change.Name = Name;
+        Change.Name = File.Name;
         Change.Before = File.Before;
         Change.After = File.Texts.IsChanged() || !File.Before ? File.Texts.Bytes() : *File.Before;
     }

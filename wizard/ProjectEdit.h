@@ -70,6 +70,7 @@ public:
 
 private:
     struct TTextsFile {
+        std::string Name; // as it was called first
         std::optional<std::string> Before;
         TTranslationsText Texts;
     };
@@ -77,6 +78,6 @@ private:
     TTranslationsText& TextsOf(const std::string& FileName);
 
     TProjectScan FScan;
-    std::vector<TFileChange> FChanges; // of the forms
-    std::map<std::string, TTextsFile> FTexts;
+    std::vector<TFileChange> FChanges;        // of the forms
+    std::map<std::string, TTextsFile> FTexts; // by their identity
 };

@@ -12,6 +12,7 @@
 #include "framework/rtl/SysUtils.h"
 #include "framework/streaming/FormFile.h"
 #include "framework/streaming/FormNames.h"
+#include "platform/FileSystem.h"
 #include "wizard/TranslatableForm.h"
 #include "wizard/UnitTexts.h"
 
@@ -104,6 +105,8 @@ private:
         TFormFileOptions Options;
         Options.CodePage = FCodePage;
         Options.FileName = FScan.Project.FullName(File);
+        if (!FRead.insert(FileIdentity(Options.FileName)).second)
+            throw EReadError(Options.FileName + ": the form is in the project twice");
         Form.File = File;
         Form.Bytes = ReadWholeFile(Options.FileName);
         Form.Document = ::ReadForm(Form.Bytes, Options);
@@ -192,6 +195,7 @@ private:
     const TProjectProgress& FProgress;
     TProjectScan FScan;
     std::map<std::string, std::string> FParents;
+    std::set<std::string> FRead; // forms, by the identity of their files
     int FDone = 0;
     int FTotal = 0;
 };
