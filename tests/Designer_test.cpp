@@ -494,17 +494,32 @@ TEST_F(Designer, EditsInPlace)
 {
     Click(Control("Box"), 5, 5);
     TInspector& Inspector = *Main->Inspector();
-    const int Row = Inspector.RowOf("Caption");
-    Inspector.SetRow(Row);
-    const TRect Cell = Inspector.CellRect(1, Row);
-    Post(WM_LBUTTONDOWN, {Inspector.Handle(), {Cell.left + 5, Cell.top + 5}}, MK_LBUTTON);
-    Post(WM_LBUTTONUP, {Inspector.Handle(), {Cell.left + 5, Cell.top + 5}});
+    std::string Error;
+    Inspector.OnError = [&](const std::string& Text) { Error = Text; };
+    // A value stays in its row when the user goes to another one.
+    for (const char* const Each : {"Caption", "Align", "BevelWidth", "Alignment", "BevelInner", "Caption"}) {
+        const TRect Cell = Inspector.CellRect(1, Inspector.RowOf(Each));
+        Post(WM_LBUTTONDOWN, {Inspector.Handle(), {Cell.left + 5, Cell.top + 5}}, MK_LBUTTON);
+        Post(WM_LBUTTONUP, {Inspector.Handle(), {Cell.left + 5, Cell.top + 5}});
+        EXPECT_EQ(Inspector.NameAt(Inspector.Row()), Each);
+        EXPECT_EQ(Bytes(), Order) << Each;
+        EXPECT_EQ(Error, "") << Each;
+    }
     ASSERT_TRUE(Inspector.Editor()->Visible());
     Inspector.Editor()->SetText("Crates");
     PostMessageA(Inspector.Editor()->Handle(), WM_KEYDOWN, VK_RETURN, 1);
     Run();
     EXPECT_EQ(Control("Box").Text(), "Crates");
     EXPECT_NE(Bytes().find("Caption = 'Crates'\r\n"), std::string::npos);
+
+    // The second click of a double click comes to the edit that the first one brought up.
+    Inspector.SetEvents(true);
+    const TRect Cell = Inspector.CellRect(1, Inspector.RowOf("OnEnter"));
+    Post(WM_LBUTTONDOWN, {Inspector.Handle(), {Cell.left + 5, Cell.top + 5}}, MK_LBUTTON);
+    Post(WM_LBUTTONUP, {Inspector.Handle(), {Cell.left + 5, Cell.top + 5}});
+    Post(WM_LBUTTONDOWN, {Inspector.Editor()->Handle(), {3, 3}}, MK_LBUTTON);
+    Post(WM_LBUTTONUP, {Inspector.Editor()->Handle(), {3, 3}});
+    EXPECT_NE(Bytes().find("    OnEnter = BoxEnter\r\n"), std::string::npos) << Bytes();
 }
 
 // The button beside a value opens the property's editor.
