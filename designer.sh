@@ -28,6 +28,6 @@ case ${1:-} in
     scripts/install-packages "${native_packages[@]}" "${windows_packages[@]}"
     build windows
     [ $# -gt 0 ] || set -- demo
-    scripts/run-wine build/windows/bin/designer.exe "$@"
+    RUN_WINE_TIMEOUT=0 scripts/run-wine build/windows/bin/designer.exe "$@"
     ;;
 esac

@@ -1,6 +1,7 @@
 #include "designer/DesignSurface.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "framework/design/ComponentEditor.h"
 #include "framework/forms/DataModules.h"
@@ -8,20 +9,11 @@
 
 namespace {
 
-constexpr int DragDistance = 4;
-
 TPoint ScreenPointOf(const MSG& Message)
 {
     TPoint Result{static_cast<short>(LOWORD(Message.lParam)), static_cast<short>(HIWORD(Message.lParam))};
     ClientToScreen(Message.hwnd, &Result);
     return Result;
-}
-
-int OnGrid(int Value)
-{
-    constexpr int Grid = TDesignSurface::Grid;
-    const int Rest = ((Value % Grid) + Grid) % Grid;
-    return Value - Rest + (Rest * 2 >= Grid ? Grid : 0);
 }
 
 bool IsDown(int Key)
@@ -54,26 +46,32 @@ HWND TDesignSurface::WindowHandle() const
     return Form ? Form->WindowHandle() : nullptr;
 }
 
-void TDesignSurface::Show()
+// For what has no window of its own.
+TForm* TDesignSurface::MakeHost()
+{
+    FHost = std::make_unique<TForm>(nullptr);
+    FHost->SetDesigning(true);
+    FHost->SetCaption(FModel.Root().Name());
+    if (auto* const Frame = dynamic_cast<TWinControl*>(&FModel.Root())) {
+        FHost->SetClientWidth(Frame->Width());
+        FHost->SetClientHeight(Frame->Height());
+        Frame->SetParent(FHost.get());
+    } else if (const auto* const Module = dynamic_cast<TDataModule*>(&FModel.Root())) {
+        FHost->SetClientWidth(std::max(static_cast<int>(Module->DesignSize().x), 240));
+        FHost->SetClientHeight(std::max(static_cast<int>(Module->DesignSize().y), 160));
+    }
+    return FHost.get();
+}
+
+void TDesignSurface::Show(const TPoint& Place)
 {
     auto* Form = dynamic_cast<TCustomForm*>(&FModel.Root());
-    if (!Form) {
-        FHost = std::make_unique<TForm>(nullptr);
-        FHost->SetDesigning(true);
-        FHost->SetCaption(FModel.Root().Name());
-        if (auto* const Frame = dynamic_cast<TWinControl*>(&FModel.Root())) {
-            FHost->SetClientWidth(Frame->Width());
-            FHost->SetClientHeight(Frame->Height());
-            Frame->SetParent(FHost.get());
-        } else if (const auto* const Module = dynamic_cast<TDataModule*>(&FModel.Root())) {
-            FHost->SetClientWidth(std::max(static_cast<int>(Module->DesignSize().x), 240));
-            FHost->SetClientHeight(std::max(static_cast<int>(Module->DesignSize().y), 160));
-        }
-        Form = FHost.get();
-    }
+    if (!Form)
+        Form = MakeHost();
     Form->OnPaint = {this, &TDesignSurface::PaintGrid};
+    Form->OnCloseQuery = {this, &TDesignSurface::CloseQuery};
+    Form->SetBounds(static_cast<int>(Place.x), static_cast<int>(Place.y), Form->Width(), Form->Height());
     Form->UpdateControlState();
-    Form->MakeFullyVisible();
     // Controls that fit their texts know the fonts when they are painted.
     Form->Update();
     FModel.Settle();
@@ -82,16 +80,30 @@ void TDesignSurface::Show()
 
 void TDesignSurface::Hide()
 {
+    if (RECT Box; IsShown() && GetWindowRect(WindowHandle(), &Box))
+        FPlace = {Box.left, Box.top};
     FDrag = {};
+    FLasso.reset();
     FHandles.clear();
     FIcons.clear();
-    if (auto* const Form = dynamic_cast<TCustomForm*>(&FModel.Root()))
+    if (auto* const Form = dynamic_cast<TCustomForm*>(&FModel.Root())) {
         Form->OnPaint.Clear();
+        Form->OnCloseQuery.Clear();
+    }
     if (FHost) {
         if (auto* const Frame = dynamic_cast<TWinControl*>(&FModel.Root()))
             Frame->SetParent(nullptr);
         FHost.reset();
     }
+}
+
+// The form stays until it is known what becomes of its changes.
+void TDesignSurface::CloseQuery(TObject*, bool& CanClose)
+{
+    CanClose = false;
+    if (OnClose)
+        OnClose();
+    PostMessageA(WindowHandle(), WM_NULL, 0, 0);
 }
 
 void TDesignSurface::Refresh()
@@ -140,8 +152,8 @@ void TDesignSurface::PaintGrid(TObject* Sender)
 {
     auto& Form = static_cast<TCustomForm&>(*Sender);
     const TRect Client = Form.ClientRect();
-    for (int Y = 0; Y < Client.bottom; Y += Grid)
-        for (int X = 0; X < Client.right; X += Grid)
+    for (int Y = 0; Y < Client.bottom; Y += TSurfaceDrag::Grid)
+        for (int X = 0; X < Client.right; X += TSurfaceDrag::Grid)
             Form.Canvas()->SetPixels(X, Y, clGray);
 }
 
@@ -158,24 +170,10 @@ bool TDesignSurface::HandleMessage(const MSG& Message)
     if (Message.message >= WM_MOUSEFIRST && Message.message <= WM_MOUSELAST)
         return MouseMessage(Message);
     if (Message.message >= WM_NCMOUSEMOVE && Message.message <= WM_NCMBUTTONDBLCLK)
-        return FrameMessage(Message);
+        return Message.hwnd != WindowHandle(); // scroll bars and frames of controls do nothing
     if (Message.message == WM_KEYDOWN || Message.message == WM_SYSKEYDOWN)
         KeyDown(Message);
     return Message.message >= WM_KEYFIRST && Message.message <= WM_KEYLAST;
-}
-
-// The form can be moved and sized by its frame; scroll bars and frames of controls do
-// nothing, and closing is the designer's affair.
-bool TDesignSurface::FrameMessage(const MSG& Message)
-{
-    if (Message.hwnd != WindowHandle())
-        return true;
-    if (Message.message == WM_NCLBUTTONDOWN && Message.wParam == HTCLOSE) {
-        if (OnClose)
-            OnClose();
-        return true;
-    }
-    return false;
 }
 
 bool TDesignSurface::MouseMessage(const MSG& Message)
@@ -264,69 +262,71 @@ void TDesignSurface::ButtonDown(const MSG& Message)
         return;
     }
     if (Handle && !Handle->IsFixed()) {
-        BeginDrag(Message);
-        FDrag.Kind = TDrag::Sizing;
-        FDrag.Effect = EffectOf(Handle->Place());
+        FDrag.BeginSizing(*Hit, EffectOf(Handle->Place()), ScreenPointOf(Message));
+        SetCapture(WindowHandle());
         return;
     }
     if (Message.wParam & MK_SHIFT)
         FModel.ToggleSelected(Hit);
     else if (!FModel.IsSelected(Hit))
         FModel.SelectComponent(Hit);
-    if (FModel.IsSelected(Hit) && Hit != &FModel.Root())
-        BeginDrag(Message);
+    if (Hit == &FModel.Root()) {
+        FLasso = std::make_unique<TLasso>(Area()->Handle(), FModel.Root(), ScreenPointOf(Message));
+        SetCapture(WindowHandle());
+    } else if (FModel.IsSelected(Hit)) {
+        BeginMoving(ScreenPointOf(Message));
+    }
 }
 
-void TDesignSurface::BeginDrag(const MSG& Message)
+void TDesignSurface::BeginMoving(const TPoint& ScreenPoint)
 {
-    FDrag = {TDrag::Pending, ScreenPointOf(Message), {}, {}};
-    for (TComponent* const Each : FModel.Selection())
-        if (FModel.IsOwn(Each))
-            FDrag.Places.emplace_back(Each, TFormModel::PlaceOf(*Each));
+    FDrag.BeginMoving(FModel.OutermostSelected(), ScreenPoint);
     SetCapture(WindowHandle());
 }
 
 void TDesignSurface::DragTo(const TPoint& ScreenPoint)
 {
-    if (FDrag.Kind == TDrag::None || FDrag.Places.empty())
-        return;
-    const int DeltaX = static_cast<int>(ScreenPoint.x - FDrag.Start.x);
-    const int DeltaY = static_cast<int>(ScreenPoint.y - FDrag.Start.y);
-    if (FDrag.Kind == TDrag::Pending && std::abs(DeltaX) < DragDistance && std::abs(DeltaY) < DragDistance)
-        return;
-    if (FDrag.Kind == TDrag::Pending)
-        FDrag.Kind = TDrag::Moving;
-    const TRect& First = FDrag.Places.front().second;
-    const auto Snapped = [](LONG Edge, int Delta) { return OnGrid(Edge + Delta) - static_cast<int>(Edge); };
-    if (FDrag.Kind == TDrag::Moving) {
-        const int X = Snapped(First.left, DeltaX), Y = Snapped(First.top, DeltaY);
-        for (const auto& [Component, Place] : FDrag.Places)
-            TFormModel::SetPlace(*Component,
-                                 Rect(Place.left + X, Place.top + Y, Place.right + X, Place.bottom + Y));
-    } else {
-        TRect Place = First;
-        if (FDrag.Effect.Left)
-            Place.left = std::min(Place.left + Snapped(Place.left, DeltaX), Place.right);
-        if (FDrag.Effect.Top)
-            Place.top = std::min(Place.top + Snapped(Place.top, DeltaY), Place.bottom);
-        if (FDrag.Effect.Right)
-            Place.right = std::max(Place.right + Snapped(Place.right, DeltaX), Place.left);
-        if (FDrag.Effect.Bottom)
-            Place.bottom = std::max(Place.bottom + Snapped(Place.bottom, DeltaY), Place.top);
-        TFormModel::SetPlace(*FDrag.Places.front().first, Place);
-    }
-    Refresh();
+    if (FLasso)
+        FLasso->To(ScreenPoint);
+    else if (FDrag.To(ScreenPoint))
+        Refresh();
 }
 
 void TDesignSurface::EndDrag()
 {
-    if (FDrag.Kind == TDrag::None)
+    if (FLasso) {
+        ReleaseCapture();
+        EndLasso();
+    } else if (FDrag.IsActive()) {
+        ReleaseCapture();
+        if (FDrag.End())
+            FModel.Modified();
+    }
+}
+
+void TDesignSurface::EndLasso()
+{
+    const TRect Box = std::exchange(FLasso, nullptr)->Box();
+    if (RectWidth(Box) < TSurfaceDrag::Grid && RectHeight(Box) < TSurfaceDrag::Grid)
         return;
-    const bool Changed = FDrag.Kind != TDrag::Pending;
-    FDrag = {};
+    std::vector<TComponent*> Inside;
+    const auto AddTouched = [&](TComponent& Component, const RECT& Place) {
+        if (RECT Common; IntersectRect(&Common, &Box, &Place) && FModel.IsOwn(&Component))
+            Inside.push_back(&Component);
+    };
+    for (int I = 0; I < Area()->ControlCount(); ++I)
+        AddTouched(*Area()->Controls(I), Area()->Controls(I)->BoundsRect());
+    for (const auto& Each : FIcons)
+        AddTouched(Each->Component(), Each->BoundsRect());
+    FModel.Select(std::move(Inside));
+}
+
+void TDesignSurface::CancelDrag()
+{
+    FLasso.reset();
+    FDrag.Cancel();
     ReleaseCapture();
-    if (Changed)
-        FModel.Modified();
+    Refresh();
 }
 
 void TDesignSurface::PlaceAt(TComponent& Target, const TPoint& ScreenPoint)
@@ -343,9 +343,15 @@ void TDesignSurface::PlaceAt(TComponent& Target, const TPoint& ScreenPoint)
     }
     TPoint Here = ScreenPoint;
     ::ScreenToClient(Container->Handle(), &Here);
-    const int X = OnGrid(static_cast<int>(Here.x)), Y = OnGrid(static_cast<int>(Here.y));
-    Placing = nullptr;
+    const int X = TSurfaceDrag::OnGrid(static_cast<int>(Here.x)),
+              Y = TSurfaceDrag::OnGrid(static_cast<int>(Here.y));
+    GiveUpPlacing();
     FModel.Add(Class, Container == FHost.get() ? FModel.Root() : *Container, Rect(X, Y, X, Y));
+}
+
+void TDesignSurface::GiveUpPlacing()
+{
+    Placing = nullptr;
     if (OnPlaced)
         OnPlaced();
 }
@@ -367,8 +373,12 @@ void TDesignSurface::KeyDown(const MSG& Message)
         SelectNext(IsDown(VK_SHIFT) ? -1 : 1);
         return;
     case VK_ESCAPE:
-        Placing = nullptr;
-        FModel.SelectComponent(FModel.Selection().front()->GetParentComponent());
+        if (FLasso || FDrag.IsActive())
+            CancelDrag();
+        else if (Placing)
+            GiveUpPlacing();
+        else
+            FModel.SelectComponent(FModel.Selection().front()->GetParentComponent());
         return;
     case VK_F4:
         if (Message.message == WM_SYSKEYDOWN) {

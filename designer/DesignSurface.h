@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "designer/FormModel.h"
-#include "designer/SurfaceMarks.h"
+#include "designer/SurfaceDrag.h"
 #include "framework/forms/Forms.h"
 
 // A form is shown in its own window, a frame or data module in one made for it. The
@@ -15,19 +15,22 @@
 // HandleMessage first.
 //
 //     click              selects; with Shift adds or removes; places a component
-//     drag               moves, in steps of the grid; at a handle sizes
+//     drag               moves, in steps of the grid; at a handle sizes; on the form selects
+//                        what is inside the frame
 //     double click       the component editor
 //     right button       OnContextMenu
 //     Ctrl, Shift+arrow  moves and sizes by a pixel
-//     Delete, Tab, Esc   deletes; selects the next component; the container
+//     Delete, Tab, Esc   deletes; selects the next component; gives up a drag, or selects
+//                        the container
 class TDesignSurface : public TObject {
 public:
-    static constexpr int Grid = 8; // pixels
-
     explicit TDesignSurface(TFormModel& Model);
     ~TDesignSurface() override;
 
-    void Show();
+    // At a place on the screen where the window is not over the designer's own.
+    void Show(const TPoint& Place);
+    // Again, where the window was.
+    void ShowAgain() { Show(FPlace); }
     // The window goes; the model's controls stay.
     void Hide();
     bool IsShown() const { return WindowHandle() != nullptr; }
@@ -38,30 +41,27 @@ public:
     // True when the message was meant for a window of the form and must go no further.
     bool HandleMessage(const MSG& Message);
 
-    // The class to place with the next click; null for none.
+    // The class to place with the next click; null for none. OnPlaced tells that it is
+    // none again.
     const TMetaClass* Placing = nullptr;
     std::function<void()> OnPlaced;
     std::function<void(const TPoint& ScreenPoint)> OnContextMenu;
+    // The user wants the form closed; the message at hand must be done with first.
     std::function<void()> OnClose;
     // Keys that mean nothing here, such as the short cuts of a menu.
     std::function<void(const MSG&)> OnKey;
 
 private:
-    struct TDrag {
-        enum { None, Pending, Moving, Sizing } Kind = None;
-        TPoint Start{}; // on the screen
-        THandleEffect Effect{};
-        std::vector<std::pair<TComponent*, TRect>> Places;
-    };
-
     bool IsOurs(HWND Window) const;
     bool MouseMessage(const MSG& Message);
-    bool FrameMessage(const MSG& Message);
     void ButtonDown(const MSG& Message);
-    void BeginDrag(const MSG& Message);
+    void BeginMoving(const TPoint& ScreenPoint);
     void DragTo(const TPoint& ScreenPoint);
     void EndDrag();
+    void EndLasso();
+    void CancelDrag();
     void PlaceAt(TComponent& Target, const TPoint& ScreenPoint);
+    void GiveUpPlacing();
     void EditComponent();
     void KeyDown(const MSG& Message);
     bool ArrowKey(WPARAM Key);
@@ -72,11 +72,15 @@ private:
     void ShowIcons();
     void ShowHandles();
     void PaintGrid(TObject* Sender);
+    void CloseQuery(TObject* Sender, bool& CanClose);
+    TForm* MakeHost();
     TWinControl* Area() const;
 
     TFormModel& FModel;
     std::unique_ptr<TForm> FHost; // of frames and data modules
     std::vector<std::unique_ptr<TIconMark>> FIcons;
     std::vector<std::unique_ptr<THandleMark>> FHandles;
-    TDrag FDrag;
+    TSurfaceDrag FDrag;
+    std::unique_ptr<TLasso> FLasso;
+    TPoint FPlace{}; // of the window
 };

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "designer/DesignerForm.h"
+#include "designer/PropertyDialogs.h"
 #include "designer/StandardPages.h"
 #include "framework/forms/MessageForms.h"
 #include "framework/forms/StandardClasses.h"
@@ -88,6 +89,7 @@ int RunDesigner(const TOptions& Options)
     const TApplicationScope Scope;
     RegisterStandardClasses();
     RegisterStandardPages();
+    RegisterPropertyDialogs();
     RegisterOrbilexDesigner();
     Application->SetTitle("Orbilex Designer");
     TPackages Packages;

@@ -2,14 +2,17 @@
 // and the inspector of the form that is being designed.
 #pragma once
 
+#include <memory>
+
+#include "designer/ComponentTree.h"
 #include "designer/Inspector.h"
 #include "designer/Packages.h"
+#include "designer/PaletteBar.h"
 #include "designer/Workspace.h"
 #include "framework/forms/ComCtrls.h"
 #include "framework/forms/Dialogs.h"
 #include "framework/forms/ExtCtrls.h"
 #include "framework/forms/Forms.h"
-#include "framework/forms/GlyphButtons.h"
 #include "framework/forms/StdCtrls.h"
 
 class TDesignerForm : public TForm {
@@ -30,7 +33,7 @@ public:
 
     // Published.
     TTabControl* Palette = nullptr;
-    TScrollBox* PaletteBar = nullptr;
+    TPanel* PaletteBar = nullptr;
     TPanel* LeftPanel = nullptr;
     TPanel* InspectorPanel = nullptr;
     TListBox* ProjectList = nullptr;
@@ -45,11 +48,9 @@ public:
     TOpenDialog* DlgOpenProject = nullptr;
     TSaveDialog* DlgSaveProject = nullptr;
     TOpenDialog* DlgOpenPackage = nullptr;
-    void PaletteChange(TObject* Sender);
     void InspectorTabsChange(TObject* Sender);
     void ProjectListDblClick(TObject* Sender);
     void ProjectListKeyDown(TObject* Sender, uint16_t& Key, TShiftState Shift);
-    void TreeChange(TObject* Sender, TTreeNode* Node);
     void MnuNewProjectClick(TObject* Sender);
     void MnuNewFormClick(TObject* Sender);
     void MnuOpenProjectClick(TObject* Sender);
@@ -61,15 +62,22 @@ public:
     void MnuExitClick(TObject* Sender);
     void MnuUndoClick(TObject* Sender);
     void MnuRedoClick(TObject* Sender);
+    void MnuCutClick(TObject* Sender);
+    void MnuCopyClick(TObject* Sender);
+    void MnuPasteClick(TObject* Sender);
     void MnuDeleteClick(TObject* Sender);
     void MnuSelectAllClick(TObject* Sender);
+    void MnuToFrontClick(TObject* Sender);
+    void MnuToBackClick(TObject* Sender);
     void MnuInspectorClick(TObject* Sender);
     void MnuTreeClick(TObject* Sender);
     void MnuLoadPackageClick(TObject* Sender);
+    void MnuContentsClick(TObject* Sender);
     void MnuAboutClick(TObject* Sender);
 
 protected:
     void DoCreate() override;
+    void DoClose(TCloseAction& Action) override;
 
 private:
     void FindParts();
@@ -80,17 +88,14 @@ private:
     void ShowError(const std::string& Text);
     void ShowProject();
     void ShowActive();
-    void ShowTree();
-    void ShowTreeSelection();
-    std::string TreeShape(TComponent& Component);
-    void AddTreeNode(TTreeNode* Parent, TComponent& Component);
     void ShowSelection();
     void ShowStatus();
-    void ShowPalette();
-    void ShowPalettePage();
+    TPoint BesideWindow();
+    void PassOn(const MSG& Key);
+    bool IsForEdit(UINT Message) const;
     void ShowExperts();
     void PopupVerbs(const TPoint& Point);
-    void PaletteButtonClick(TObject* Sender);
+    void AddVerb(const std::string& Caption, int Tag, const TNotifyEvent& Handler);
     void ExpertClick(TObject* Sender);
     void VerbClick(TObject* Sender);
     void AppMessage(MSG& Message, bool& Handled);
@@ -98,7 +103,6 @@ private:
     TWorkspace FWorkspace;
     TPackages* FPackages = nullptr;
     TInspector* FInspector = nullptr;
-    std::vector<TSpeedButton*> FButtons; // by the page's classes; the first is the arrow
-    std::string FTreeShape;              // what the tree shows
-    bool FShowing = false;
+    std::unique_ptr<TPaletteBar> FPalette;
+    std::unique_ptr<TComponentTree> FTree;
 };

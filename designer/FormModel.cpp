@@ -81,12 +81,18 @@ void TFormModel::Modified()
     const auto Now = TakeState();
     if (Now->Bytes == FPresent->Bytes && Now->Texts == FPresent->Texts)
         return;
+    Remember();
+    FPresent = Now;
+    Tell(OnChanged);
+}
+
+// The present state becomes one to which undoing goes back.
+void TFormModel::Remember()
+{
     FUndo.push_back(FPresent);
     if (FUndo.size() > MostSteps)
         FUndo.pop_front();
     FRedo.clear();
-    FPresent = Now;
-    Tell(OnChanged);
 }
 
 std::shared_ptr<const TFormModel::TState> TFormModel::TakeState()
@@ -142,15 +148,37 @@ void TFormModel::Step(TStates& From, TStates& To)
         return;
     const auto Wanted = From.back();
     std::unique_ptr<TLoadedForm> Form = Load(Wanted->Document);
-    std::vector<std::string> Selected;
+    To.push_back(FPresent);
+    From.pop_back();
+    TakeOver(std::move(Form), Wanted, SelectedNames());
+}
+
+void TFormModel::Rewrite(TFormDocument Document, const std::vector<std::string>& Selected)
+{
+    Modified();
+    std::unique_ptr<TLoadedForm> Form = Load(Document);
+    const auto Wanted = std::make_shared<TState>(TState{std::move(Document), {}, FPresent->Texts});
+    Wanted->Bytes = WriteForm(Wanted->Document);
+    Remember();
+    TakeOver(std::move(Form), Wanted, Selected);
+    Wanted->Texts = OutsideTexts(); // with those of new translators
+}
+
+std::vector<std::string> TFormModel::SelectedNames()
+{
+    std::vector<std::string> Result;
     for (const TComponent* const Each : FSelection)
-        Selected.push_back(GetComponentName(Each));
+        Result.push_back(GetComponentName(Each));
+    return Result;
+}
+
+void TFormModel::TakeOver(std::unique_ptr<TLoadedForm> Form, std::shared_ptr<const TState> State,
+                          const std::vector<std::string>& Selected)
+{
     Tell(BeforeReload);
     FForm = std::move(Form);
-    To.push_back(FPresent);
-    FPresent = Wanted;
-    From.pop_back();
-    RestoreTexts(Wanted->Texts);
+    FPresent = std::move(State);
+    RestoreTexts(FPresent->Texts);
     FSelection.clear();
     for (const std::string& Each : Selected)
         if (TComponent* const Component = GetComponent(Each))
@@ -297,16 +325,20 @@ TComponent& TFormModel::Add(const TMetaClass& Class, TComponent& Parent, const T
     return *Component;
 }
 
+std::vector<TComponent*> TFormModel::OutermostSelected() const
+{
+    std::vector<TComponent*> Result;
+    for (TComponent* const Each : FSelection)
+        if (IsOwn(Each) && std::ranges::none_of(FSelection, [&](const TComponent* Other) {
+                return Other != Each && IsOwn(Other) && IsInside(Each, *Other);
+            }))
+            Result.push_back(Each);
+    return Result;
+}
+
 void TFormModel::DeleteSelected()
 {
-    std::vector<TComponent*> Wanted = FSelection;
-    std::erase_if(Wanted, [&](const TComponent* Each) { return !IsOwn(Each); });
-    // Those inside others go with them.
-    std::vector<TComponent*> Outermost;
-    for (TComponent* const Each : Wanted)
-        if (std::ranges::none_of(
-                Wanted, [&](const TComponent* Other) { return Other != Each && IsInside(Each, *Other); }))
-            Outermost.push_back(Each);
+    const std::vector<TComponent*> Outermost = OutermostSelected();
     if (Outermost.empty())
         return;
     FSelection = {&Root()};
@@ -325,6 +357,14 @@ void TFormModel::ShiftSelected(int DeltaX, int DeltaY, int DeltaWidth, int Delta
         SetPlace(*Each, Bounds(Old.left + DeltaX, Old.top + DeltaY, std::max(RectWidth(Old) + DeltaWidth, 0),
                                std::max(RectHeight(Old) + DeltaHeight, 0)));
     }
+    Modified();
+}
+
+void TFormModel::OrderSelected(bool ToFront)
+{
+    for (TComponent* const Each : FSelection)
+        if (auto* const Control = dynamic_cast<TControl*>(Each); Control && IsOwn(Each))
+            ToFront ? Control->BringToFront() : Control->SendToBack();
     Modified();
 }
 

@@ -29,7 +29,8 @@ public:
     const std::string& FileName() const { return FFileName; }
     bool IsModified() const { return FPresent != FSaved; }
 
-    // The form's file as it would be now.
+    // The form as it is now, as a tree and as its file.
+    const TFormDocument& Document() const { return FPresent->Document; }
     const std::string& Bytes() const { return FPresent->Bytes; }
     // Writes the file with nothing but the changes, and the translations files of its
     // translators. Throws EFCreateError, EWriteError; the form stays modified then.
@@ -66,10 +67,18 @@ public:
     // it. An empty Place gives it its usual size; places are in the parent's client
     // area, in pixels.
     TComponent& Add(const TMetaClass& Class, TComponent& Parent, const TRect& Place);
+    // Loads the form anew from its changed tree, as one step, and selects components by
+    // name. Errors: as opening a form; it stays as it was then.
+    void Rewrite(TFormDocument Document, const std::vector<std::string>& Selected);
+    // The selected components that can be taken off the form, without those inside others.
+    std::vector<TComponent*> OutermostSelected() const;
     // Destroys the selected components with what is inside them.
     void DeleteSelected();
     // Moves and sizes all selected components that have a place.
     void ShiftSelected(int DeltaX, int DeltaY, int DeltaWidth, int DeltaHeight);
+
+    // In front of the other controls, or behind them.
+    void OrderSelected(bool ToFront);
 
     // Of a control, or of the icon that stands for another component.
     static TRect PlaceOf(const TComponent& Component);
@@ -104,6 +113,11 @@ private:
     std::map<std::string, std::string> OutsideTexts();
     void RestoreTexts(const std::map<std::string, std::string>& Texts);
     void Step(TStates& From, TStates& To);
+    void Remember();
+    std::vector<std::string> SelectedNames();
+    // The components made from State take the place of the present ones.
+    void TakeOver(std::unique_ptr<TLoadedForm> Form, std::shared_ptr<const TState> State,
+                  const std::vector<std::string>& Selected);
     void DestroyWithContents(TComponent& Component);
     std::string NewName(const TMetaClass& Class) const;
     void Tell(const std::function<void()>& Event) const;

@@ -32,6 +32,7 @@ TInspector::TInspector(TComponent* Owner)
     FEdit->OnKeyDown = {this, &TInspector::EditKeyDown};
     FEdit->OnExit = {this, &TInspector::EditExit};
     FEdit->OnDblClick = {this, &TInspector::EditDblClick};
+    FEdit->OnMouseDown = {this, &TInspector::EditMouseDown};
     FList->OnKeyDown = {this, &TInspector::EditKeyDown};
     FList->OnExit = {this, &TInspector::EditExit};
     FList->OnSelect = {this, &TInspector::ListSelect};
@@ -182,12 +183,12 @@ void TInspector::Press(int Row)
 // What stands in the edit, if somebody changed it.
 void TInspector::Commit()
 {
-    if (FBusy || FShowing || Row() >= Rows())
+    if (FBusy || FShowing || FShownRow < 0 || FShownRow >= Rows())
         return;
-    if (FEdit->Visible() && !IsReadOnly(FRows[static_cast<size_t>(Row())]))
-        Enter(Row(), FEdit->Text());
+    if (FEdit->Visible() && !IsReadOnly(FRows[static_cast<size_t>(FShownRow)]))
+        Enter(FShownRow, FEdit->Text());
     else if (FList->Visible())
-        Enter(Row(), FList->Text());
+        Enter(FShownRow, FList->Text());
 }
 
 // The controls for the value of the row that is chosen.
@@ -197,6 +198,7 @@ void TInspector::ShowRow()
         return;
     FShowing = true;
     const bool HasRow = FModel && Row() < Rows();
+    FShownRow = HasRow ? Row() : -1;
     const TPropertyAttributes Attributes =
         HasRow ? FRows[static_cast<size_t>(Row())].Editor->GetAttributes() : TPropertyAttributes{};
     const bool IsList = Attributes.Contains(paValueList);
@@ -262,6 +264,7 @@ void TInspector::MouseDown(TMouseButton Button, TShiftState Shift, int X, int Y)
         MouseToCell(X, Y, Column, Line) && Column == 0 && Line < Rows() &&
         (Shift.Contains(ssDouble) || X < (FRows[static_cast<size_t>(Line)].Level + 1) * StepIn + 3);
     TDrawGrid::MouseDown(Button, Shift, X, Y);
+    FClickTime = static_cast<LONG>(GetMessageTime());
     if (OnSign)
         Expand(Line);
     else
@@ -342,6 +345,15 @@ void TInspector::EditExit(TObject*)
 void TInspector::EditDblClick(TObject*)
 {
     Press(Row());
+}
+
+// The first click of a double click on a value was the grid's.
+void TInspector::EditMouseDown(TObject*, TMouseButton Button, TShiftState, int, int)
+{
+    const LONG Since = static_cast<LONG>(GetMessageTime()) - FClickTime;
+    FClickTime = 0;
+    if (Button == mbLeft && Since < static_cast<LONG>(GetDoubleClickTime()))
+        Press(Row());
 }
 
 void TInspector::ListSelect(TObject*)

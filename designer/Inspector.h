@@ -72,6 +72,7 @@ private:
     void EditKeyDown(TObject* Sender, uint16_t& Key, TShiftState Shift);
     void EditExit(TObject* Sender);
     void EditDblClick(TObject* Sender);
+    void EditMouseDown(TObject* Sender, TMouseButton Button, TShiftState Shift, int X, int Y);
     void ListSelect(TObject* Sender);
     void EllipsisClick(TObject* Sender);
     void CellSelected(TObject* Sender, int ACol, int ARow, bool& CanSelect);
@@ -85,6 +86,8 @@ private:
     TEdit* FEdit;
     TComboBox* FList;
     TButton* FEllipsis;
+    int FShownRow = -1;  // the one whose value they hold: the grid's may be another already
+    LONG FClickTime = 0; // of the last click on the grid
     bool FBusy = false;
     bool FStale = false;
     bool FShowing = false;

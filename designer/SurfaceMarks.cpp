@@ -97,3 +97,24 @@ void TIconMark::Paint()
     Paper.Font()->SetColor(clNavy);
     Paper.DrawText(Initials(Component().ClassName()), Box, DT_CENTER | DT_SINGLELINE | DT_VCENTER);
 }
+
+TLasso::TLasso(HWND Window, TComponent& Form, const TPoint& Start) : FWindow(Window), FStart(Start)
+{
+    for (int Side = 0; Side < 4; ++Side) {
+        FSides.push_back(std::make_unique<TMark>(Window, Form));
+        FSides.back()->SetColor(clGray);
+    }
+}
+
+void TLasso::To(const TPoint& Point)
+{
+    TPoint From = FStart, Here = Point;
+    ::ScreenToClient(FWindow, &From);
+    ::ScreenToClient(FWindow, &Here);
+    FBox = Rect(std::min(From.x, Here.x), std::min(From.y, Here.y), std::max(From.x, Here.x) + 1,
+                std::max(From.y, Here.y) + 1);
+    FSides[0]->ShowAt(Rect(FBox.left, FBox.top, FBox.right, FBox.top + 1));
+    FSides[1]->ShowAt(Rect(FBox.left, FBox.bottom - 1, FBox.right, FBox.bottom));
+    FSides[2]->ShowAt(Rect(FBox.left, FBox.top, FBox.left + 1, FBox.bottom));
+    FSides[3]->ShowAt(Rect(FBox.right - 1, FBox.top, FBox.right, FBox.bottom));
+}

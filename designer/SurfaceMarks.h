@@ -2,6 +2,9 @@
 // icons for components that are not seen.
 #pragma once
 
+#include <memory>
+#include <vector>
+
 #include "framework/forms/CustomControl.h"
 
 // The places of handles, clockwise from the top left corner.
@@ -60,4 +63,20 @@ protected:
 
 private:
     bool FIsSelected = false;
+};
+
+// The frame that is drawn around components to select them all. Points are on the screen.
+class TLasso {
+public:
+    TLasso(HWND Window, TComponent& Form, const TPoint& Start);
+
+    void To(const TPoint& Point);
+    // In the window's client area; empty before the first To.
+    const TRect& Box() const { return FBox; }
+
+private:
+    HWND FWindow;
+    TPoint FStart;
+    TRect FBox{};
+    std::vector<std::unique_ptr<TMark>> FSides;
 };

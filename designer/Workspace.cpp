@@ -105,10 +105,19 @@ TDesign& TWorkspace::Add(std::unique_ptr<TFormModel> Model)
     FDesigns.push_back(std::make_unique<TDesign>(std::move(Model)));
     TDesign& Result = *FDesigns.back();
     Connect(Result);
-    Result.Surface.Show();
+    Result.Surface.Show(NextPlace());
     Activate(&Result);
     Tell(OnProject);
     return Result;
+}
+
+// One beside the other, so that all their captions are seen.
+TPoint TWorkspace::NextPlace() const
+{
+    constexpr size_t Most = 10;
+    const int Offset = static_cast<int>((FDesigns.size() - 1) % Most) * 24;
+    const TPoint First = OnFirstPlace ? OnFirstPlace() : TPoint{};
+    return {First.x + Offset, First.y + Offset};
 }
 
 void TWorkspace::Connect(TDesign& Design)
@@ -122,7 +131,7 @@ void TWorkspace::Connect(TDesign& Design)
         Tell(OnSelection);
     };
     Design.Model->BeforeReload = [&Design] { Design.Surface.Hide(); };
-    Design.Model->AfterReload = [&Design] { Design.Surface.Show(); };
+    Design.Model->AfterReload = [&Design] { Design.Surface.ShowAgain(); };
     Design.Surface.OnClose = [this, &Design] { FClosing = &Design; };
     Design.Surface.OnPlaced = [this] { Tell(OnPlaced); };
     Design.Surface.OnKey = [this](const MSG& Message) {

@@ -68,10 +68,13 @@ public:
     std::function<void(const TPoint&)> OnContextMenu;
     std::function<void(const MSG&)> OnKey;
     std::function<void()> OnPlaced;
+    // Where the windows of forms come: the first one's place, on the screen.
+    std::function<TPoint()> OnFirstPlace;
 
 private:
     TDesign& Add(std::unique_ptr<TFormModel> Model);
     void Connect(TDesign& Design);
+    TPoint NextPlace() const;
     void Remove(TDesign& Design);
     void Tell(const std::function<void()>& Event) const;
 

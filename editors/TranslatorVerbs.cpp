@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "core/Frame.h"
-#include "editors/Help.h"
+#include "framework/design/Help.h"
 
 namespace {
 

@@ -6,15 +6,21 @@
 #include "Obxc3/Obxc3.h"
 #include "Qft/Qft.h"
 #include "designer/DesignerForm.h"
+#include "designer/FormClipboard.h"
+#include "designer/PropertyDialogs.h"
 #include "designer/StandardPages.h"
 #include "editors/Editors.h"
 #include "editors/Registration.h"
 #include "framework/design/ComponentEditor.h"
+#include "framework/forms/Clipboard.h"
 #include "framework/forms/MessageForms.h"
 #include "framework/forms/StandardClasses.h"
 #include "framework/rtl/Files.h"
+#include "framework/rtl/SysUtils.h"
+#include "framework/streaming/FormFile.h"
 #include "orbilex_designer.h"
 #include "tests/FormUser.h"
+#include "tests/RegistryScope.h"
 
 namespace {
 
@@ -83,6 +89,7 @@ protected:
     {
         RegisterTranslators();
         RegisterStandardPages();
+        RegisterPropertyDialogs();
         RegisterOrbilexDesigner();
         std::filesystem::create_directories(Folder);
         File = Folder + "/OrderForm.dfm";
@@ -145,12 +152,43 @@ protected:
         Post(WM_MOUSEMOVE, {Form, To}, MK_LBUTTON);
         Post(WM_LBUTTONUP, {Form, To});
     }
-    void Key(WPARAM Code)
+    void Key(WPARAM Code, WPARAM Held = 0)
     {
+        BYTE State[256] = {};
+        State[Held] = Held ? 0x80 : 0;
+        SetKeyboardState(State);
         PostMessageA(Design().Surface.WindowHandle(), WM_KEYDOWN, Code, 1);
         Run();
+        State[Held] = 0;
+        SetKeyboardState(State);
+    }
+    static std::string PlaceOf(const TControl& Target)
+    {
+        return IntToStr(Target.Left()) + "," + IntToStr(Target.Top()) + "," + IntToStr(Target.Width()) + "," +
+               IntToStr(Target.Height());
+    }
+    void Clipboard(const std::string& Text) { SetClipboardText(Main->Handle(), Text); }
+    // The line of the file in which a component's property stands; empty for none.
+    std::string LineOf(const std::string& Component, const std::string& Property)
+    {
+        const TFormDocument Form = ReadForm(Bytes());
+        std::function<const TFormObject*(const TFormObject&)> Find =
+            [&](const TFormObject& Object) -> const TFormObject* {
+            if (Object.Name() == Component)
+                return &Object;
+            for (const TFormObject& Each : Object.Children())
+                if (const TFormObject* const Found = Find(Each))
+                    return Found;
+            return nullptr;
+        };
+        const TFormObject* const Found = Find(Form.Root);
+        const TFormValue* const Value = Found ? Found->FindValue(Property) : nullptr;
+        return !Value                               ? ""
+               : Value->Is(TFormValueKind::Integer) ? IntToStr(Value->AsInteger())
+                                                    : Value->AsIdent();
     }
 
+    const TRegistryScope Registry;
     const TApplicationScope Scope;
     const TPackageScope Package;
     const TEditorsScope Editors;
@@ -244,6 +282,123 @@ TEST_F(Designer, ObeysTheKeyboard)
     EXPECT_EQ(Bytes(), Order);
 }
 
+TEST_F(Designer, MovesAndSizesByPixels)
+{
+    const struct {
+        WPARAM Key, Held;
+        const char* Place;
+    } Keys[] = {
+        {VK_RIGHT, VK_CONTROL, "17,48,97,17"}, {VK_DOWN, VK_CONTROL, "17,49,97,17"},
+        {VK_LEFT, VK_CONTROL, "16,49,97,17"},  {VK_UP, VK_CONTROL, "16,48,97,17"},
+        {VK_RIGHT, VK_SHIFT, "16,48,98,17"},   {VK_DOWN, VK_SHIFT, "16,48,98,18"},
+        {VK_LEFT, VK_SHIFT, "16,48,97,18"},    {VK_UP, VK_SHIFT, "16,48,97,17"},
+        {VK_LEFT, 0, "16,48,97,17"},
+    };
+    Click(Control("CkxPaid"), 5, 5);
+    for (const auto& Each : Keys) {
+        Key(Each.Key, Each.Held);
+        EXPECT_EQ(PlaceOf(Control("CkxPaid")), Each.Place) << Each.Key << " with " << Each.Held;
+    }
+    EXPECT_EQ(Bytes(), Order);
+}
+
+TEST_F(Designer, GivesUpADrag)
+{
+    const TSpot From = SpotOf(Control("CkxPaid"), 5, 5);
+    Post(WM_LBUTTONDOWN, From, MK_LBUTTON);
+    Post(WM_MOUSEMOVE, {Design().Surface.WindowHandle(), {200, 200}}, MK_LBUTTON);
+    EXPECT_NE(Control("CkxPaid").Left(), 16);
+    Key(VK_ESCAPE);
+    Post(WM_LBUTTONUP, From);
+    EXPECT_EQ(Bytes(), Order);
+    EXPECT_FALSE(Model().CanUndo());
+}
+
+TEST_F(Designer, SelectsWhatAFrameTouches)
+{
+    Drag(SpotOf(Control("OrderForm"), 4, 4), 60, 50);
+    EXPECT_EQ(SelectedNames(), "LblName,CkxPaid");
+    Drag(SpotOf(Control("OrderForm"), 230, 50), 30, -30); // up, and an icon
+    EXPECT_EQ(SelectedNames(), "Source");
+    Drag(SpotOf(Control("OrderForm"), 230, 220), 40, 10);
+    EXPECT_EQ(SelectedNames(), "OrderForm");
+    EXPECT_EQ(Bytes(), Order);
+}
+
+TEST_F(Designer, CopiesCutsAndPastes)
+{
+    Click(Control("CkxPaid"), 5, 5);
+    Key('C', VK_CONTROL);
+    EXPECT_EQ(ClipboardText(Main->Handle()).rfind("object CkxPaid: TCheckBox\r\n  Left = 16\r\n", 0), 0U)
+        << ClipboardText(Main->Handle());
+    // Beside the original; its events stay.
+    Click(Control("OrderForm"), 5, 225);
+    Key('V', VK_CONTROL);
+    EXPECT_EQ(SelectedNames(), "CkxPaid1");
+    EXPECT_EQ(LineOf("CkxPaid1", "Left"), "24");
+    EXPECT_EQ(LineOf("CkxPaid1", "OnClick"), "CkxPaidClick");
+    EXPECT_TRUE(IsWindowVisible(Design().Surface.WindowHandle()));
+    Key('Z', VK_CONTROL);
+    EXPECT_EQ(Bytes(), Order);
+    // What is in a control of an unknown class goes with it, and comes into the panel.
+    Click(Control("Cube"), 5, 5);
+    Key('X', VK_CONTROL);
+    EXPECT_EQ(Bytes().find("TCubeView"), std::string::npos);
+    Click(Control("Box"), 5, 5);
+    Key('V', VK_CONTROL);
+    EXPECT_EQ(Control("Cube").Parent(), &Control("Box"));
+    EXPECT_EQ(Bytes(), Order);
+}
+
+TEST_F(Designer, PastesTextOfOthers)
+{
+    Clipboard("object LblName: TLabel\n  FocusControl = Cube\nend\n"
+              "object Cube: TCubeView\n  Width = 9\n  object CkxPaid: TCheckBox\n  end\nend\n"
+              "object Rates: TRateSource\n  Left = 8\nend\n");
+    Click(Control("Box"), 5, 5);
+    Main->MnuPasteClick(nullptr);
+    EXPECT_EQ(SelectedNames(), "LblName1,Cube1,Rates");
+    EXPECT_EQ(LineOf("LblName1", "FocusControl"), "Cube1");
+    EXPECT_EQ(Control("CkxPaid1").Parent(), &Control("Cube1"));
+    EXPECT_EQ(Control("Cube1").Parent(), &Control("Box"));
+    EXPECT_NE(Bytes().find("\r\n  object Rates: TRateSource\r\n"), std::string::npos) << Bytes();
+    Model().Undo();
+    EXPECT_EQ(Bytes(), Order);
+    // What cannot be pasted is told, and changes nothing.
+    for (const char* const Each :
+         {"object A: TLabel\n  Left = \nend", "no form text", "object Item: TMenuItem\nend",
+          "object A: TLabel\nend\nend\nobject B: TB"}) {
+        EXPECT_THROW(PasteText(Model(), Each), Exception) << Each;
+        EXPECT_EQ(Bytes(), Order) << Each;
+    }
+}
+
+// Short cuts of the menu leave the text alone that is being typed.
+TEST_F(Designer, CopiesTextInTheInspector)
+{
+    TInspector& Inspector = *Main->Inspector();
+    Click(Control("CkxPaid"), 5, 5);
+    Inspector.SetRow(Inspector.RowOf("Caption"));
+    Inspector.Refresh();
+    Inspector.Editor()->SetFocus();
+    Inspector.Editor()->SelectAll();
+    Main->MnuCopyClick(nullptr);
+    EXPECT_EQ(ClipboardText(Main->Handle()), "Paid");
+    Main->MnuCutClick(nullptr);
+    EXPECT_EQ(Inspector.Editor()->Text(), "");
+    EXPECT_NE(Model().GetComponent("CkxPaid"), nullptr);
+}
+
+TEST_F(Designer, PutsControlsInFrontAndBehind)
+{
+    Click(Control("CkxPaid"), 5, 5);
+    Main->MnuToFrontClick(nullptr);
+    EXPECT_GT(Bytes().find("CkxPaid: "), Bytes().find("Box: "));
+    Main->MnuToBackClick(nullptr);
+    EXPECT_LT(Bytes().find("CkxPaid: "), Bytes().find("Box: "));
+    EXPECT_EQ(Bytes(), Order);
+}
+
 TEST_F(Designer, PlacesComponents)
 {
     Main->Choose(&TButton::MetaClass());
@@ -268,6 +423,34 @@ TEST_F(Designer, RunsComponentEditors)
     Click(Control("Box"), 5, 5);
     Post(WM_LBUTTONDBLCLK, SpotOf(Control("Box"), 5, 5), MK_LBUTTON);
     EXPECT_EQ(EditsDone, 1);
+    UnregisterComponentEditor(MakeComponentEditor<TCountingEditor>);
+}
+
+// The right button selects and brings up the verbs, and below them the commands that
+// all components have.
+TEST_F(Designer, ShowsAContextMenu)
+{
+    RegisterComponentEditor(TPanel::MetaClass(), MakeComponentEditor<TCountingEditor>);
+    EditsDone = 0;
+    const TSpot Spot = SpotOf(Control("Box"), 5, 5);
+    TFormUser User;
+    const auto Choose = [&](int Entry) {
+        User.Run<bool>([&] {
+            for (const UINT Message : {WM_RBUTTONDOWN, WM_RBUTTONUP})
+                PostMessageA(Spot.Window, Message, 0, MAKELPARAM(5, 5));
+            for (int I = 0; I < Entry; ++I)
+                PostMessageA(Spot.Window, WM_KEYDOWN, VK_DOWN, 1);
+            PostMessageA(Spot.Window, WM_KEYDOWN, VK_RETURN, 1);
+            Run();
+            return true;
+        });
+    };
+    Choose(1);
+    EXPECT_EQ(SelectedNames(), "Box");
+    EXPECT_EQ(EditsDone, 1);
+    Choose(5); // Delete; the line is passed over
+    EXPECT_EQ(EditsDone, 1);
+    EXPECT_EQ(Model().GetComponent("Box"), nullptr);
     UnregisterComponentEditor(MakeComponentEditor<TCountingEditor>);
 }
 
@@ -311,17 +494,150 @@ TEST_F(Designer, EditsInPlace)
 {
     Click(Control("Box"), 5, 5);
     TInspector& Inspector = *Main->Inspector();
-    const int Row = Inspector.RowOf("Caption");
-    Inspector.SetRow(Row);
-    const TRect Cell = Inspector.CellRect(1, Row);
-    Post(WM_LBUTTONDOWN, {Inspector.Handle(), {Cell.left + 5, Cell.top + 5}}, MK_LBUTTON);
-    Post(WM_LBUTTONUP, {Inspector.Handle(), {Cell.left + 5, Cell.top + 5}});
+    std::string Error;
+    Inspector.OnError = [&](const std::string& Text) { Error = Text; };
+    // A value stays in its row when the user goes to another one.
+    for (const char* const Each : {"Caption", "Align", "BevelWidth", "Alignment", "BevelInner", "Caption"}) {
+        const TRect Cell = Inspector.CellRect(1, Inspector.RowOf(Each));
+        Post(WM_LBUTTONDOWN, {Inspector.Handle(), {Cell.left + 5, Cell.top + 5}}, MK_LBUTTON);
+        Post(WM_LBUTTONUP, {Inspector.Handle(), {Cell.left + 5, Cell.top + 5}});
+        EXPECT_EQ(Inspector.NameAt(Inspector.Row()), Each);
+        EXPECT_EQ(Bytes(), Order) << Each;
+        EXPECT_EQ(Error, "") << Each;
+    }
     ASSERT_TRUE(Inspector.Editor()->Visible());
     Inspector.Editor()->SetText("Crates");
     PostMessageA(Inspector.Editor()->Handle(), WM_KEYDOWN, VK_RETURN, 1);
     Run();
     EXPECT_EQ(Control("Box").Text(), "Crates");
     EXPECT_NE(Bytes().find("Caption = 'Crates'\r\n"), std::string::npos);
+
+    // The second click of a double click comes to the edit that the first one brought up.
+    Inspector.SetEvents(true);
+    const TRect Cell = Inspector.CellRect(1, Inspector.RowOf("OnEnter"));
+    Post(WM_LBUTTONDOWN, {Inspector.Handle(), {Cell.left + 5, Cell.top + 5}}, MK_LBUTTON);
+    Post(WM_LBUTTONUP, {Inspector.Handle(), {Cell.left + 5, Cell.top + 5}});
+    Post(WM_LBUTTONDOWN, {Inspector.Editor()->Handle(), {3, 3}}, MK_LBUTTON);
+    Post(WM_LBUTTONUP, {Inspector.Editor()->Handle(), {3, 3}});
+    EXPECT_NE(Bytes().find("    OnEnter = BoxEnter\r\n"), std::string::npos) << Bytes();
+}
+
+// The button beside a value opens the property's editor.
+TEST_F(Designer, OpensPropertyEditors)
+{
+    TInspector& Inspector = *Main->Inspector();
+    Click(Control("CkxPaid"), 5, 5);
+    const auto PressEllipsis = [&](const char* Property, TFormUser& User) {
+        Inspector.SetRow(Inspector.RowOf(Property));
+        Inspector.Refresh();
+        ASSERT_TRUE(Inspector.Ellipsis()->Visible()) << Property;
+        User.Run<bool>([&] {
+            PostMessageA(Inspector.Ellipsis()->Handle(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+            PostMessageA(Inspector.Ellipsis()->Handle(), WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+            Run();
+            return true;
+        });
+    };
+    std::string Face = dynamic_cast<TCheckBox&>(Control("CkxPaid")).Font()->Name();
+    TFormUser Chooser;
+    Chooser.ChooseOtherFont(Face);
+    PressEllipsis("Font", Chooser);
+    EXPECT_NE(Bytes().find("    Font.Name = '" + Face + "'\r\n"), std::string::npos) << Bytes();
+    TFormUser Painter;
+    Painter.Confirm([](HWND) {});
+    PressEllipsis("Color", Painter);
+
+    Model().Add(TMemo::MetaClass(), Model().Root(), Rect(8, 210, 100, 230));
+    TFormUser Writer;
+    Writer.Do([](TForm& Form) { EXPECT_EQ(Form.Caption(), "Lines"); });
+    Writer.Type("Memo", "one\r\ntwo").Click("BtnOK");
+    PressEllipsis("Lines", Writer);
+    EXPECT_NE(Bytes().find("    Lines.Strings = (\r\n      'one'\r\n      'two')\r\n"), std::string::npos)
+        << Bytes();
+    TFormUser Doubter;
+    Doubter.Type("Memo", "three").Click("BtnCancel");
+    PressEllipsis("Lines", Doubter);
+    EXPECT_EQ(Bytes().find("three"), std::string::npos);
+}
+
+// A binary form file stays one, and unchanged where nothing was changed.
+TEST_F(Designer, KeepsBinaryFormFiles)
+{
+    TFormDocument Document = ReadForm(Order);
+    Document.Format = TFormFormat::Binary;
+    const std::string Original = WriteForm(Document);
+    const std::string Binary = Folder + "/Binary.dfm";
+    ReplaceWholeFile(Binary, Original);
+    Main->Open(Binary);
+    ASSERT_EQ(Main->Workspace().Designs().size(), 2U);
+    EXPECT_TRUE(Main->Workspace().SaveAll());
+    EXPECT_EQ(ReadWholeFile(Binary), Original);
+    Drag(SpotOf(Control("CkxPaid"), 5, 5), 16, 0);
+    Main->MnuSaveClick(nullptr);
+    const std::string Saved = ReadWholeFile(Binary);
+    EXPECT_EQ(Saved.size(), Original.size());
+    size_t Changed = 0;
+    for (size_t I = 0; I < Saved.size() && I < Original.size(); ++I)
+        Changed += Saved[I] != Original[I];
+    EXPECT_EQ(Changed, 1U);
+    EXPECT_EQ(ReadForm(Saved).Format, TFormFormat::Binary);
+}
+
+// By the window's own button, its menu, or another program.
+TEST_F(Designer, AsksWhenAWindowIsClosed)
+{
+    const auto Close = [&](const char* Answer) {
+        TFormUser User;
+        if (Answer)
+            User.Answer("Save changes to OrderForm.dfm?", Answer);
+        User.Run<bool>([&] {
+            SendMessageA(Design().Surface.WindowHandle(), WM_SYSCOMMAND, SC_CLOSE, 0);
+            Run();
+            return true;
+        });
+    };
+    Model().SelectComponent(Model().GetComponent("Box"));
+    Model().ShiftSelected(8, 0, 0, 0);
+    Close("Cancel");
+    ASSERT_NE(Main->Workspace().Active(), nullptr);
+    EXPECT_TRUE(IsWindowVisible(Design().Surface.WindowHandle()));
+    EXPECT_EQ(ReadWholeFile(File), Order);
+    Close("No");
+    ASSERT_EQ(Main->Workspace().Active(), nullptr);
+    EXPECT_EQ(ReadWholeFile(File), Order);
+    Main->Open(File);
+    Model().SelectComponent(Model().GetComponent("Box"));
+    Model().ShiftSelected(8, 0, 0, 0);
+    Close("Yes");
+    EXPECT_EQ(Main->Workspace().Active(), nullptr);
+    EXPECT_NE(ReadWholeFile(File).find("    Left = 24\r\n"), std::string::npos);
+    Main->Open(File);
+    Close(nullptr); // nothing to ask about
+    EXPECT_EQ(Main->Workspace().Active(), nullptr);
+}
+
+TEST_F(Designer, KeepsFormsAsideAndItsOwnPlace)
+{
+    RECT Window{}, Form{};
+    GetWindowRect(Main->Handle(), &Window);
+    GetWindowRect(Design().Surface.WindowHandle(), &Form);
+    EXPECT_GE(Form.left, Window.right);
+    // The palette shows all buttons of a page at any width.
+    for (const int Width : {560, 300, 1000}) {
+        Main->SetWidth(Width);
+        Run();
+        for (int I = 0; I < Main->PaletteBar->ControlCount(); ++I) {
+            const TRect Place = Main->PaletteBar->Controls(I)->BoundsRect();
+            EXPECT_LE(Place.right, Main->PaletteBar->ClientWidth()) << Width;
+            EXPECT_LE(Place.bottom, Main->PaletteBar->ClientHeight()) << Width;
+        }
+    }
+    Main->SetBounds(30, 20, 640, 500);
+    Main->Close();
+    delete Main;
+    Application->CreateForm(Main);
+    Main->Show();
+    EXPECT_EQ(PlaceOf(*Main), "30,20,640,500");
 }
 
 TEST_F(Designer, AsksBeforeChangesAreLost)

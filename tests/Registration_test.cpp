@@ -13,7 +13,7 @@
 #include "Qlt/Qlt.h"
 #include "RegistryScope.h"
 #include "editors/Editors.h"
-#include "editors/Help.h"
+#include "framework/design/Help.h"
 #include "framework/design/ComponentEditor.h"
 #include "framework/design/Palette.h"
 #include "framework/design/PropertyEditor.h"

@@ -2,8 +2,8 @@ object DesignerForm: TDesignerForm
   Left = 0
   Top = 0
   Caption = 'Orbilex Designer'
-  ClientHeight = 560
-  ClientWidth = 620
+  ClientHeight = 680
+  ClientWidth = 560
   Color = clBtnFace
   Font.Charset = DEFAULT_CHARSET
   Font.Color = clWindowText
@@ -25,15 +25,13 @@ object DesignerForm: TDesignerForm
     Height = 80
     Align = alTop
     TabOrder = 0
-    OnChange = PaletteChange
-    object PaletteBar: TScrollBox
+    object PaletteBar: TPanel
       Left = 4
       Top = 24
       Width = 612
       Height = 52
-      VertScrollBar.Visible = False
       Align = alClient
-      BorderStyle = bsNone
+      BevelOuter = bvNone
       TabOrder = 0
     end
   end
@@ -86,7 +84,6 @@ object DesignerForm: TDesignerForm
       Indent = 19
       ReadOnly = True
       TabOrder = 1
-      OnChange = TreeChange
     end
   end
   object InspectorPanel: TPanel
@@ -193,6 +190,21 @@ object DesignerForm: TDesignerForm
       object MnuEditLine1: TMenuItem
         Caption = '-'
       end
+      object MnuCut: TMenuItem
+        Caption = 'Cu&t'
+        ShortCut = 16472
+        OnClick = MnuCutClick
+      end
+      object MnuCopy: TMenuItem
+        Caption = '&Copy'
+        ShortCut = 16451
+        OnClick = MnuCopyClick
+      end
+      object MnuPaste: TMenuItem
+        Caption = '&Paste'
+        ShortCut = 16470
+        OnClick = MnuPasteClick
+      end
       object MnuDelete: TMenuItem
         Caption = '&Delete'
         OnClick = MnuDeleteClick
@@ -200,6 +212,17 @@ object DesignerForm: TDesignerForm
       object MnuSelectAll: TMenuItem
         Caption = 'Select &all'
         OnClick = MnuSelectAllClick
+      end
+      object MnuEditLine2: TMenuItem
+        Caption = '-'
+      end
+      object MnuToFront: TMenuItem
+        Caption = 'Bring to &front'
+        OnClick = MnuToFrontClick
+      end
+      object MnuToBack: TMenuItem
+        Caption = 'Send to &back'
+        OnClick = MnuToBackClick
       end
     end
     object MnuView: TMenuItem
@@ -225,6 +248,11 @@ object DesignerForm: TDesignerForm
     end
     object MnuHelp: TMenuItem
       Caption = '&Help'
+      object MnuContents: TMenuItem
+        Caption = '&Contents'
+        ShortCut = 112
+        OnClick = MnuContentsClick
+      end
       object MnuAbout: TMenuItem
         Caption = '&About'
         OnClick = MnuAboutClick

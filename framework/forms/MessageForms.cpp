@@ -7,6 +7,7 @@
 
 #include "framework/forms/Application.h"
 #include "framework/forms/ButtonRow.h"
+#include "framework/forms/Clipboard.h"
 #include "framework/forms/DialogUnits.h"
 #include "framework/forms/Images.h"
 #include "framework/forms/Labels.h"
@@ -92,23 +93,6 @@ int TitleWidth(const std::string& Title)
     SetSystemFont(*Canvas.Font(), &NONCLIENTMETRICSA::lfCaptionFont);
     const int CloseButton = 2 * GetSystemMetrics(SM_CXSIZE);
     return std::min(Canvas.TextWidth(Title) + CloseButton, Screen->Width() / 2);
-}
-
-// Puts a text where all programs can take it from.
-void CopyToClipboard(HWND Owner, const std::string& Text)
-{
-    if (!OpenClipboard(Owner))
-        return;
-    EmptyClipboard();
-    const std::u16string Wide = Utf8ToUtf16(Text);
-    const size_t Size = (Wide.size() + 1) * sizeof(char16_t);
-    if (const HGLOBAL Block = GlobalAlloc(GMEM_MOVEABLE, Size)) {
-        std::copy_n(reinterpret_cast<const char*>(Wide.c_str()), Size, static_cast<char*>(GlobalLock(Block)));
-        GlobalUnlock(Block);
-        if (!SetClipboardData(CF_UNICODETEXT, Block))
-            GlobalFree(Block);
-    }
-    CloseClipboard();
 }
 
 } // namespace
@@ -251,7 +235,7 @@ std::string TMessageForm::FormText() const
 void TMessageForm::KeyDown(uint16_t& Key, TShiftState Shift)
 {
     if (Key == 'C' && Shift == TShiftState{ssCtrl})
-        CopyToClipboard(Handle(), FormText());
+        SetClipboardText(Handle(), FormText());
     inherited::KeyDown(Key, Shift);
 }
 

@@ -1,4 +1,4 @@
-#include "editors/Help.h"
+#include "framework/design/Help.h"
 
 #include "framework/forms/Application.h"
 #include "framework/rtl/RtlConsts.h"
