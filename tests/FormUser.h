@@ -1,7 +1,7 @@
 // Somebody who uses a modal form with mouse and keyboard: a row of steps, one after
 // the other, while the form runs. A step acts on the form that is active then, also
 // on a question or an input form that has come up, or on a dialog of the system.
-// While the hourglass is shown the user waits.
+// While the pointer asks for patience the user waits.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -258,10 +258,12 @@ private:
         return Form && Form->HandleAllocated() && GetActiveWindow() == const_cast<TForm*>(Form)->Handle();
     }
 
+    static bool IsBusy() { return Screen->Cursor() == crHourGlass || Screen->Cursor() == crAppStart; }
+
     void Take()
     {
         MSG Waiting{};
-        if (FTaking || Screen->Cursor() == crHourGlass ||
+        if (FTaking || IsBusy() ||
             PeekMessageA(&Waiting, nullptr, WM_KEYFIRST, WM_MOUSELAST, PM_NOREMOVE))
             return;
         const HWND Active = GetActiveWindow();

@@ -20,8 +20,10 @@
 #include "framework/rtl/Texts.h"
 #include "framework/streaming/FormFile.h"
 #include "framework/streaming/LoadedForm.h"
+#include "tests/BareDemo.h"
 #include "tests/Folder.h"
 #include "tests/FormatVarsScope.h"
+#include "wizard/DialogTexts.h"
 #include "wizard/Dictionaries.h"
 #include "wizard/Globalizer.h"
 #include "wizard/TranslatableForm.h"
@@ -228,6 +230,46 @@ TEST_F(Globalizer, KeepsTranslationsAndAddsTextsAndLanguages)
     }
 }
 
+// The texts of dialogs are those that the dialogs themselves were found to have.
+TEST_F(Globalizer, DialogsCanBeTranslatedWithoutBeingShown)
+{
+    const std::string Recorded = ReadWholeFile(TEST_DATA "/dialog-lines.txt");
+    for (const char* const Class : {"TOpenDialog", "TSaveDialog", "TFontDialog", "TColorDialog",
+                                    "TFindDialog", "TReplaceDialog", "TPrintDialog", "TPrinterSetupDialog"}) {
+        const size_t Start = Recorded.find(std::string("[") + Class + "]\n");
+        const std::string Section = Recorded.substr(Start, Recorded.find("\n[", Start) - Start) + "\n";
+        EXPECT_GE(DialogTexts(Class).size(), 8u);
+        for (const auto& [Key, Text] : DialogTexts(Class)) {
+            const std::string Line = Key.substr(Key.find('.') + 1) + "=" + Text;
+            EXPECT_NE(Section.find("\n" + Line + "\n"), std::string::npos) << Line;
+        }
+    }
+    for (const char* const File : {"", "editor.lng"}) {
+        SCOPED_TRACE(File);
+        WriteEditor();
+        std::string Main = MainDfm;
+        Main.insert(Main.rfind("end"), "  object DlgFind: TFindDialog\r\n  end\r\n");
+        FFolder.Write("MainForm.dfm", Main);
+        TGlobalizeChoices Choices = ChoicesOf({Swedish});
+        Choices.TranslationsFile = File;
+        Globalize(Choices);
+        WriteChanges(PlanExport(Scan(), {}));
+        const std::string Pairs = FFolder.Read("editor.1053.txt");
+        EXPECT_NE(Pairs.find("Files of &type:\t\r\n"), std::string::npos);
+        EXPECT_EQ(Pairs.find("\nOpen\t"), std::string::npos) << "a title that the program has set itself";
+        FFolder.Write("editor.1053.txt", "&Open\t\xC3\x96&ppna\r\n");
+        WriteChanges(PlanImport(Scan(), {{FFolder.Name("editor.1053.txt"), Swedish}}));
+        EXPECT_TRUE(PlanGlobalization(Scan(), Choices).ToWrite().empty());
+        // On each form with dialogs, for only one of the translators is used at a time.
+        const std::string Stored = FFolder.Read(*File ? File : "MainForm.dfm");
+        EXPECT_NE(Stored.find(*File ? "#0MainForm.TOpenDialog.Caption[1]%1053='\xC3\x96&ppna'"
+                                    : "'TOpenDialog.Caption[1]='#39#214'&ppna'#39"),
+                  std::string::npos)
+            << Stored;
+        std::filesystem::remove(FFolder.Name("editor.1053.txt"));
+    }
+}
+
 // In a running application the selector shows the languages and switches them.
 TEST_F(Globalizer, TheApplicationSpeaksTheLanguages)
 {
@@ -393,15 +435,7 @@ void CheckProject(const TTestFolder& Folder, const TGlobalizeChoices& Choices, i
 
 TEST_F(Globalizer, TheDemoFromItsBareForms)
 {
-    for (const auto& Entry : std::filesystem::directory_iterator(DEMO_FORMS)) {
-        const std::u8string Name = Entry.path().filename().u8string();
-        const std::u8string Full = Entry.path().generic_u8string();
-        TFormDocument Document = ReadFormFile({Full.begin(), Full.end()});
-        std::erase_if(Document.Root.Children(),
-                      [](const TFormObject& Child) { return IsTranslatorClass(Child.ClassName()); });
-        FFolder.Write({Name.begin(), Name.end()}, WriteForm(Document));
-    }
-    FFolder.Write("DemoTexts.inc", ReadWholeFile(DEMO_FORMS "/../DemoTexts.inc"));
+    WriteBareDemo(FFolder);
     for (const char* const File : {"", "demo.lng"}) {
         TGlobalizeChoices Choices = ChoicesOf(FourLanguages);
         Choices.MainForm = "MainForm";

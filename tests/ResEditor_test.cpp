@@ -33,6 +33,7 @@ std::multiset<std::string> TextsOfProgram()
 #include "editors/EditorTexts.inc"
 #include "framework/rtl/RtlConsts.inc"
 #include "strings/ModuleTexts.inc"
+#include "wizard/WizardTexts.inc"
 #undef ORBILEX_TEXT
     };
     for (const std::string& Each : std::multiset<std::string>(Result))

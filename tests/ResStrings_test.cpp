@@ -137,6 +137,7 @@ TEST(Modules, TheProgramIsFoundWithAllItsTexts)
 #include "editors/EditorTexts.inc"
 #include "framework/rtl/RtlConsts.inc"
 #include "strings/TestTexts.inc"
+#include "wizard/WizardTexts.inc"
 #undef ORBILEX_TEXT
     };
     ASSERT_FALSE(LibModuleList->Next) << "nothing else is registered";

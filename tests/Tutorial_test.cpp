@@ -56,51 +56,67 @@ const TTexts German = {"Gästebuch",     "Ins Gästebuch eintragen",
                        "&Sprache",      "&Name:",
                        "Abbrechen",     "Bitte sagen Sie uns Ihren Namen."};
 
+const char* PicturesFolder()
+{
+    return std::getenv("TUTORIAL_PICTURES");
+}
+
+void TakePicture(HWND Window, const std::string& Name)
+{
+    if (PicturesFolder()) {
+        EXPECT_TRUE(SaveWindowPicture(Window, PicturesFolder() + ("/" + Name) + ".png")) << Name;
+    }
+}
+
+TFormUser::TAct Picture(const std::string& Name)
+{
+    return [Name](TForm& Form) { TakePicture(Form.Handle(), Name); };
+}
+
 class Tutorial : public testing::Test {
 protected:
     Tutorial()
     {
-        for (const auto& Each : std::filesystem::recursive_directory_iterator(GUESTBOOK))
-            if (Each.is_regular_file())
-                Folder.Write(Each.path().lexically_relative(GUESTBOOK).generic_string(),
-                             ReadWholeFile(Each.path().string()));
+        std::filesystem::remove_all(Project);
+        std::filesystem::copy(GUESTBOOK, Project, std::filesystem::copy_options::recursive);
     }
 
-    void TakePicture(HWND Window, const std::string& Name) const
-    {
-        if (const char* const Pictures = std::getenv("TUTORIAL_PICTURES")) {
-            EXPECT_TRUE(SaveWindowPicture(Window, std::string(Pictures) + "/" + Name + ".png")) << Name;
-        }
-    }
-    TFormUser::TAct Picture(const std::string& Name) const
-    {
-        return [this, Name](TForm& Form) { TakePicture(Form.Handle(), Name); };
-    }
-
-    // The guest book with the forms that are in the folder; with the package when they
+    // The guest book with the forms that are in the project; with the package when they
     // are translated.
     void RunGuestbook(bool WithPackage, const std::function<void()>& Act);
 
-    void OpenProject(TDesignerUser& Designer);
-    void ChooseLanguages(TDesignerUser& Designer);
-    void TranslateMainForm(TDesignerUser& Designer);
-    void TranslateSignForm(TDesignerUser& Designer);
-    void TranslateMessages(TDesignerUser& Designer);
+    void OpenProject();
+    void TranslateMainForm();
+    void TranslateSignForm();
+    void TranslateMessages();
+    void AddLanguageMenu();
+    void TranslateByDictionary(TFormUser& User, const std::string& What) const
+    {
+        User.Page("Dictionary").Click("BtnTranslate");
+        User.ChooseFile("Translate " + What + " using the selected dictionary", Project + "/german.txt");
+        User.Page("Translations");
+    }
 
     const TRegistryScope Registry;
     const TTestFolder Folder;
+    // Its name is to be seen in pictures.
+    const std::string Project =
+        PicturesFolder() ? testing::TempDir() + "guestbook" : Folder.Name("guestbook");
     std::map<std::string, std::string> Forms; // that the program has read
+    TDesignerUser* Designer = nullptr;
 };
 
 void Tutorial::RunGuestbook(bool WithPackage, const std::function<void()>& Act)
 {
+    // Makes its texts known.
+    ASSERT_NE(LoadLibraryExA("guestbook_parts", nullptr, 0), nullptr);
     const TApplicationScope Scope;
     TPackages Packages;
     if (WithPackage)
         Packages.Load("Obxc3");
     RegisterStandardClasses();
     for (const std::string Name : {"MainForm", "SignForm"}) {
-        Forms[Name] = Folder.Read("forms/" + Name + ".dfm");
+        Forms[Name] = ReadWholeFile(Project + "/forms/" + Name + ".dfm");
         RegisterFormResource("T" + Name, Forms[Name]);
     }
     Application->CreateForm(MainForm);
@@ -110,75 +126,86 @@ void Tutorial::RunGuestbook(bool WithPackage, const std::function<void()>& Act)
     Act();
 }
 
-void Tutorial::OpenProject(TDesignerUser& Designer)
+void Tutorial::OpenProject()
 {
-    Designer.Main->SetHeight(460);
-    Designer.Main->Open(Folder.Name("guestbook.obp"));
-    Designer.OpenForm("forms/MainForm.dfm");
-    TakePicture(Designer.Main->Handle(), "02-project");
+    Designer->Main->SetHeight(460);
+    Designer->Main->Open(Project + "/guestbook.obp");
+    Designer->OpenForm("forms/MainForm.dfm");
+    TakePicture(Designer->Main->Handle(), "02-project");
 }
 
-void Tutorial::ChooseLanguages(TDesignerUser& Designer)
+void Tutorial::TranslateMainForm()
 {
-    Designer.Place("LocaleTranslator", 216, 8);
+    Designer->Place("FormTranslator", 184, 0);
+    Designer->Enter("Locale", "1031");
+    TakePicture(Designer->Main->Handle(), "03-translator");
     TFormUser User;
-    User.Page("Locales").Do([](TForm& Editor) {
-        // The list begins with the user's locale, which is another one in each country.
-        auto& Chosen = PartOf<TListBox>(Editor, "LangListInApp");
-        if (Chosen.Items()->IndexOf("English, United States") < 0)
-            ADD_FAILURE() << "run with an American locale";
-    });
-    User.Choose("LangList", "German, Germany").Click("BtnCopyLang");
-    User.Choose("LangListInApp", "English, United States").Click("BtnSetStartup");
-    User.Do(Picture("03-languages")).Click("BtnOK");
-    Designer.ChooseFirstVerb(User);
-    Designer.Enter("ListFormat", "%2:s");
-    Designer.Enter("AdoptOn", "MnuLanguage");
-}
-
-void Tutorial::TranslateMainForm(TDesignerUser& Designer)
-{
-    Designer.Place("FormTranslator", 296, 8);
-    Designer.Enter("Locale", "1031");
-    TakePicture(Designer.Main->Handle(), "04-translator");
-    TFormUser User;
-    User.Page("Form").Click("BtnSelect").Do(Picture("05-texts")).Click("BtnIncludeProp");
+    User.Page("Form").Click("BtnSelect").Do(Picture("04-texts")).Click("BtnIncludeProp");
     User.Page("Translations").Choose("PropList", "Caption").Type("EdtTranslation", "Gästebuch");
-    User.Choose("PropList", "BtnRemove.Caption").Type("EdtTranslation", "E&ntfernen");
-    User.Page("Dictionary").Click("BtnTranslate");
-    User.ChooseFile("Translate properties using the selected dictionary", Folder.Name("german.txt"));
-    User.Page("Translations").Do(Picture("06-translated")).Click("BtnOK");
-    Designer.ChooseFirstVerb(User);
+    TranslateByDictionary(User, "properties");
+    User.Choose("PropList", "BtnSign.Caption").Do(Picture("05-translated")).Click("BtnOK");
+    Designer->ChooseFirstVerb(User);
 }
 
-void Tutorial::TranslateSignForm(TDesignerUser& Designer)
+void Tutorial::TranslateSignForm()
 {
-    Designer.OpenForm("forms/SignForm.dfm");
-    Designer.Place("FormTranslator", 16, 168);
-    Designer.Enter("Locale", "1031");
-    TakePicture(Designer.Surface(), "07-second-form");
+    Designer->OpenForm("forms/SignForm.dfm");
+    Designer->Place("FormTranslator", 32, 168);
+    Designer->Enter("Locale", "1031");
+    TakePicture(Designer->Surface(), "06-second-form");
     TFormUser User;
-    User.Page("Form").Click("BtnSelect").Click("BtnIncludeProp").Page("Dictionary").Click("BtnTranslate");
-    User.ChooseFile("Translate properties using the selected dictionary", Folder.Name("german.txt"));
-    User.Page("Translations").Click("BtnOK");
-    Designer.ChooseFirstVerb(User);
+    User.Page("Form").Click("BtnSelect").Click("BtnIncludeProp");
+    TranslateByDictionary(User, "properties");
+    User.Click("BtnOK");
+    Designer->ChooseFirstVerb(User);
 }
 
-void Tutorial::TranslateMessages(TDesignerUser& Designer)
+void Tutorial::TranslateMessages()
 {
-    Designer.OpenForm("forms/MainForm.dfm");
-    Designer.Place("ResourceTranslator", 232, 216);
-    Designer.Enter("Locale", "1031");
+    Designer->OpenForm("forms/MainForm.dfm");
+    Designer->Place("ResourceTranslator", 248, 216);
+    Designer->Enter("Locale", "1031");
     TFormUser User;
     for (const char* const Text : {"Thank you, %s! You signed on %s.", "Please tell us your name.",
                                    "A guest book. It holds what visitors have to say."})
         User.Click("BtnNew").Enter("Add library resource string", "Please provide the original string", Text);
-    User.Page("Dictionary").Click("BtnTranslate");
-    User.ChooseFile("Translate strings using the selected dictionary", Folder.Name("german.txt"));
-    User.Page("Translations").Choose("PropList", "Please tell us your name.");
-    User.Do(Picture("08-messages")).Click("BtnOK");
-    Designer.ChooseFirstVerb(User);
-    TakePicture(Designer.Surface(), "09-save");
+    TranslateByDictionary(User, "strings");
+    User.Choose("PropList", "Please tell us your name.").Do(Picture("07-messages")).Click("BtnOK");
+    Designer->ChooseFirstVerb(User);
+}
+
+void Tutorial::AddLanguageMenu()
+{
+    Designer->Place("LocaleTranslator", 280, 0);
+    TFormUser User;
+    // The list begins with the user's own locale.
+    User.Page("Locales").Do([](TForm& Editor) {
+        const TStrings& Chosen = *PartOf<TListBox>(Editor, "LangListInApp").Items();
+        ASSERT_GE(Chosen.IndexOf("English, United States"), 0) << "run as an American";
+    });
+    User.Choose("LangList", "German, Germany").Click("BtnCopyLang");
+    User.Choose("LangListInApp", "English, United States").Click("BtnSetStartup");
+    User.Do(Picture("08-languages")).Click("BtnOK");
+    Designer->ChooseFirstVerb(User);
+    Designer->Enter("ListFormat", "%2:s");
+    Designer->Enter("AdoptOn", "MnuLanguage");
+    TakePicture(Designer->Surface(), "09-complete");
+}
+
+// The lines that saving has added to a form.
+TTexts AddedLines(const std::string& File, const std::string& Original)
+{
+    std::istringstream New(ReadWholeFile(File)), Old(ReadWholeFile(Original));
+    TTexts Result;
+    std::string Wanted;
+    std::getline(Old, Wanted);
+    for (std::string Line; std::getline(New, Line);)
+        if (Line == Wanted)
+            std::getline(Old, Wanted);
+        else
+            Result.push_back(Line);
+    EXPECT_TRUE(Old.eof()) << "a line is missing: " << Wanted;
+    return Result;
 }
 
 TEST_F(Tutorial, LeadsToAProgramInTwoLanguages)
@@ -189,13 +216,14 @@ TEST_F(Tutorial, LeadsToAProgramInTwoLanguages)
     });
     {
         const TApplicationScope Scope;
-        TDesignerUser Designer;
-        OpenProject(Designer);
-        ChooseLanguages(Designer);
-        TranslateMainForm(Designer);
-        TranslateSignForm(Designer);
-        TranslateMessages(Designer);
-        EXPECT_TRUE(Designer.Main->Workspace().SaveAll());
+        TDesignerUser User;
+        Designer = &User;
+        OpenProject();
+        TranslateMainForm();
+        TranslateSignForm();
+        TranslateMessages();
+        AddLanguageMenu();
+        EXPECT_TRUE(User.Main->Workspace().SaveAll());
     }
     RunGuestbook(true, [&] {
         EXPECT_EQ(ShownTexts(), English);
@@ -209,6 +237,10 @@ TEST_F(Tutorial, LeadsToAProgramInTwoLanguages)
         Languages.Items(1)->Click();
         EXPECT_EQ(ShownTexts(), English);
     });
+    for (const std::string Form : {"MainForm", "SignForm"})
+        for (const std::string& Line : AddedLines(Project + "/forms/" + Form + ".dfm",
+                                                  std::string(GUESTBOOK) + "/forms/" + Form + ".dfm"))
+            std::cout << Line << "\n";
 }
 
 } // namespace

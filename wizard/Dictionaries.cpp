@@ -5,6 +5,7 @@
 #include <functional>
 #include <set>
 
+#include "WizardTexts.h"
 #include "core/DictionaryFile.h"
 #include "core/DictionaryText.h"
 #include "core/KeyLines.h"
@@ -105,8 +106,7 @@ std::vector<TPlacedTranslator> TranslatorsOf(TProjectEdit& Edit, int Locale)
             if (Each.Locale == Locale)
                 Result.push_back(Each);
     if (Result.empty())
-        throw EInvalidOperation("The project has no translators of locale " + IntToStr(Locale) +
-                                ": globalize it first");
+        throw EInvalidOperation(Format(SNoTranslatorsOf, {Locale}));
     return Result;
 }
 
@@ -171,7 +171,7 @@ TProjectChanges PlanExport(TProjectScan Scan, const std::vector<int>& Locales, c
 {
     const std::vector<int> Wanted = Locales.empty() ? Scan.Locales() : Locales;
     if (Wanted.empty())
-        throw EInvalidOperation("The project has no translators: globalize it first");
+        throw EInvalidOperation(SNoTranslators);
     TProjectEdit Edit(std::move(Scan));
     TProjectChanges Result;
     Result.ProjectFileName = Edit.Scan().Project.FileName;

@@ -5,10 +5,12 @@
 
 #include "Qlt/LocaleEntries.h"
 #include "Qlt/LocaleValues.h"
+#include "WizardTexts.h"
 #include "core/KeyLines.h"
 #include "core/Literals.h"
 #include "framework/rtl/SysUtils.h"
 #include "framework/streaming/FormNames.h"
+#include "wizard/DialogTexts.h"
 #include "wizard/Languages.h"
 #include "wizard/TranslatorObjects.h"
 
@@ -24,6 +26,7 @@ public:
     TProjectChanges Plan()
     {
         CheckChoices();
+        FDialogTexts = DialogTextsOf(FScan);
         std::vector<bool> Done(FScan.Forms.size());
         for (size_t I = 0; I < FScan.Forms.size(); ++I)
             GlobalizeForm(I, Done);
@@ -42,6 +45,8 @@ private:
     void GlobalizeForm(size_t Index, std::vector<bool>& Done);
     void TranslateForm(TFoundForm& Form);
     void TranslateDialogs(TFoundForm& Form);
+    void FillDialogs(const TPlacedTranslator& Translator);
+    void AddMissing(const TPlacedTranslator& Translator, const TLineMap& Originals);
     void PlaceResourceTranslators();
     void PlaceButtonTranslator();
     void PlaceLocaleTranslator();
@@ -65,6 +70,7 @@ private:
     TProjectScan& FScan;
     const TGlobalizeChoices& FChoices;
     std::vector<int> FLocales;
+    TLineMap FDialogTexts;
     TFoundForm* FMainForm = nullptr;
 };
 
@@ -73,28 +79,27 @@ void TGlobalization::CheckChoices()
     std::set<int> Locales;
     for (const int Locale : FChoices.Locales) {
         if (Locale <= 0)
-            Refuse(IntToStr(Locale) + " is no locale identifier");
+            Refuse(Format(SNoLocaleIdentifier, {Locale}));
         if (Locale != FChoices.OwnLocale && Locales.insert(Locale).second)
             FLocales.push_back(Locale);
     }
     if (FLocales.empty())
-        Refuse("There is no language to carry");
+        Refuse(SNoLanguage);
     if (FScan.Forms.empty())
-        Refuse("The project " + FScan.Project.Name + " has no forms");
+        Refuse(Format(SNoForms, {FScan.Project.Name}));
     const TFoundForm* const Main =
         FChoices.MainForm.empty() ? FScan.MainForm() : FScan.FindForm(FChoices.MainForm);
     if (!Main)
-        Refuse(FChoices.MainForm.empty() ? "The project " + FScan.Project.Name + " has no main form"
-                                         : "There is no form " + FChoices.MainForm + " in the project");
+        Refuse(FChoices.MainForm.empty() ? Format(SNoMainForm, {FScan.Project.Name})
+                                         : Format(SNoSuchForm, {FChoices.MainForm}));
     if (Main->Kind != TFoundKind::Form)
-        Refuse(Main->Name + " cannot be the main form: it is no form");
+        Refuse(Format(SNotAForm, {Main->Name}));
     FMainForm = &FScan.Forms[static_cast<size_t>(Main - FScan.Forms.data())];
     const bool CanSelect =
         std::any_of(Main->Selectors.begin(), Main->Selectors.end(),
                     [&](const std::string& Name) { return SameName(Name, FChoices.Selector); });
     if (!FChoices.Selector.empty() && !CanSelect)
-        Refuse("There is no component " + FChoices.Selector + " on " + Main->Name +
-               " that can be the language selector");
+        Refuse(Format(SNoSuchSelector, {FChoices.Selector, Main->Name}));
 }
 
 // Ancestors first: their descendants have the same translators.
@@ -108,12 +113,12 @@ void TGlobalization::GlobalizeForm(size_t Index, std::vector<bool>& Done)
         GlobalizeForm(static_cast<size_t>(Form.Ancestor), Done);
     std::vector<std::string>& Notes = FEdit.ChangeOf(Form).Notes;
     if (Form.Kind == TFoundKind::Frame) {
-        Notes.push_back("left alone: a locale translator does not switch what is on a frame");
+        Notes.push_back(SFrameLeftAlone);
         return;
     }
     const bool IsEmptyModule = Form.Kind == TFoundKind::DataModule && Form.Texts.empty();
     if (IsEmptyModule && Form.Dialogs.empty())
-        Notes.push_back("a data module without texts needs no form translator");
+        Notes.push_back(SModuleWithoutTexts);
     if (FChoices.Forms && !IsEmptyModule)
         TranslateForm(Form);
     if (FChoices.CommonDialogs && !Form.Dialogs.empty())
@@ -135,15 +140,24 @@ void TGlobalization::TranslateForm(TFoundForm& Form)
 
 void TGlobalization::FillForm(const TPlacedTranslator& Translator)
 {
-    const TTranslatorStorage Storage = FEdit.StorageOf(Translator);
-    TTranslatorLines Lines(Storage);
-    const TLineMap Present = Lines.All();
-    const TLineMap Inherited = InheritedLines(Translator);
-    TLineMap Missing;
     TLineMap Originals;
     for (const std::string& Text : Translator.Form->Texts) {
         const std::string Key(KeyOf(Text));
         Originals[Key] = Text.substr(Key.size() + 1);
+    }
+    AddMissing(Translator, Originals);
+    if (const TTranslatorStorage Storage = FEdit.StorageOf(Translator); Storage.File)
+        TTranslatorLines(Storage).PutOriginals(Originals);
+}
+
+// Lines for the originals that have none yet.
+void TGlobalization::AddMissing(const TPlacedTranslator& Translator, const TLineMap& Originals)
+{
+    TTranslatorLines Lines(FEdit.StorageOf(Translator));
+    const TLineMap Present = Lines.All();
+    const TLineMap Inherited = InheritedLines(Translator);
+    TLineMap Missing;
+    for (const auto& [Key, Original] : Originals) {
         if (Present.contains(Key))
             continue;
         const auto Known = Inherited.find(Key);
@@ -153,8 +167,6 @@ void TGlobalization::FillForm(const TPlacedTranslator& Translator)
     Change.Added += static_cast<int>(Missing.size());
     Change.Kept += static_cast<int>(Originals.size() - Missing.size());
     Lines.Put(Missing);
-    if (Storage.File)
-        Lines.PutOriginals(Originals);
 }
 
 // A descendant's list takes the place of its ancestor's.
@@ -163,7 +175,7 @@ TLineMap TGlobalization::InheritedLines(const TPlacedTranslator& Translator)
     if (Translator.Form->Ancestor < 0)
         return {};
     TFoundForm& Ancestor = FScan.Forms[static_cast<size_t>(Translator.Form->Ancestor)];
-    for (const TPlacedTranslator& Each : FEdit.Translators(Ancestor, FormTranslatorClass))
+    for (const TPlacedTranslator& Each : FEdit.Translators(Ancestor, Translator.Object().ClassName()))
         if (Each.Locale == Translator.Locale)
             return TTranslatorLines(FEdit.StorageOf(Each)).All();
     return {};
@@ -178,9 +190,24 @@ void TGlobalization::TranslateDialogs(TFoundForm& Form)
             PlaceForLanguage(Form, DialogTranslatorClass, "DialogTranslator", Locale);
             IsNew = true;
         }
-    if (IsNew)
-        FEdit.ChangeOf(Form).Notes.push_back("the texts of the dialogs come from the system: see them in the "
-                                             "editor of the dialog translators");
+    for (const TPlacedTranslator& Each : FEdit.Translators(Form, DialogTranslatorClass))
+        if (std::find(FLocales.begin(), FLocales.end(), Each.Locale) != FLocales.end())
+            FillDialogs(Each);
+    const bool IsKnown = std::none_of(Form.Dialogs.begin(), Form.Dialogs.end(),
+                                      [](const std::string& Dialog) { return DialogTexts(Dialog).empty(); });
+    if (IsNew && !IsKnown)
+        FEdit.ChangeOf(Form).Notes.push_back(SDialogTexts);
+}
+
+// What the system's own dialogs were found to say stays.
+void TGlobalization::FillDialogs(const TPlacedTranslator& Translator)
+{
+    TLineMap Originals = FDialogTexts;
+    AddMissing(Translator, Originals);
+    TTranslatorLines Lines(FEdit.StorageOf(Translator));
+    for (const auto& Known : Lines.Originals())
+        Originals.erase(Known.first);
+    Lines.PutOriginals(Originals);
 }
 
 void TGlobalization::PlaceResourceTranslators()
@@ -220,9 +247,7 @@ void TGlobalization::PlaceButtonTranslator()
         FLocales.size() == 1 && ButtonLanguage(FLocales.front()) != lnUser ? FLocales.front() : 0;
     PlaceNew(*FMainForm, ButtonTranslatorObject(Only), {"ButtonTranslator"});
     if (Only == 0)
-        FEdit.ChangeOf(*FMainForm)
-            .Notes.push_back("set the Language of the button translator when the locale changes "
-                             "(OnTranslated of the locale translator)");
+        FEdit.ChangeOf(*FMainForm).Notes.push_back(SButtonLanguage);
 }
 
 void TGlobalization::PlaceLocaleTranslator()
@@ -253,7 +278,8 @@ void TGlobalization::FillLocales(const TPlacedTranslator& Translator)
             continue;
         for (const std::string& Entry : LocaleTranslatorEntries(Locale))
             Missing[std::string(KeyOf(Entry))] = ValueOf(Entry);
-        FEdit.ChangeOf(*Translator.Form).Notes.push_back("offers " + LanguageAndCountry(Locale));
+        FEdit.ChangeOf(*Translator.Form)
+            .Notes.push_back(Format(SLocaleOffered, {LanguageAndCountry(Locale)}));
     }
     Lines.Put(Missing);
 }

@@ -90,12 +90,12 @@ object MainForm: TMainForm
     object MnuFile: TMenuItem
       Caption = '&File'
       object ItemSign: TMenuItem
-        Caption = '&Sign the book...'
+        Caption = '&New entry...'
         ShortCut = 16462
         OnClick = ItemSignClick
       end
       object ItemRemove: TMenuItem
-        Caption = '&Remove'
+        Caption = '&Remove guest'
         OnClick = ItemRemoveClick
       end
       object ItemLine: TMenuItem
