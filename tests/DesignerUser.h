@@ -82,6 +82,7 @@ public:
         TInspector& Inspector = *Main->Inspector();
         const int Row = Inspector.RowOf(Property);
         ASSERT_GE(Row, 0) << Property;
+        Inspector.SetRow(Row);
         Inspector.Enter(Row, Value);
         EXPECT_EQ(Inspector.ValueAt(Row), Value) << Property;
     }

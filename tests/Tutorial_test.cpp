@@ -57,6 +57,11 @@ const TTexts German = {"Gästebuch",     "Ins Gästebuch eintragen",
                        "&Sprache",      "&Name:",
                        "Abbrechen",     "Bitte sagen Sie uns Ihren Namen."};
 
+std::filesystem::path PathOf(const std::string& Name)
+{
+    return std::u8string(Name.begin(), Name.end());
+}
+
 const char* PicturesFolder()
 {
     return std::getenv("TUTORIAL_PICTURES");
@@ -78,8 +83,8 @@ class Tutorial : public testing::Test {
 protected:
     Tutorial()
     {
-        std::filesystem::remove_all(Project);
-        std::filesystem::copy(GUESTBOOK, Project, std::filesystem::copy_options::recursive);
+        std::filesystem::remove_all(PathOf(Project));
+        std::filesystem::copy(GUESTBOOK, PathOf(Project), std::filesystem::copy_options::recursive);
     }
 
     // The guest book with the forms that are in the project; with the package when they
@@ -94,13 +99,15 @@ protected:
     void TranslateByDictionary(TFormUser& User, const std::string& What) const
     {
         User.Page("Dictionary").Click("BtnTranslate");
-        User.ChooseFile("Translate " + What + " using the selected dictionary", Project + "/german.txt");
+        // Dialogs of the system insist on their own separator.
+        const std::u8string File = PathOf(Project + "/german.txt").make_preferred().u8string();
+        User.ChooseFile("Translate " + What + " using the selected dictionary", {File.begin(), File.end()});
         User.Page("Translations");
     }
 
     const TRegistryScope Registry;
     const TTestFolder Folder;
-    // Its name is to be seen in pictures.
+    // Pictures show its name.
     const std::string Project =
         PicturesFolder() ? testing::TempDir() + "guestbook" : Folder.Name("guestbook");
     std::map<std::string, std::string> Forms; // that the program has read
