@@ -351,6 +351,7 @@ void TDesignerForm::ShowExperts()
 void TDesignerForm::ExpertClick(TObject* Sender)
 {
     Try([&] { LibraryExperts()[static_cast<size_t>(static_cast<TMenuItem*>(Sender)->Tag())]->Execute(); });
+    Try([&] { FWorkspace.Settle(); });
 }
 
 void TDesignerForm::MnuLoadPackageClick(TObject*)

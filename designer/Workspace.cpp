@@ -189,8 +189,15 @@ void TWorkspace::Activate(TDesign* Design)
     Tell(OnActive);
 }
 
+void TWorkspace::Settle()
+{
+    if (FMustReload)
+        ReloadProject();
+}
+
 bool TWorkspace::HandleMessage(const MSG& Message)
 {
+    Settle();
     bool Result = false;
     for (size_t I = 0; I < FDesigns.size() && !Result; ++I) {
         TDesign& Each = *FDesigns[I];
@@ -213,6 +220,10 @@ bool TWorkspace::SaveProject()
 // Forms that are open keep their windows' places only by chance: they are read anew.
 void TWorkspace::ReloadProject()
 {
+    // New windows would take the input from the modal form.
+    FMustReload = Application->ModalLevel() > 0;
+    if (FMustReload)
+        return;
     std::vector<std::string> Open;
     for (const auto& Each : FDesigns)
         Open.push_back(Each->Model->FileName());

@@ -54,7 +54,10 @@ public:
 
     std::string GetProjectName() const override { return FProject.FileName; }
     bool SaveProject() override;
+    // While a modal form is shown the project is read when that is closed.
     void ReloadProject() override;
+    // Reads what is to be read again. HandleMessage does it, too.
+    void Settle();
 
     // What to do with the changes of a form that is to be closed.
     std::function<TAnswer(const TFormModel& Model)> OnAsk;
@@ -74,6 +77,7 @@ private:
 
     TProject FProject;
     std::vector<std::unique_ptr<TDesign>> FDesigns;
+    bool FMustReload = false;
     TDesign* FActive = nullptr;
     TDesign* FClosing = nullptr; // when the message at hand is done with
 };

@@ -6,6 +6,7 @@
 #include "Obxc3/Obxc3.h"
 #include "editors/Editors.h"
 #include "editors/Registration.h"
+#include "wizard/Obx.h"
 #include "wizard/Wizard.h"
 
 extern "C" {
@@ -30,10 +31,12 @@ void Register()
 {
     Started.emplace();
     RegisterTranslators();
+    Obx::Register();
 }
 
 void Unregister()
 {
+    Obx::Unregister();
     UnregisterTranslators();
     Started.reset();
 }

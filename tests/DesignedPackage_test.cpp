@@ -6,6 +6,7 @@
 
 #include "framework/design/Experts.h"
 #include "framework/design/Palette.h"
+#include "framework/forms/ListBoxes.h"
 #include "framework/rtl/FileNames.h"
 #include "platform/Picture.h"
 #include "tests/DesignerUser.h"
@@ -131,6 +132,32 @@ TEST_F(DesignedPackage, TranslatesAFormOfTheDemo)
     const std::string Output = OutputOf(ExtractFilePath(Program) + "demo" + ExtractFileExt(Program) +
                                         " --forms " + Plain + " --tour --out " + Pictures + "tour");
     EXPECT_NE(Output.find("Caption: 'About Booking Desk' -> 'Om programmet'"), std::string::npos) << Output;
+}
+
+// The expert's entry in the menu globalizes the open project, whose forms are then shown
+// as they have become.
+TEST_F(DesignedPackage, GlobalizesTheOpenProject)
+{
+    Folder.Write("MainForm.dfm", "object MainForm: TMainForm\r\n  Caption = 'Editor'\r\nend\r\n");
+    Designer.Main->Open(Folder.Write("editor.obp", "[Project]\nName=Editor\n[Forms]\nMainForm.dfm\n"));
+    Designer.Main->Open(Folder.Name("MainForm.dfm"));
+    TFormUser User;
+    User.See("PnlProjectName", Designer.Main->Workspace().GetProjectName()).Click("BtnNext").Click("BtnNext");
+    User.Do([](TForm& Form) {
+        auto& List = PartOf<TCheckListBox>(Form, "LstLocales");
+        List.SetFocus();
+        List.SetItemIndex(List.Items()->IndexOf("Swedish, Sweden"));
+    });
+    User.Keys(" ").Click("BtnNext").Do([this](TForm& Wizard) { TakePicture(Wizard.Handle(), "5-wizard"); });
+    User.Click("BtnFinish");
+    User.Run<bool>([&] {
+        Designer.Main->MnuTools->Items(Designer.Main->MnuTools->Count() - 1)->Click();
+        return true;
+    });
+    EXPECT_NE(Designer.Model().Bytes().find(": TFormTranslator"), std::string::npos)
+        << Designer.Model().Bytes();
+    EXPECT_FALSE(Designer.Model().IsModified());
+    EXPECT_EQ(Folder.Read("MainForm.dfm"), Designer.Model().Bytes());
 }
 
 } // namespace

@@ -263,8 +263,7 @@ private:
     void Take()
     {
         MSG Waiting{};
-        if (FTaking || IsBusy() ||
-            PeekMessageA(&Waiting, nullptr, WM_KEYFIRST, WM_MOUSELAST, PM_NOREMOVE))
+        if (FTaking || IsBusy() || PeekMessageA(&Waiting, nullptr, WM_KEYFIRST, WM_MOUSELAST, PM_NOREMOVE))
             return;
         const HWND Active = GetActiveWindow();
         if (++FTicks > MostTicks) {

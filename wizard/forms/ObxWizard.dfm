@@ -80,7 +80,7 @@ object ObxWizard: TObxWizard
               Height = 30
               Anchors = [akLeft, akTop, akRight]
               AutoSize = False
-              Caption =
+              Caption = 
                 'Places translators on the forms and fills them with the texts fo' +
                 'und. Translations that are there are kept.'
               WordWrap = True
@@ -92,7 +92,7 @@ object ObxWizard: TObxWizard
               Height = 30
               Anchors = [akLeft, akTop, akRight]
               AutoSize = False
-              Caption =
+              Caption = 
                 'Writes a dictionary for each language, to be given to translator' +
                 's.'
               WordWrap = True
@@ -104,7 +104,7 @@ object ObxWizard: TObxWizard
               Height = 30
               Anchors = [akLeft, akTop, akRight]
               AutoSize = False
-              Caption =
+              Caption = 
                 'Takes translations over from the dictionaries that translators h' +
                 'ave returned.'
               WordWrap = True
@@ -363,7 +363,7 @@ object ObxWizard: TObxWizard
           Height = 14
           Anchors = [akLeft, akTop, akRight]
           AutoSize = False
-          Caption =
+          Caption = 
             'These forms and units have texts to translate. Nothing has been ' +
             'changed yet.'
           WordWrap = True
@@ -394,7 +394,7 @@ object ObxWizard: TObxWizard
               item
                 Alignment = taRightJustify
                 Caption = 'Texts'
-                Width = 60
+                Width = 76
               end
               item
                 Caption = 'Dialogs'
@@ -402,7 +402,7 @@ object ObxWizard: TObxWizard
               end
               item
                 Caption = 'File'
-                Width = 170
+                Width = 154
               end>
             HideSelection = False
             ReadOnly = True
@@ -668,7 +668,7 @@ object ObxWizard: TObxWizard
           Height = 30
           Anchors = [akLeft, akTop, akRight]
           AutoSize = False
-          Caption =
+          Caption = 
             'Nothing is changed before all new contents have been written. Ca' +
             'ncel leaves everything as it was.'
           WordWrap = True
