@@ -257,15 +257,16 @@ void TInspector::DrawCell(int ACol, int ARow, const TRect& Area, TGridDrawState)
 
 void TInspector::MouseDown(TMouseButton Button, TShiftState Shift, int X, int Y)
 {
+    // Now, while the chosen row is still the one that the value was typed in.
+    Commit();
     int Column = 0, Line = 0;
     const bool OnSign =
         MouseToCell(X, Y, Column, Line) && Column == 0 && Line < Rows() &&
         (Shift.Contains(ssDouble) || X < (FRows[static_cast<size_t>(Line)].Level + 1) * StepIn + 3);
     TDrawGrid::MouseDown(Button, Shift, X, Y);
+    EditRow(Row());
     if (OnSign)
         Expand(Line);
-    else
-        MoveTo(Row());
 }
 
 void TInspector::KeyDown(uint16_t& Key, TShiftState Shift)
@@ -299,6 +300,11 @@ void TInspector::Scrolled(TObject*)
 void TInspector::MoveTo(int Row)
 {
     Commit();
+    EditRow(Row);
+}
+
+void TInspector::EditRow(int Row)
+{
     if (Row < 0 || Row >= Rows())
         return;
     FShowing = true;

@@ -69,6 +69,8 @@ private:
     // Runs what may change everything, and shows the outcome.
     void Guard(const std::function<void()>& Act);
     void MoveTo(int Row);
+    // Chooses the row, and shows its value for editing.
+    void EditRow(int Row);
     void EditKeyDown(TObject* Sender, uint16_t& Key, TShiftState Shift);
     void EditExit(TObject* Sender);
     void EditDblClick(TObject* Sender);

@@ -306,22 +306,37 @@ TEST_F(Designer, EditsPropertiesAndEvents)
     EXPECT_EQ(Control("CkxSettled").Width(), 120);
 }
 
-// Values are typed into the cell that was clicked, and Enter takes them.
+// Values are typed into the cell that was clicked. Enter takes them, and so does a click
+// on another row, whose own value stays.
 TEST_F(Designer, EditsInPlace)
 {
     Click(Control("Box"), 5, 5);
     TInspector& Inspector = *Main->Inspector();
+    std::string Error;
+    Inspector.OnError = [&](const std::string& Text) { Error = Text; };
+    const auto ClickRow = [&](int Row) {
+        const TRect Cell = Inspector.CellRect(1, Row);
+        Post(WM_LBUTTONDOWN, {Inspector.Handle(), {Cell.left + 5, Cell.top + 5}}, MK_LBUTTON);
+        Post(WM_LBUTTONUP, {Inspector.Handle(), {Cell.left + 5, Cell.top + 5}});
+    };
     const int Row = Inspector.RowOf("Caption");
     Inspector.SetRow(Row);
-    const TRect Cell = Inspector.CellRect(1, Row);
-    Post(WM_LBUTTONDOWN, {Inspector.Handle(), {Cell.left + 5, Cell.top + 5}}, MK_LBUTTON);
-    Post(WM_LBUTTONUP, {Inspector.Handle(), {Cell.left + 5, Cell.top + 5}});
+    ClickRow(Row);
     ASSERT_TRUE(Inspector.Editor()->Visible());
     Inspector.Editor()->SetText("Crates");
     PostMessageA(Inspector.Editor()->Handle(), WM_KEYDOWN, VK_RETURN, 1);
     Run();
     EXPECT_EQ(Control("Box").Text(), "Crates");
     EXPECT_NE(Bytes().find("Caption = 'Crates'\r\n"), std::string::npos);
+
+    Inspector.Editor()->SetText("Barrels");
+    const std::string Other = Inspector.ValueAt(Row + 1);
+    ClickRow(Row + 1);
+    EXPECT_EQ(Control("Box").Text(), "Barrels");
+    EXPECT_EQ(Inspector.ValueAt(Row + 1), Other);
+    ClickRow(Row);
+    EXPECT_EQ(Control("Box").Text(), "Barrels");
+    EXPECT_EQ(Error, "");
 }
 
 TEST_F(Designer, AsksBeforeChangesAreLost)

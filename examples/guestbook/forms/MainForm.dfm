@@ -1,6 +1,6 @@
 object MainForm: TMainForm
-  Left = 200
-  Top = 140
+  Left = 640
+  Top = 60
   Caption = 'Guest Book'
   ClientHeight = 264
   ClientWidth = 480

@@ -1,6 +1,6 @@
 object SignForm: TSignForm
-  Left = 260
-  Top = 200
+  Left = 640
+  Top = 360
   BorderStyle = bsDialog
   Caption = 'Sign the Guest Book'
   ClientHeight = 212
