@@ -22,6 +22,7 @@ configure_package_config_file(cmake/OrbilexConfig.cmake.in ${CMAKE_BINARY_DIR}/O
 write_basic_package_version_file(${CMAKE_BINARY_DIR}/OrbilexConfigVersion.cmake COMPATIBILITY SameMinorVersion)
 install(FILES ${CMAKE_BINARY_DIR}/OrbilexConfig.cmake ${CMAKE_BINARY_DIR}/OrbilexConfigVersion.cmake
               cmake/Forms.cmake cmake/ResStrings.cmake cmake/ModuleStrings.cpp.in
+              cmake/Program.cmake cmake/program.rc cmake/program.manifest
         DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/Orbilex)
 
 set(Home ${CMAKE_INSTALL_LIBDIR}/orbilex)

@@ -15,16 +15,6 @@ function(orbilex_layer Name)
     target_link_libraries(${Name} PUBLIC orbilex_options)
 endfunction()
 
-# orbilex_program(NAME sources...): a program that, on Windows, carries the
-# manifest which makes UTF-8 the process code page.
-function(orbilex_program Name)
-    add_executable(${Name} ${ARGN})
-    if(WIN32)
-        target_sources(${Name} PRIVATE ${PROJECT_SOURCE_DIR}/platform/windows/program.rc)
-        target_link_options(${Name} PRIVATE -static)
-    endif()
-endfunction()
-
 # orbilex_take_in(TARGET layers...): the shared library holds these layers whole, with
 # their texts, but not what they themselves are built on.
 function(orbilex_take_in Target)

@@ -4,18 +4,13 @@
 #include <array>
 #include <cstdio>
 
-#include "designer/DesignerForm.h"
-#include "designer/Packages.h"
-#include "designer/StandardPages.h"
 #include "framework/design/Experts.h"
 #include "framework/design/Palette.h"
 #include "framework/forms/ListBoxes.h"
-#include "framework/forms/StandardClasses.h"
 #include "framework/rtl/FileNames.h"
-#include "orbilex_designer.h"
 #include "platform/Picture.h"
+#include "tests/DesignerUser.h"
 #include "tests/Folder.h"
-#include "tests/FormUser.h"
 #include "tests/RegistryScope.h"
 
 namespace {
@@ -47,62 +42,6 @@ std::string OutputOf(const std::string& CommandLine)
 
 class DesignedPackage : public testing::Test {
 protected:
-    DesignedPackage()
-    {
-        RegisterStandardClasses();
-        RegisterStandardPages();
-        RegisterOrbilexDesigner();
-        Packages.emplace();
-        Packages->Load("Obxc3");
-        Application->CreateForm(Main);
-        Main->SetPackages(*Packages);
-        Main->Show();
-    }
-
-    static void Run() { Application->ProcessMessages(); }
-    TFormModel& Model() { return *Main->Workspace().Active()->Model; }
-    HWND Surface() { return Main->Workspace().Active()->Surface.WindowHandle(); }
-
-    static void Click(HWND Window, int X, int Y)
-    {
-        PostMessageA(Window, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(X, Y));
-        PostMessageA(Window, WM_LBUTTONUP, 0, MAKELPARAM(X, Y));
-        Run();
-    }
-
-    // Turns the palette to the page and clicks the button of the class.
-    void ChooseOnPalette(const std::string& Page, const std::string& Name)
-    {
-        const int Tab = Main->Palette->Tabs()->IndexOf(Page);
-        ASSERT_GE(Tab, 0) << Page;
-        RECT Place{};
-        SendMessageA(Main->Palette->Handle(), TCM_GETITEMRECT, static_cast<WPARAM>(Tab),
-                     reinterpret_cast<LPARAM>(&Place));
-        Click(Main->Palette->Handle(), (Place.left + Place.right) / 2, (Place.top + Place.bottom) / 2);
-        for (int I = 0; I < Main->PaletteBar->ControlCount(); ++I) {
-            const TControl& Button = *Main->PaletteBar->Controls(I);
-            if (Button.Hint() == Name)
-                return Click(Main->PaletteBar->Handle(), Button.Left() + 5, Button.Top() + 5);
-        }
-        FAIL() << Name << " is not on the palette";
-    }
-
-    // Chooses the first entry of the menu that the right button brings up.
-    void ChooseFirstVerb(TFormUser& User)
-    {
-        const TComponent& Selected = *Model().Selection().front();
-        const POINT Place{Selected.DesignLeft + 5, Selected.DesignTop + 5};
-        const HWND Icon = ChildWindowFromPointEx(Surface(), Place, CWP_SKIPINVISIBLE);
-        User.Run<bool>([&] {
-            for (const UINT Message : {WM_RBUTTONDOWN, WM_RBUTTONUP})
-                PostMessageA(Icon, Message, 0, MAKELPARAM(5, 5));
-            for (const WPARAM Key : {VK_DOWN, VK_RETURN})
-                PostMessageA(Icon, WM_KEYDOWN, Key, 1);
-            Run();
-            return true;
-        });
-    }
-
     static TTexts ClassesOn(const std::string& Page)
     {
         TTexts Result;
@@ -122,8 +61,7 @@ protected:
     const TRegistryScope Registry;
     const TTestFolder Folder;
     const std::string Pictures = testing::TempDir() + "designed-";
-    std::optional<TPackages> Packages;
-    TDesignerForm* Main = nullptr;
+    TDesignerUser Designer;
 };
 
 TEST_F(DesignedPackage, PutsTranslatorsOnThePaletteAndItsExpertIntoTheMenu)
@@ -131,11 +69,12 @@ TEST_F(DesignedPackage, PutsTranslatorsOnThePaletteAndItsExpertIntoTheMenu)
     EXPECT_EQ(ClassesOn("Quillmark"),
               (TTexts{"TButtonTranslator", "TCommonDialogTranslator", "TFormTranslator", "TLocaleTranslator",
                       "TResourceTranslator"}));
-    EXPECT_EQ(Main->MnuTools->Items(Main->MnuTools->Count() - 1)->Caption(), "Orbilex Expert");
+    EXPECT_EQ(Designer.Main->MnuTools->Items(Designer.Main->MnuTools->Count() - 1)->Caption(),
+              "Orbilex Expert");
     // Loaded again it is the same; unregistered it leaves nothing.
-    Packages->Load("Obxc3");
+    Designer.Packages->Load("Obxc3");
     EXPECT_EQ(LibraryExperts().size(), 1U);
-    Packages.reset();
+    Designer.Packages.reset();
     EXPECT_TRUE(LibraryExperts().empty());
     EXPECT_TRUE(ClassesOn("Quillmark").empty());
     EXPECT_EQ(GetClass("TFormTranslator"), nullptr);
@@ -146,7 +85,7 @@ TEST_F(DesignedPackage, TellsWhatIsNoPackage)
     const std::string Text = Folder.Write("text.so", "no module");
     for (const std::string& Name : {Text, Folder.Name("absent"), std::string("no-such-package")})
         try {
-            Packages->Load(Name);
+            Designer.Packages->Load(Name);
             ADD_FAILURE() << Name;
         } catch (const EPackageError& Error) {
             EXPECT_NE(Error.Message().find(Name), std::string::npos) << Error.Message();
@@ -158,23 +97,16 @@ TEST_F(DesignedPackage, TellsWhatIsNoPackage)
 TEST_F(DesignedPackage, TranslatesAFormOfTheDemo)
 {
     CopyDemo(Folder);
-    Main->Open(Folder.Name());
-    const TTexts Forms = LinesOf(*Main->ProjectList->Items());
-    const auto About = std::find(Forms.begin(), Forms.end(), "AboutForm.dfm");
-    ASSERT_NE(About, Forms.end());
-    Main->ProjectList->SetItemIndex(static_cast<int>(About - Forms.begin()));
-    PostMessageA(Main->ProjectList->Handle(), WM_KEYDOWN, VK_RETURN, 1);
-    Run();
-    ASSERT_NE(Main->Workspace().Active(), nullptr);
-    TakePicture(Main->Handle(), "1-project");
+    Designer.Main->Open(Folder.Name());
+    const TTexts Forms = LinesOf(*Designer.Main->ProjectList->Items());
+    Designer.OpenForm("AboutForm.dfm");
+    TakePicture(Designer.Main->Handle(), "1-project");
 
-    ChooseOnPalette("Quillmark", "FormTranslator");
-    Click(Surface(), 300, 240);
-    ASSERT_EQ(Model().Selection().front()->Name(), "FormTranslator1");
-    TInspector& Inspector = *Main->Inspector();
-    Inspector.Enter(Inspector.RowOf("Locale"), "1053");
-    TakePicture(Surface(), "2-placed");
-    TakePicture(Main->Handle(), "3-inspector");
+    Designer.Place("FormTranslator", 300, 240);
+    ASSERT_EQ(Designer.Model().Selection().front()->Name(), "FormTranslator1");
+    Designer.Enter("Locale", "1053");
+    TakePicture(Designer.Surface(), "2-placed");
+    TakePicture(Designer.Main->Handle(), "3-inspector");
 
     TFormUser User;
     for (const char* const Sibling : {"TranslatorGerman", "TranslatorJapanese", "TranslatorArabic"})
@@ -185,9 +117,9 @@ TEST_F(DesignedPackage, TranslatesAFormOfTheDemo)
         TakePicture(Editor.Handle(), "4-editor");
     });
     User.Click("BtnOK");
-    ChooseFirstVerb(User);
-    EXPECT_TRUE(Model().IsModified());
-    EXPECT_TRUE(Main->Workspace().SaveProject());
+    Designer.ChooseFirstVerb(User);
+    EXPECT_TRUE(Designer.Model().IsModified());
+    EXPECT_TRUE(Designer.Main->Workspace().SaveProject());
     EXPECT_NE(Folder.Read("AboutForm.dfm").find("'Caption='#39'Om programmet'#39"), std::string::npos);
 
     // Under a name that every shell takes as it is.
@@ -207,10 +139,10 @@ TEST_F(DesignedPackage, TranslatesAFormOfTheDemo)
 TEST_F(DesignedPackage, GlobalizesTheOpenProject)
 {
     Folder.Write("MainForm.dfm", "object MainForm: TMainForm\r\n  Caption = 'Editor'\r\nend\r\n");
-    Main->Open(Folder.Write("editor.obp", "[Project]\nName=Editor\n[Forms]\nMainForm.dfm\n"));
-    Main->Open(Folder.Name("MainForm.dfm"));
+    Designer.Main->Open(Folder.Write("editor.obp", "[Project]\nName=Editor\n[Forms]\nMainForm.dfm\n"));
+    Designer.Main->Open(Folder.Name("MainForm.dfm"));
     TFormUser User;
-    User.See("PnlProjectName", Main->Workspace().GetProjectName()).Click("BtnNext").Click("BtnNext");
+    User.See("PnlProjectName", Designer.Main->Workspace().GetProjectName()).Click("BtnNext").Click("BtnNext");
     User.Do([](TForm& Form) {
         auto& List = PartOf<TCheckListBox>(Form, "LstLocales");
         List.SetFocus();
@@ -219,12 +151,13 @@ TEST_F(DesignedPackage, GlobalizesTheOpenProject)
     User.Keys(" ").Click("BtnNext").Do([this](TForm& Wizard) { TakePicture(Wizard.Handle(), "5-wizard"); });
     User.Click("BtnFinish");
     User.Run<bool>([&] {
-        Main->MnuTools->Items(Main->MnuTools->Count() - 1)->Click();
+        Designer.Main->MnuTools->Items(Designer.Main->MnuTools->Count() - 1)->Click();
         return true;
     });
-    EXPECT_NE(Model().Bytes().find(": TFormTranslator"), std::string::npos) << Model().Bytes();
-    EXPECT_FALSE(Model().IsModified());
-    EXPECT_EQ(Folder.Read("MainForm.dfm"), Model().Bytes());
+    EXPECT_NE(Designer.Model().Bytes().find(": TFormTranslator"), std::string::npos)
+        << Designer.Model().Bytes();
+    EXPECT_FALSE(Designer.Model().IsModified());
+    EXPECT_EQ(Folder.Read("MainForm.dfm"), Designer.Model().Bytes());
 }
 
 } // namespace
