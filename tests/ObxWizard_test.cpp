@@ -10,7 +10,7 @@
 #include "RegistryScope.h"
 #include "editors/EditorLanguage.h"
 #include "editors/Editors.h"
-#include "editors/Help.h"
+#include "framework/design/Help.h"
 #include "framework/design/ToolServices.h"
 #include "framework/forms/ComboBoxes.h"
 #include "framework/forms/Labels.h"

@@ -1,7 +1,7 @@
 #include "wizard/ObxWizard.h"
 
 #include "editors/EditorLanguage.h"
-#include "editors/Help.h"
+#include "framework/design/Help.h"
 #include "framework/forms/ComboBoxes.h"
 #include "framework/forms/Dialogs.h"
 #include "framework/forms/Edits.h"
