@@ -41,6 +41,10 @@ public:
         std::ofstream(Path, std::ios::binary) << Content;
         return Name(File);
     }
+    void Remove(const std::string& File) const
+    {
+        std::filesystem::remove_all(FPath / std::u8string(File.begin(), File.end()));
+    }
     std::string Read(const std::string& File) const { return ReadWholeFile(Name(File)); }
 
     // Every file in it and what it holds.

@@ -228,7 +228,7 @@ TEST_F(Globalizer, KeepsTranslationsAndAddsTextsAndLanguages)
                 Form("MainForm.dfm").Root.FindChild("FormTranslatorSwedish")->Find("Translations.Strings"));
         }
         for (const char* const Name : {"editor.1053.txt", "editor.1041.txt", "sv.1053.txt"})
-            std::filesystem::remove(FFolder.Name(Name));
+            FFolder.Remove(Name);
     }
 }
 
@@ -317,7 +317,7 @@ TEST_F(Globalizer, DialogsCanBeTranslatedWithoutBeingShown)
                                     : "'TOpenDialog.Caption[1]='#39#214'&ppna'#39"),
                   std::string::npos)
             << Stored;
-        std::filesystem::remove(FFolder.Name("editor.1053.txt"));
+        FFolder.Remove("editor.1053.txt");
     }
 }
 
@@ -404,7 +404,7 @@ TEST_F(Globalizer, RefusesWhatDoesNotFitAndChangesNothing)
     EXPECT_EQ(PlanGlobalization(ScanProject(Project), Choices).ToWrite().size(), 2u);
     Choices.TranslationsFile = "Some.lng";
     EXPECT_THROW(PlanGlobalization(ScanProject(Project), Choices), EInvalidOperation);
-    std::filesystem::remove_all(FFolder.Name("sub"));
+    FFolder.Remove("sub");
 
     int Steps = 0;
     const auto Stop = [&](const std::string&, int Done, int Total) {
