@@ -191,9 +191,8 @@ TEST_F(DesignedPackage, TranslatesAFormOfTheDemo)
 
     const std::string Demo =
         ExtractFilePath(Application->ExeName()) + "demo" + ExtractFileExt(Application->ExeName());
-    // A command line that begins with a quotation mark would lose it on Windows.
-    const std::string Output = OutputOf("2>&1 \"" + Demo + "\" --forms \"" + Folder.Name() +
-                                        "\" --tour --out \"" + Folder.Name("out") + "\"");
+    const std::string Output = OutputOf("\"" + Demo + "\" --forms \"" + Folder.Name() + "\" --tour --out \"" +
+                                        Folder.Name("out") + "\"");
     EXPECT_NE(Output.find("Caption: 'About Booking Desk' -> 'Om programmet'"), std::string::npos) << Output;
 }
 
