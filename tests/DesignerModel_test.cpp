@@ -16,7 +16,7 @@
 #include "framework/rtl/Files.h"
 #include "framework/rtl/SysUtils.h"
 #include "framework/streaming/FormFile.h"
-#include "tools/FormFiles.h"
+#include "tests/RealForms.h"
 
 namespace {
 
@@ -36,56 +36,6 @@ protected:
     const TApplicationScope Scope;
     const TPackageScope Package;
 };
-
-// The real forms, every so many of them.
-std::vector<std::string> RealForms(size_t Step)
-{
-    std::vector<std::string> Folders{TEST_DATA};
-    std::error_code Ignored;
-    if (std::filesystem::is_directory(CORPUS, Ignored))
-        Folders.emplace_back(CORPUS);
-    const auto All = FormFilesOf(Folders);
-    std::vector<std::string> Result;
-    for (size_t I = 0; I < All.size(); I += Step)
-        Result.push_back(All[I]);
-    return Result;
-}
-
-std::vector<std::string> Lines(const std::string& Text)
-{
-    std::vector<std::string> Result{""};
-    for (const char Each : Text)
-        if (Each == '\n')
-            Result.emplace_back();
-        else
-            Result.back() += Each;
-    return Result;
-}
-
-// The lines of New that Old has differently; all of them when their number differs.
-std::vector<std::string> Differences(const std::string& Old, const std::string& New)
-{
-    const auto Before = Lines(Old), After = Lines(New);
-    if (Before.size() != After.size())
-        return After;
-    std::vector<std::string> Result;
-    for (size_t I = 0; I < After.size(); ++I)
-        if (Before[I] != After[I])
-            Result.push_back(After[I].substr(After[I].find_first_not_of(' ')));
-    return Result;
-}
-
-// A component whose Left the file gives.
-TComponent* Movable(TFormModel& Form)
-{
-    const TFormDocument Document = ReadForm(Form.Bytes());
-    for (const TFormObject& Each : Document.Root.Children())
-        if (const TFormValue* const Left = Each.FindValue("Left"); Left && Left->Is(TFormValueKind::Integer))
-            if (TComponent* const Component = Form.GetComponent(Each.Name());
-                Form.IsOwn(Component) && TFormModel::PlaceOf(*Component).left == Left->AsInteger())
-                return Component;
-    return nullptr;
-}
 
 constexpr const char* Booking = "object Booking: TBookingForm\r\n"
                                 "  Left = 0\r\n"

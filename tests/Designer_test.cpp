@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <set>
 
 #include "Obxc3/Obxc3.h"
 #include "Qft/Qft.h"
@@ -20,6 +21,7 @@
 #include "framework/streaming/FormFile.h"
 #include "orbilex_designer.h"
 #include "tests/FormUser.h"
+#include "tests/RealForms.h"
 #include "tests/RegistryScope.h"
 
 namespace {
@@ -583,6 +585,42 @@ TEST_F(Designer, KeepsBinaryFormFiles)
     EXPECT_EQ(ReadForm(Saved).Format, TFormFormat::Binary);
 }
 
+// Forms with classes that nobody has here: shown, moved by a key, and saved.
+TEST_F(Designer, KeepsRealFormsAsTheyAre)
+{
+    const std::set<std::string> Places{"left", "top", "width", "height", "clientwidth", "clientheight"};
+    int Moved = 0;
+    for (const std::string& Real : RealForms(19)) {
+        SCOPED_TRACE(Real);
+        const std::string Original = ReadWholeFile(Real);
+        if (ReadForm(Original).Format != TFormFormat::Text)
+            continue;
+        const std::string Copy = Folder + "/" + ExtractFileName(Real);
+        ReplaceWholeFile(Copy, Original);
+        Main->Open(Copy);
+        ASSERT_EQ(ExtractFileName(Model().FileName()), ExtractFileName(Real));
+        EXPECT_EQ(Bytes(), Original);
+        if (TComponent* const Component = Movable(Model())) {
+            ++Moved;
+            const int Left = TFormModel::PlaceOf(*Component).left + 1;
+            Model().SelectComponent(Component);
+            Key(VK_RIGHT, VK_CONTROL);
+            Main->MnuSaveClick(nullptr);
+            const auto Changed = Differences(Original, ReadWholeFile(Copy));
+            bool HasMoved = false;
+            for (const std::string& Line : Changed) {
+                // Others may be laid out anew beside it.
+                const std::string Name = LowerCase(Line.substr(0, Line.find(' ')));
+                EXPECT_TRUE(Places.contains(Name)) << Line;
+                HasMoved = HasMoved || LowerCase(Trim(Line)) == "left = " + IntToStr(Left);
+            }
+            EXPECT_TRUE(HasMoved);
+        }
+        Main->MnuCloseClick(nullptr);
+    }
+    EXPECT_GT(Moved, 0);
+}
+
 // By the window's own button, its menu, or another program.
 TEST_F(Designer, AsksWhenAWindowIsClosed)
 {
@@ -638,6 +676,8 @@ TEST_F(Designer, KeepsFormsAsideAndItsOwnPlace)
     Application->CreateForm(Main);
     Main->Show();
     EXPECT_EQ(PlaceOf(*Main), "30,20,640,500");
+    Main->SetBounds(Window.left, Window.top, Window.right - Window.left, Window.bottom - Window.top);
+    Main->Close();
 }
 
 TEST_F(Designer, AsksBeforeChangesAreLost)
