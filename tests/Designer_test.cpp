@@ -336,6 +336,17 @@ TEST_F(Designer, EditsInPlace)
     EXPECT_EQ(Inspector.ValueAt(Row + 1), Other);
     ClickRow(Row);
     EXPECT_EQ(Control("Box").Text(), "Barrels");
+
+    // What is chosen in a list stays there to be seen, and is not taken twice.
+    const int ListRow = Inspector.RowOf("BiDiMode");
+    ClickRow(ListRow);
+    for (int Pass = 0; Pass < 2; ++Pass)
+        PostMessageA(Inspector.List()->Handle(), WM_KEYDOWN, VK_DOWN, 1);
+    Run();
+    EXPECT_EQ(Inspector.ValueAt(ListRow), "bdRightToLeft");
+    EXPECT_EQ(Inspector.List()->Text(), "bdRightToLeft");
+    ClickRow(Row);
+    EXPECT_EQ(Inspector.ValueAt(ListRow), "bdRightToLeft");
     EXPECT_EQ(Error, "");
 }
 
