@@ -30,7 +30,7 @@ endif()
 set(ORBILEX_FORMS_SCRIPT ${CMAKE_CURRENT_LIST_FILE} CACHE INTERNAL "")
 
 function(orbilex_embed_forms Target Folder)
-    set(Made ${CMAKE_CURRENT_BINARY_DIR}/${Target})
+    set(Made ${CMAKE_CURRENT_BINARY_DIR}/${Target}.forms)
     string(REGEX MATCHALL "[a-z0-9]+" Words ${Target})
     set(Function Register)
     foreach(Word ${Words})

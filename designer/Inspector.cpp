@@ -211,9 +211,7 @@ void TInspector::ShowRow()
             [&](const std::string& Each) { Values.push_back(Each); });
         if (Attributes.Contains(paSortList))
             std::ranges::sort(Values);
-        FList->Items()->Clear();
-        for (const std::string& Each : Values)
-            FList->Items()->Add(Each);
+        ShowChoices(Values);
         FList->SetText(ValueAt(Row()));
     } else if (HasRow) {
         FEdit->SetText(ValueAt(Row()));
@@ -222,6 +220,17 @@ void TInspector::ShowRow()
     }
     PlaceEditors();
     FShowing = false;
+}
+
+// Only when they differ: a list that is emptied while the user chooses from it has
+// nothing to show as chosen.
+void TInspector::ShowChoices(const std::vector<std::string>& Values)
+{
+    TStringList Lines;
+    for (const std::string& Each : Values)
+        Lines.Add(Each);
+    if (!FList->Items()->Equals(Lines))
+        FList->Items()->Assign(&Lines);
 }
 
 void TInspector::PlaceEditors()

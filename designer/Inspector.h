@@ -65,6 +65,7 @@ private:
     bool IsExpandable(const TRow& Row) const;
     bool IsReadOnly(const TRow& Row) const;
     void ShowRow();
+    void ShowChoices(const std::vector<std::string>& Values);
     void PlaceEditors();
     // Runs what may change everything, and shows the outcome.
     void Guard(const std::function<void()>& Act);

@@ -498,11 +498,14 @@ TEST_F(Designer, EditsInPlace)
     TInspector& Inspector = *Main->Inspector();
     std::string Error;
     Inspector.OnError = [&](const std::string& Text) { Error = Text; };
+    const auto ClickRow = [&](int Each) {
+        const TRect Place = Inspector.CellRect(1, Each);
+        Post(WM_LBUTTONDOWN, {Inspector.Handle(), {Place.left + 5, Place.top + 5}}, MK_LBUTTON);
+        Post(WM_LBUTTONUP, {Inspector.Handle(), {Place.left + 5, Place.top + 5}});
+    };
     // A value stays in its row when the user goes to another one.
     for (const char* const Each : {"Caption", "Align", "BevelWidth", "Alignment", "BevelInner", "Caption"}) {
-        const TRect Cell = Inspector.CellRect(1, Inspector.RowOf(Each));
-        Post(WM_LBUTTONDOWN, {Inspector.Handle(), {Cell.left + 5, Cell.top + 5}}, MK_LBUTTON);
-        Post(WM_LBUTTONUP, {Inspector.Handle(), {Cell.left + 5, Cell.top + 5}});
+        ClickRow(Inspector.RowOf(Each));
         EXPECT_EQ(Inspector.NameAt(Inspector.Row()), Each);
         EXPECT_EQ(Bytes(), Order) << Each;
         EXPECT_EQ(Error, "") << Each;
@@ -514,11 +517,31 @@ TEST_F(Designer, EditsInPlace)
     EXPECT_EQ(Control("Box").Text(), "Crates");
     EXPECT_NE(Bytes().find("Caption = 'Crates'\r\n"), std::string::npos);
 
+    const int Row = Inspector.RowOf("Caption");
+    ClickRow(Row);
+    Inspector.Editor()->SetText("Barrels");
+    const std::string Other = Inspector.ValueAt(Row + 1);
+    ClickRow(Row + 1);
+    EXPECT_EQ(Control("Box").Text(), "Barrels");
+    EXPECT_EQ(Inspector.ValueAt(Row + 1), Other);
+    ClickRow(Row);
+    EXPECT_EQ(Control("Box").Text(), "Barrels");
+
+    // What is chosen in a list stays there to be seen, and is not taken twice.
+    const int ListRow = Inspector.RowOf("BiDiMode");
+    ClickRow(ListRow);
+    for (int Pass = 0; Pass < 2; ++Pass)
+        PostMessageA(Inspector.List()->Handle(), WM_KEYDOWN, VK_DOWN, 1);
+    Run();
+    EXPECT_EQ(Inspector.ValueAt(ListRow), "bdRightToLeft");
+    EXPECT_EQ(Inspector.List()->Text(), "bdRightToLeft");
+    ClickRow(Row);
+    EXPECT_EQ(Inspector.ValueAt(ListRow), "bdRightToLeft");
+    EXPECT_EQ(Error, "");
+
     // The second click of a double click comes to the edit that the first one brought up.
     Inspector.SetEvents(true);
-    const TRect Cell = Inspector.CellRect(1, Inspector.RowOf("OnEnter"));
-    Post(WM_LBUTTONDOWN, {Inspector.Handle(), {Cell.left + 5, Cell.top + 5}}, MK_LBUTTON);
-    Post(WM_LBUTTONUP, {Inspector.Handle(), {Cell.left + 5, Cell.top + 5}});
+    ClickRow(Inspector.RowOf("OnEnter"));
     Post(WM_LBUTTONDOWN, {Inspector.Editor()->Handle(), {3, 3}}, MK_LBUTTON);
     Post(WM_LBUTTONUP, {Inspector.Editor()->Handle(), {3, 3}});
     EXPECT_NE(Bytes().find("    OnEnter = BoxEnter\r\n"), std::string::npos) << Bytes();
