@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "framework/design/ProjectWriter.h"
 #include "framework/rtl/SysUtils.h"
 #include "framework/streaming/FormFile.h"
 
@@ -56,9 +57,11 @@ TWorkspace::~TWorkspace()
 
 bool TWorkspace::OpenProject(const std::string& FileOrFolder)
 {
-    const TProject Wanted = ::OpenProject(FileOrFolder);
+    TProject Wanted = ::OpenProject(FileOrFolder);
     if (!CloseAll())
         return false;
+    if (RecoverProject(Wanted.FileName))
+        Wanted = ::OpenProject(FileOrFolder);
     FProject = Wanted;
     Tell(OnProject);
     return true;

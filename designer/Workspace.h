@@ -30,7 +30,8 @@ public:
 
     const TProject& Project() const { return FProject; }
     // The project takes the place of the present one, whose forms are closed. False when
-    // the user keeps them. Errors: as ReadProject and OpenProjectFolder.
+    // the user keeps them. What a program that was killed while it wrote the
+    // project has left is put right first. Errors: as ReadProject, OpenProjectFolder and RecoverProject.
     bool OpenProject(const std::string& FileOrFolder);
     bool NewProject(const std::string& FileName);
 

@@ -737,6 +737,22 @@ TEST_F(Designer, TellsWhereAFormIsDamaged)
     EXPECT_EQ(Main->Workspace().Designs().size(), 1U);
 }
 
+// A program was killed while it put new forms in place.
+TEST_F(Designer, PutsProjectsRightThatAreHalfWritten)
+{
+    const std::string Project = Folder + "/half/orders.obp";
+    const std::string Form = Folder + "/half/OrderForm.dfm";
+    std::filesystem::create_directories(Folder + "/half");
+    ReplaceWholeFile(Project, "[Project]\r\nName=Orders\r\n\r\n[Forms]\r\nOrderForm.dfm\r\n");
+    ReplaceWholeFile(Form, "object OrderForm: TOrderForm\r\nend\r\n");
+    ReplaceWholeFile(Form + ".old~", Order);
+    ReplaceWholeFile(Folder + "/half/.orbilex-journal", "Orbilex journal 1\nplace\nold OrderForm.dfm\n");
+    Main->Open(Project);
+    EXPECT_EQ(ReadWholeFile(Form), Order);
+    EXPECT_FALSE(FileExists(Form + ".old~"));
+    EXPECT_FALSE(FileExists(Folder + "/half/.orbilex-journal"));
+}
+
 TEST_F(Designer, WorksOnProjects)
 {
     const std::string Project = Folder + "/orders.obp";

@@ -2,9 +2,9 @@
 // is to be.
 #include <gtest/gtest.h>
 
+#include "framework/design/ProjectWriter.h"
 #include "framework/rtl/Exceptions.h"
 #include "tests/Folder.h"
-#include "wizard/ProjectWriter.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // Globalizes projects: puts translators on their forms and fills them with the texts
 // found. Start here; a wizard or command does it in four steps:
 //
-//     RecoverProject(Project.FileName);                          ProjectWriter.h
+//     RecoverProject(Project.FileName);                          framework/design/ProjectWriter.h
 //     const TProjectScan Scan = ScanProject(Project, CodePage);  ProjectScan.h
 //     const TProjectChanges Changes = PlanGlobalization(Scan, Choices);
 //     WriteChanges(Changes);

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "framework/design/ProjectWriter.h"
 #include "wizard/ProjectScan.h"
-#include "wizard/ProjectWriter.h"
 #include "wizard/TranslatorLines.h"
 
 // What is to be done with one file, or was.

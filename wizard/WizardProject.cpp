@@ -3,6 +3,7 @@
 
 #include "WizardTexts.h"
 #include "core/Hourglass.h"
+#include "framework/design/ProjectWriter.h"
 #include "framework/design/ToolServices.h"
 #include "framework/forms/ComboBoxes.h"
 #include "framework/forms/Dialogs.h"
@@ -17,7 +18,6 @@
 #include "framework/streaming/FormNames.h"
 #include "wizard/ChangeReport.h"
 #include "wizard/ObxWizard.h"
-#include "wizard/ProjectWriter.h"
 #include "wizard/SourceParser.h"
 
 namespace {

@@ -1,9 +1,9 @@
-#include "wizard/ProjectWriter.h"
+#include "framework/design/ProjectWriter.h"
 
 #include <algorithm>
 #include <filesystem>
+#include <sstream>
 
-#include "core/LineSplitter.h"
 #include "framework/rtl/Files.h"
 #include "framework/rtl/RtlConsts.h"
 #include "framework/rtl/SysUtils.h"
@@ -90,11 +90,10 @@ public:
     {
         if (!FileExists(FName))
             return false;
-        const std::string Text = ReadWholeFile(FName);
-        TLineSplitter Lines(Text);
-        std::string_view Line;
-        for (int Number = 1; Lines.Next(Line); ++Number)
-            if (!Take(Number, std::string(Line)))
+        std::istringstream Lines(ReadWholeFile(FName));
+        std::string Line;
+        for (int Number = 1; std::getline(Lines, Line); ++Number)
+            if (!Take(Number, Line))
                 throw EParserError(FName + ":" + IntToStr(Number) + ": this is no journal of a project");
         return true;
     }
