@@ -80,6 +80,8 @@ void LoadPackages(TPackages& Packages, const TOptions& Options)
     if (!Options.Packages.empty())
         return;
     const std::string Errors = Packages.LoadRemembered();
+    if (!Errors.empty() && Options.Tour)
+        throw EPackageError(Errors);
     if (!Errors.empty())
         MessageDlg(Errors, mtWarning, {mbOK}, 0);
 }
@@ -97,10 +99,14 @@ int RunDesigner(const TOptions& Options)
     TDesignerForm* Designer = nullptr;
     Application->CreateForm(Designer);
     Designer->SetPackages(Packages);
+    if (Options.Tour) {
+        // Nobody is there to answer messages: errors end the program.
+        for (const std::string& Each : Options.Paths)
+            Designer->Workspace().Open(Each);
+        return TakePictures(*Designer, Options.Folder);
+    }
     for (const std::string& Each : Options.Paths)
         Designer->Open(Each);
-    if (Options.Tour)
-        return TakePictures(*Designer, Options.Folder);
     Application->Run();
     return 0;
 }

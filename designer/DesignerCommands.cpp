@@ -43,7 +43,7 @@ void TDesignerForm::MnuLoadPackageClick(TObject*)
         return;
     Try([&] {
         FPackages->Load(DlgOpenPackage->FileName());
-        FPackages->Remember();
+        TPackages::Remember(DlgOpenPackage->FileName());
     });
     FPalette->Rebuild();
     ShowExperts();

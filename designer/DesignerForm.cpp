@@ -155,12 +155,7 @@ void TDesignerForm::ShowError(const std::string& Text)
 
 void TDesignerForm::Open(const std::string& Path)
 {
-    Try([&] {
-        if (IsFormFileName(Path))
-            FWorkspace.OpenForm(Path);
-        else
-            FWorkspace.OpenProject(Path);
-    });
+    Try([&] { FWorkspace.Open(Path); });
 }
 
 bool TDesignerForm::CloseQuery()

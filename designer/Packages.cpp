@@ -9,6 +9,7 @@ namespace {
 
 constexpr const char* Section = "Designer";
 constexpr const char* Value = "Packages";
+constexpr const char* OwnPackage = "Obxc3";
 
 using TProcedure = void (*)();
 
@@ -17,13 +18,23 @@ TProcedure FindExport(HMODULE Module, const char* Name)
     return reinterpret_cast<TProcedure>(GetProcAddress(Module, Name));
 }
 
+void Unregister(HMODULE Module)
+{
+    if (const TProcedure Call = FindExport(Module, "Unregister"))
+        Call();
+}
+
+std::string RememberedNames()
+{
+    return TRegIniFile("Software\\Quillmark").ReadString(Section, Value, OwnPackage);
+}
+
 } // namespace
 
 TPackages::~TPackages()
 {
     for (auto Each = FLoaded.rbegin(); Each != FLoaded.rend(); ++Each)
-        if (const TProcedure Unregister = FindExport(Each->Module, "Unregister"))
-            Unregister();
+        Unregister(Each->Module);
 }
 
 void TPackages::Load(const std::string& Name)
@@ -43,13 +54,18 @@ void TPackages::Load(const std::string& Name)
         FreeLibrary(Module);
         throw EPackageError(Name + " is no package: it has no Register");
     }
-    Register();
+    try {
+        Register();
+    } catch (...) {
+        Unregister(Module);
+        throw;
+    }
     FLoaded.push_back({Name, Module});
 }
 
 std::string TPackages::LoadRemembered()
 {
-    std::string Names = TRegIniFile("Software\\Quillmark").ReadString(Section, Value, "Obxc3");
+    std::string Names = RememberedNames();
     std::string Errors;
     while (!Names.empty()) {
         const std::string Name = Names.substr(0, Names.find(';'));
@@ -63,10 +79,10 @@ std::string TPackages::LoadRemembered()
     return Errors;
 }
 
-void TPackages::Remember() const
+void TPackages::Remember(const std::string& Name)
 {
-    std::string Names;
-    for (const TPackage& Each : FLoaded)
-        Names += (Names.empty() ? "" : ";") + Each.Name;
-    TRegIniFile("Software\\Quillmark").WriteString(Section, Value, Names);
+    const std::string Names = RememberedNames();
+    if ((";" + Names + ";").find(";" + Name + ";") == Names.npos)
+        TRegIniFile("Software\\Quillmark")
+            .WriteString(Section, Value, Names.empty() ? Name : Names + ";" + Name);
 }

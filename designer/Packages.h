@@ -25,10 +25,10 @@ public:
     // or is no package, and what its Register throws.
     void Load(const std::string& Name);
 
-    // Those that the user has added, and at first the package beside the program. The
-    // names are kept in the registry. Gives what went wrong, a line a package.
+    // The package beside the program and those that Remember has added. The names are
+    // kept in the registry. Gives what went wrong, a line a package.
     std::string LoadRemembered();
-    void Remember() const;
+    static void Remember(const std::string& Name);
 
 private:
     struct TPackage {

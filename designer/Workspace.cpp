@@ -36,9 +36,11 @@ std::string FullNameOf(const std::string& FileName)
     return {Full.begin(), Full.end()};
 }
 
-std::string RelativeName(const std::string& FileName, const std::string& Folder)
+// As project files have it.
+std::string NameInProject(const std::string& FullName, const TProject& Project)
 {
-    std::string Result = FileName.starts_with(Folder) ? FileName.substr(Folder.size()) : FileName;
+    const std::string Folder = FullNameOf(ExtractFilePath(Project.FileName));
+    std::string Result = FullName.starts_with(Folder) ? FullName.substr(Folder.size()) : FullName;
     std::ranges::replace(Result, '\\', '/');
     return Result;
 }
@@ -53,6 +55,14 @@ TWorkspace::TWorkspace()
 TWorkspace::~TWorkspace()
 {
     ToolServices = nullptr;
+}
+
+void TWorkspace::Open(const std::string& Path)
+{
+    if (IsFormFileName(Path))
+        OpenForm(Path);
+    else
+        OpenProject(Path);
 }
 
 bool TWorkspace::OpenProject(const std::string& FileOrFolder)
@@ -96,8 +106,10 @@ TDesign& TWorkspace::NewForm(const std::string& FileName)
     const std::string Full = FullNameOf(FileName);
     TDesign& Result = Add(std::make_unique<TFormModel>(Full, NewDocument(Full)));
     if (!FProject.FileName.empty()) {
-        FProject.Forms.push_back(RelativeName(Full, ExtractFilePath(FProject.FileName)));
-        WriteProject(FProject);
+        FProject.Forms.push_back(NameInProject(Full, FProject));
+        // An opened folder has no project file, and finds its forms by itself.
+        if (FileExists(FProject.FileName))
+            WriteProject(FProject);
         Tell(OnProject);
     }
     return Result;
@@ -229,7 +241,6 @@ bool TWorkspace::SaveProject()
     return SaveAll();
 }
 
-// Forms that are open keep their windows' places only by chance: they are read anew.
 void TWorkspace::ReloadProject()
 {
     // New windows would take the input from the modal form.

@@ -29,6 +29,8 @@ public:
     TWorkspace& operator=(const TWorkspace&) = delete;
 
     const TProject& Project() const { return FProject; }
+    // A form, a project file or a folder. Errors: as OpenForm and OpenProject.
+    void Open(const std::string& Path);
     // The project takes the place of the present one, whose forms are closed. False when
     // the user keeps them. What a program that was killed while it wrote the
     // project has left is put right first. Errors: as ReadProject, OpenProjectFolder and RecoverProject.

@@ -92,6 +92,18 @@ TEST_F(DesignedPackage, TellsWhatIsNoPackage)
         }
 }
 
+// Also those that cannot be loaded are tried again the next time, and told.
+TEST_F(DesignedPackage, RemembersPackages)
+{
+    for (const char* const Name : {"no-such-package", "Obxc3", "no-such-package"})
+        TPackages::Remember(Name);
+    Designer.Packages.reset();
+    TPackages Next;
+    const std::string Errors = Next.LoadRemembered();
+    EXPECT_NE(Errors.find("no-such-package"), std::string::npos) << Errors;
+    EXPECT_EQ(std::ranges::count(Errors, '\n'), 1) << Errors;
+}
+
 // Places a form translator, translates a caption in its editor, saves, and runs the
 // program with the saved forms.
 TEST_F(DesignedPackage, TranslatesAFormOfTheDemo)

@@ -770,6 +770,21 @@ TEST_F(Designer, WorksOnProjects)
     ReplaceWholeFile(File, Order);
     ToolServices->ReloadProject();
     EXPECT_EQ(Bytes(), Order);
+
+    Main->Workspace().NewForm(Folder + "/NewForm.dfm");
+    EXPECT_EQ(ReadWholeFile(Project),
+              "[Project]\r\nName=Orders\r\n\r\n[Forms]\r\nOrderForm.dfm\r\nNewForm.dfm\r\n");
+}
+
+TEST_F(Designer, LeavesOpenedFoldersWithoutAProjectFile)
+{
+    std::filesystem::create_directories(Folder + "/plain");
+    ReplaceWholeFile(Folder + "/plain/OrderForm.dfm", Order);
+    Main->Open(Folder + "/plain");
+    Main->Workspace().NewForm(Folder + "/plain/NewForm.dfm");
+    EXPECT_EQ(LinesOf(*Main->ProjectList->Items()),
+              (std::vector<std::string>{"OrderForm.dfm", "NewForm.dfm"}));
+    EXPECT_FALSE(FileExists(Main->Workspace().Project().FileName));
 }
 
 } // namespace

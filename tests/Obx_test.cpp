@@ -113,6 +113,15 @@ TEST_F(Splash, FreesItselfWhoeverIsFirst)
     }
 }
 
+// The package was registered again while the first one is still shown.
+TEST_F(Splash, SeveralAreShownAtOnce)
+{
+    ShowSplash(true, true);
+    ShowSplash(true, true);
+    EXPECT_NE(Application->FindComponent("FormSplash"), nullptr);
+    EXPECT_NE(Application->FindComponent("FormSplash_1"), nullptr);
+}
+
 TEST_F(Splash, AClickFreesItAtOnce)
 {
     ShowSplash(true, true);

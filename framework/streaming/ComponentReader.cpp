@@ -66,6 +66,15 @@ int64_t CharacterOf(const TFormValue& Value)
     RaiseInvalidValue();
 }
 
+// A form may be there several times: OrderForm, OrderForm_1, OrderForm_2.
+std::string FreeName(const TComponent* Owner, const std::string& Name)
+{
+    std::string Result = Name;
+    for (int Number = 1; Owner && !Name.empty() && Owner->FindComponent(Result); ++Number)
+        Result = Name + "_" + IntToStr(Number);
+    return Result;
+}
+
 } // namespace
 
 TComponentReader::TComponentReader(const TFormDocument& Document, TUnknownClasses UnknownClasses,
@@ -93,7 +102,7 @@ void TComponentReader::ReadAll()
         FRoot->NeedDynamicProperties().SetClass(&GenericClass(Source.ClassName(), Declared));
     FRoot->SetLoading(true);
     if (FRoot->Name().empty())
-        FRoot->SetName(Source.Name());
+        FRoot->SetName(FreeName(FRoot->Owner(), Source.Name()));
     ReadObject(*FRoot, Source, *FRoot);
     ResolveReferences();
     const std::vector<TComponent*> All = FComponents;

@@ -37,7 +37,8 @@ public:
                      TStandInMaker MakeStandIn = {});
 
     // Reads the file's root into Root, which exists already, and makes the
-    // components inside it, owned by Root. Sets Root's name when it has none.
+    // components inside it, owned by Root. A Root without a name gets the file's, with a
+    // number when its owner has a component of that name: Order_1.
     void ReadRoot(TComponent& Root);
 
     // The components in the order of the file, the root first: one for each
